@@ -1,0 +1,27 @@
+# Finds the polygon clipping library (Debian: libpolyclipping-dev) and defines
+# Polyclipping::Polyclipping. Only its 6.4 releases give the exact results that the
+# polygons promise.
+
+find_path(Polyclipping_INCLUDE_DIR NAMES clipper.hpp PATH_SUFFIXES polyclipping)
+find_library(Polyclipping_LIBRARY NAMES polyclipping)
+
+if(Polyclipping_INCLUDE_DIR)
+  file(STRINGS "${Polyclipping_INCLUDE_DIR}/clipper.hpp" version_line
+       REGEX "#define CLIPPER_VERSION")
+  string(REGEX MATCH "[0-9]+(\\.[0-9]+)+" Polyclipping_VERSION "${version_line}")
+endif()
+
+include(FindPackageHandleStandardArgs)
+find_package_handle_standard_args(
+  Polyclipping
+  REQUIRED_VARS Polyclipping_LIBRARY Polyclipping_INCLUDE_DIR
+  VERSION_VAR Polyclipping_VERSION)
+
+if(Polyclipping_FOUND AND NOT TARGET Polyclipping::Polyclipping)
+  add_library(Polyclipping::Polyclipping UNKNOWN IMPORTED)
+  set_target_properties(
+    Polyclipping::Polyclipping
+    PROPERTIES IMPORTED_LOCATION "${Polyclipping_LIBRARY}"
+               INTERFACE_INCLUDE_DIRECTORIES "${Polyclipping_INCLUDE_DIR}")
+endif()
+mark_as_advanced(Polyclipping_INCLUDE_DIR Polyclipping_LIBRARY)

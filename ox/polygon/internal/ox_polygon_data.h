@@ -1,0 +1,71 @@
+#ifndef OX_POLYGON_INTERNAL_OX_POLYGON_DATA_H
+#define OX_POLYGON_INTERNAL_OX_POLYGON_DATA_H
+
+#include <ox/core/ox_list.h>
+#include <ox/geometry/ox_3dvector.h>
+#include <ox/geometry/ox_box.h>
+
+namespace ox {
+
+/// What a boolean operation keeps of the two regions.
+enum class boolean_operation { unite, subtract, intersect };
+
+/// The record behind an `ox_polygon`. Its operations do what the polygon's do, for the code that
+/// works on several polygons at once.
+struct ox_polygon_data {
+    bool plane_defined = false;
+    ox_3dvector point;  ///< of the plane, and the origin of the frame
+    ox_3dvector normal; ///< unit length unless a transformation scaled it
+    ox_3dvector dx;     ///< in-plane axes; (dx, dy, normal) is right-handed
+    ox_3dvector dy;
+    ox_list<ox_3dvector> pending_vertices; ///< of the contours added since the last merge
+    ox_list<unsigned int> pending_sizes;
+    bool contours_computed = false; ///< the pending contours have been merged
+    ox_list<ox_3dvector> contour_vertices;
+    ox_list<unsigned int> contour_sizes;
+    ox_list<bool> contour_orientations; ///< true for an outer boundary, false for a hole
+    ox_list<int> contour_parents;       ///< -1 at the top level
+    ox_box bounding_box;                ///< empty while unknown
+    bool best_center_computed = false;
+    ox_3dvector best_center;
+    bool tesselation_computed = false;
+    ox_list<ox_3dvector> tesselation_vertices;
+    ox_list<unsigned int> tesselation_triangles;
+    float area = 0.0f;
+
+    /// Merges the pending contours: the head of every query.
+    void compute_contours();
+
+    /// Merges the pending contours, then brings triangles and area up to date.
+    void compute_tesselation();
+
+    /// Sets the plane through `new_point` with `new_normal` (any length; one shorter than the
+    /// tolerance is refused after the point was stored) and projects what is computed on it.
+    void set_plane(const ox_3dvector& new_point, const ox_3dvector& new_normal);
+
+    /// Empties the polygon and forgets its plane.
+    void clear();
+
+    /// Combines the normalised contours with those of `other`, on this plane; both must have
+    /// been merged. No operand is checked for being empty. Results outside what the clipping
+    /// library can do leave this polygon without contours.
+    void combine(const ox_polygon_data& other, boolean_operation operation);
+
+    /// Appends a contour to the normalised ones as it stands. The caller forgets the derived
+    /// values afterwards.
+    void append_contour(const ox_3dvector* vertices, unsigned int size, bool outer, int parent);
+
+    /// Empties the four lists of the normalised contours.
+    void clear_contours();
+
+    /// To be called after every change of the normalised contours: their triangles and their
+    /// bounding box are no longer known.
+    void forget_derived();
+
+    /// A deep copy of this record, merged first; the bounding box is left to be found anew.
+    ox_polygon_data* copy();
+};
+
+} // namespace ox
+
+#endif

@@ -1,0 +1,274 @@
+#ifndef OX_POLYGON_OX_POLYGON_H
+#define OX_POLYGON_OX_POLYGON_H
+
+#include <ox/core/ox_export.h>
+#include <ox/core/ox_list.h>
+#include <ox/geometry/ox_3dvector.h>
+#include <ox/geometry/ox_box.h>
+#include <ox/geometry/ox_matrix.h>
+
+namespace ox {
+
+struct ox_polygon_data;
+
+/// A planar region: one plane (a point and a normal) and closed contours in it, which together
+/// bound the region, with holes and with islands inside holes.
+///
+/// Contours are added in any direction and with any overlap. The first query merges what was
+/// added since the last one: the even-odd union of all contours becomes a set of contours that
+/// do not overlap, each marked as outer boundary or hole and linked to the contour around it.
+/// Regions covered an even number of times drop out, so a contour inside another is a hole of
+/// it, and two overlapping contours leave their symmetric difference.
+///
+/// Frame: the plane carries an orthonormal frame (dx, dy) with its origin in the plane's point.
+/// Merging, booleans and offset work on integers of 0.0001 model units in that frame, so their
+/// vertices are rounded to that grid and lie on the plane.
+///
+/// Invariants of a queried polygon:
+/// - sizes, orientations and parents have one entry per contour, and the sizes sum to the number
+///   of vertices;
+/// - the index of a contour's parent is smaller than its own;
+/// - outer boundaries run counter-clockwise and holes clockwise, seen from the side that the
+///   normal points to.
+///
+/// Laziness: contours, bounding box, tessellation with area, and best centre are computed on
+/// the first query and kept until a change. References returned by queries stay valid until
+/// then. Queries fill caches, const ones too: one polygon must not be used by two threads at
+/// once.
+///
+/// Degenerate input (nothing is reported, nothing throws but a failed allocation):
+/// - an empty contour: ignored;
+/// - fewer than three added vertices in total: dropped, the contours stay as they were;
+/// - a contour of one or two vertices, of repeated or of collinear vertices: bounds nothing and
+///   vanishes in the merge;
+/// - exactly three added vertices, in one contour or in several: they replace all contours by
+///   that triangle, which is not projected on the plane;
+/// - a contour with a coordinate that is not a number, infinite or outside the integer grid
+///   (4.6e14 model units from the plane's point): dropped alone, the others stay;
+/// - a first contour without a plane of its own (summed cross products shorter than 0.000001):
+///   all pending contours are dropped and the plane stays undefined;
+/// - a plane of numbers that are not finite: the region is empty for as long as they stay.
+///
+/// Ownership: a polygon owns everything it holds; copies are deep.
+///
+/// \code
+/// ox::ox_list<ox::ox_3dvector> square;
+/// square.push_right(ox::ox_3dvector(0.0f, 0.0f, 0.0f));
+/// square.push_right(ox::ox_3dvector(1.0f, 0.0f, 0.0f));
+/// square.push_right(ox::ox_3dvector(1.0f, 1.0f, 0.0f));
+/// square.push_right(ox::ox_3dvector(0.0f, 1.0f, 0.0f));
+///
+/// ox::ox_polygon polygon;
+/// polygon.add_contour(square);
+/// float area = polygon.get_area();                 // 1, and the normal is (0, 0, 1)
+/// polygon.offset(0.5f, ox::ox_polygon::join_round);  // a rounded square, 2 wide
+/// \endcode
+class OX_EXPORT ox_polygon {
+public:
+    /// How `offset` joins the moved sides at a convex corner.
+    enum join {
+        join_square = 0, ///< cut off at a right angle, one offset distance from the corner
+        join_round = 1,  ///< arc around the corner
+        join_miter = 2,  ///< prolonged to their meeting point, cut off beyond twice the distance
+    };
+
+    // Construction and copying
+
+    /// Makes an empty polygon without a plane: the first contour will define it. O(1).
+    ox_polygon();
+
+    /// Makes an empty polygon in the plane through `point` with `normal`, which needs not be of
+    /// unit length. A normal shorter than 0.0001 is refused: the polygon then has no plane, and
+    /// `point` is kept.
+    ox_polygon(const ox_3dvector& point, const ox_3dvector& normal);
+
+    /// Copies deeply. The source is normalised first, so a copy always holds merged contours.
+    /// The tessellation is copied when the source has a valid one. O(n) after the merge.
+    ox_polygon(const ox_polygon& source);
+
+    /// Replaces this polygon by a copy, as the copy constructor makes it. Assignment to itself
+    /// does nothing.
+    ox_polygon& operator=(const ox_polygon& source);
+
+    /// Frees everything the polygon holds.
+    virtual ~ox_polygon();
+
+    // Building
+
+    /// Adds a closed contour (the last vertex is joined to the first); its direction does not
+    /// matter. The contour is merged by the next query, and projected on the plane then. An
+    /// empty list is ignored; see the class for other degenerate contours. O(n).
+    void add_contour(const ox_list<ox_3dvector>& vertices);
+
+    /// Removes all contours and forgets the plane. A computed best centre stays in place.
+    void clear();
+
+    /// Turns the plane about its point to the normal `normal`, of any length; one shorter than
+    /// 0.001 is ignored. The contours are projected on the new plane, and reversed when the new
+    /// normal points to the other side (negative dot product with the old one). O(n).
+    void set_normal(const ox_3dvector& normal);
+
+    /// Moves the plane to `point` and projects the contours on it. Without a plane only the
+    /// point is stored. O(n).
+    void set_point(const ox_3dvector& point);
+
+    /// Turns the polygon over: negates the normal and the frame's dy, and reverses all contours
+    /// and triangles. Area, bounding box and best centre are kept. O(n).
+    void reverse();
+
+    /// Transforms the plane's point and all contours as positions, the normal and the frame as
+    /// directions. The normal is not made of unit length again: a matrix that scales leaves a
+    /// plane that the caller should set anew. O(n).
+    void matrix_transform(ox_matrix& m);
+
+    // Contours
+
+    /// The vertices of all contours, contour after contour, in model units.
+    const ox_list<ox_3dvector>& get_contour_vertices();
+
+    /// The number of vertices of each contour.
+    const ox_list<unsigned int>& get_contour_sizes();
+
+    /// For each contour: true for an outer boundary, false for a hole.
+    const ox_list<bool>& get_contour_orientations();
+
+    /// For each contour: the index of the contour directly around it, -1 at the top level.
+    const ox_list<int>& get_contour_parents();
+
+    /// The number of outer boundaries, islands inside holes included. O(number of contours).
+    int count_outer_contours();
+
+    // Plane and measures
+
+    /// The normal of the plane; zero when no plane was ever defined. Merges added contours, so
+    /// the plane of a polygon made only of contours is known here.
+    const ox_3dvector& get_normal() const;
+
+    /// A point of the plane, the origin of the polygon's frame. Merges added contours.
+    const ox_3dvector& get_point() const;
+
+    /// The axis-aligned box around all contours; empty (negative x size) without contours. O(n)
+    /// at the first call after a change.
+    const ox_box& get_bounding_box();
+
+    /// The length of all contours, holes included, in model units: each contour's edges added
+    /// in order, its closing edge last. O(n).
+    float get_perimeter();
+
+    /// The area of the region in squared model units: the sum of the areas of its triangles.
+    float get_area();
+
+    /// A point well inside the region, for labels: the candidate of a shrinking grid (steps 0.5
+    /// to 0.0625 model units) that lies farthest from the outline, less a tenth of its distance
+    /// to the middle of the bounds. `get_point()` when there is no contour. The result is kept
+    /// until the next contours are merged: booleans, offsets, changes of the plane,
+    /// transformations and `clear` leave it in place.
+    const ox_3dvector& get_best_center();
+
+    /// Tells whether the projection of `p` on the plane lies inside the region, by counting
+    /// crossings of a line through it along dx. No tolerance; `p`'s distance from the plane is
+    /// ignored. O(n).
+    bool contains(const ox_3dvector& p);
+
+    // Tessellation
+
+    /// The vertices of the triangles. Each primitive of the tessellator has vertices of its own,
+    /// so a contour vertex may occur several times.
+    const ox_list<ox_3dvector>& get_tesselation_vertices();
+
+    /// Three indices into `get_tesselation_vertices()` per triangle; every triangle runs
+    /// counter-clockwise about the normal.
+    const ox_list<unsigned int>& get_tesselation_triangles();
+
+    // Booleans and offset, in place
+
+    /// Adds the region of `other`, whose contours are projected on this plane. Does nothing when
+    /// `other` has no contour. A polygon without a plane takes the plane of `other` first.
+    /// When an operand leads outside the integer grid, its contours that do are left out.
+    void unites(const ox_polygon& other);
+
+    /// Removes the region of `other`. Does nothing when either polygon has no contour.
+    void substracts(const ox_polygon& other);
+
+    /// Keeps what lies in `other` as well. Does nothing when this polygon has no contour; one
+    /// without contours as `other` clears this polygon, its plane included.
+    void intersects(const ox_polygon& other);
+
+    /// Grows (positive distance, model units) or shrinks (negative) the region: outlines move
+    /// outwards, holes shrink. `join_type` is one of `join`; every other value is read as
+    /// `join_square`. A distance that is not finite, or that leads outside the integer grid or
+    /// beyond the largest supported offset (100,000 model units), leaves no contour when it is
+    /// negative and the polygon unchanged otherwise.
+    void offset(float distance, int join_type);
+
+    // Cutting and splitting
+
+    /// Cuts the polygon by the plane through `point` with `normal`: returns the piece on the
+    /// side the normal points to and, with `both_sides`, the piece behind as second. A piece may
+    /// come back without contours. Where nothing is to be cut (parallel planes, or the polygon
+    /// lies wholly on one side that is asked for) the list holds this polygon itself; a list
+    /// that holds another pointer gives the caller a new polygon to delete. Wholly behind and
+    /// without `both_sides`: empty list.
+    ox_list<ox_polygon*> cut_by_plane(const ox_3dvector& point, const ox_3dvector& normal,
+                                      bool both_sides);
+
+    /// The points where the line in which this plane meets the plane through `point` with
+    /// `normal` enters and leaves the polygon, in order along it: each pair bounds one stretch
+    /// inside. Empty for planes that are parallel (|dot| of the normals above 0.999) and for
+    /// crossings that do not alternate. O(n log n).
+    ox_list<ox_3dvector> intersect_by_plane(const ox_3dvector& point, const ox_3dvector& normal);
+
+    /// Makes one new polygon per outer boundary, with the holes directly inside it; the caller
+    /// deletes them. A hole keeps its parent's index in this polygon. With fewer than two outer
+    /// boundaries the list holds this polygon itself, which must not be deleted.
+    ox_list<ox_polygon*> split_to_polygons();
+
+    /// Returns a list that holds this polygon itself when it is one convex contour, otherwise an
+    /// empty list: the polygon was not split.
+    ox_list<ox_polygon*> split_to_convex_polygons();
+
+    /// Tells whether a contour is convex (collinear vertices are allowed). A negative index
+    /// means the only contour, and gives false when there are several. The vertices looked at
+    /// are always those from the first of the whole polygon on, as many as the contour has.
+    /// False for an index out of range. O(n).
+    bool is_convex(int contour);
+
+    /// Quick rejection: false when `box` is farther than 0.0001 model units from the bounding
+    /// box along some axis.
+    bool may_intersect(const ox_box& box);
+
+    // Drawing (with the OpenGL context of the calling thread)
+
+    /// Draws the triangles with the polygon's normal, in the current colour. Nothing without
+    /// triangles.
+    void draw_opengl();
+
+    /// Draws every contour as a closed line in the current colour and, `with_points`, its
+    /// vertices as points of 5 pixels. No OpenGL call without contours.
+    void draw_opengl_contour(bool with_points);
+
+    // Class-wide
+
+    /// The number of living polygons of the process (a plain, unlocked counter).
+    static int get_instanced();
+
+    /// Always 0.0: kept for programs that read it.
+    static double get_compute_contour_time();
+
+    /// Tells how a contour turns when seen from the side `normal` points to: 1 clockwise, -1
+    /// counter-clockwise or empty, 0 when fewer than three vertices differ in succession.
+    /// Repeated vertices are skipped. O(n).
+    static int is_clockwise(const ox_list<ox_3dvector>& contour, const ox_3dvector& normal);
+
+    /// The area of a triangle by Heron's formula, in squared model units; 0 for a triangle so
+    /// flat that half its perimeter does not exceed its longest side.
+    static float compute_triangle_area(const ox_3dvector& a, const ox_3dvector& b,
+                                       const ox_3dvector& c);
+
+private:
+    ox_polygon_data* data;
+};
+
+} // namespace ox
+
+#endif

@@ -1,0 +1,64 @@
+#ifndef OX_SOLID_INTERNAL_OX_SOLID_STATE_H
+#define OX_SOLID_INTERNAL_OX_SOLID_STATE_H
+
+#include <memory>
+#include <vector>
+
+#include <ox/core/ox_chrono.h>
+#include <ox/core/ox_list.h>
+#include <ox/geometry/ox_3dvector.h>
+#include <ox/geometry/ox_box.h>
+#include <ox/polygon/ox_polygon.h>
+#include <ox/solid/internal/half_edges.h>
+#include <ox/solid/internal/tolerances.h>
+
+namespace ox {
+
+class ox_solid;
+
+/// Polygons of a solid that are deleted together.
+using oxp_polygon_owner = std::vector<std::unique_ptr<ox_polygon>>;
+
+/// The record behind a solid: its primary storage, the caches derived from it, and its settings.
+struct ox_solid_state {
+    explicit ox_solid_state(ox_solid* solid);
+    /// A record for `solid` with a copy of the primary storage of `source`, otherwise new.
+    ox_solid_state(ox_solid* solid, const ox_solid_state& source);
+    ox_solid_state(const ox_solid_state&) = delete;
+    ox_solid_state& operator=(const ox_solid_state&) = delete;
+    ~ox_solid_state();
+
+    /// Drops all caches. The cached faces are handed to the caller, who may still be reading one.
+    oxp_polygon_owner invalidate();
+
+    /// Empties the primary storage and frees its memory; the caches are the caller's business.
+    void clear_primary_storage();
+
+    ox_solid* owner;
+
+    // Primary storage
+    ox_list<ox_3dvector> vertices;
+    ox_list<unsigned int> contours;
+    ox_list<int> contour_sizes;
+
+    // Caches
+    ox_box bounding_box;
+    ox_list<ox_polygon*> faces; // owned
+    ox_list<ox_3dvector> tesselation_vertices;
+    ox_list<unsigned int> tesselation_triangles;
+
+    float tolerance = solid_tolerance;
+
+    ox_list<ox_solid_half_edge*> half_edges; // owned; filled by build_half_edges only
+    int manifold_status = 0;
+
+    bool verbose = false;
+    bool profiling = false;
+    ox_chrono chronos[8];
+
+    bool half_edges_closed = false; // every half-edge has an opposite
+};
+
+} // namespace ox
+
+#endif

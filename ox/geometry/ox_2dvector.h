@@ -148,19 +148,29 @@ static_assert(std::is_standard_layout_v<ox_2dvector>, "can be read as an array o
 static_assert(std::is_trivially_copyable_v<ox_2dvector>, "a plain value");
 
 /// Sum of two vectors.
-inline ox_2dvector operator+(ox_2dvector a, const ox_2dvector& b) { return a += b; }
+inline ox_2dvector operator+(ox_2dvector a, const ox_2dvector& b) {
+    return a += b;
+}
 
 /// Difference of two vectors.
-inline ox_2dvector operator-(ox_2dvector a, const ox_2dvector& b) { return a -= b; }
+inline ox_2dvector operator-(ox_2dvector a, const ox_2dvector& b) {
+    return a -= b;
+}
 
 /// The vector v scaled by f.
-inline ox_2dvector operator*(ox_2dvector v, float f) { return v *= f; }
+inline ox_2dvector operator*(ox_2dvector v, float f) {
+    return v *= f;
+}
 
 /// The vector v scaled by f.
-inline ox_2dvector operator*(float f, ox_2dvector v) { return v *= f; }
+inline ox_2dvector operator*(float f, ox_2dvector v) {
+    return v *= f;
+}
 
 /// The vector v with each component divided by f. A division by 0 is not guarded.
-inline ox_2dvector operator/(ox_2dvector v, float f) { return v /= f; }
+inline ox_2dvector operator/(ox_2dvector v, float f) {
+    return v /= f;
+}
 
 /// True if both components are equal, without a tolerance (so a NaN equals nothing).
 inline bool operator==(const ox_2dvector& a, const ox_2dvector& b) {
@@ -168,10 +178,14 @@ inline bool operator==(const ox_2dvector& a, const ox_2dvector& b) {
 }
 
 /// True if a component differs, without a tolerance.
-inline bool operator!=(const ox_2dvector& a, const ox_2dvector& b) { return !(a == b); }
+inline bool operator!=(const ox_2dvector& a, const ox_2dvector& b) {
+    return !(a == b);
+}
 
 /// Dot product a.x b.x + a.y b.y.
-inline float ox_dot(const ox_2dvector& a, const ox_2dvector& b) { return a.x * b.x + a.y * b.y; }
+inline float ox_dot(const ox_2dvector& a, const ox_2dvector& b) {
+    return a.x * b.x + a.y * b.y;
+}
 
 } // namespace ox
 

@@ -194,19 +194,29 @@ static_assert(std::is_standard_layout_v<ox_3dvector>, "can be read as an array o
 static_assert(std::is_trivially_copyable_v<ox_3dvector>, "a plain value");
 
 /// Sum of two vectors.
-inline ox_3dvector operator+(ox_3dvector a, const ox_3dvector& b) { return a += b; }
+inline ox_3dvector operator+(ox_3dvector a, const ox_3dvector& b) {
+    return a += b;
+}
 
 /// Difference of two vectors.
-inline ox_3dvector operator-(ox_3dvector a, const ox_3dvector& b) { return a -= b; }
+inline ox_3dvector operator-(ox_3dvector a, const ox_3dvector& b) {
+    return a -= b;
+}
 
 /// The vector v scaled by f.
-inline ox_3dvector operator*(ox_3dvector v, float f) { return v *= f; }
+inline ox_3dvector operator*(ox_3dvector v, float f) {
+    return v *= f;
+}
 
 /// The vector v scaled by f.
-inline ox_3dvector operator*(float f, ox_3dvector v) { return v *= f; }
+inline ox_3dvector operator*(float f, ox_3dvector v) {
+    return v *= f;
+}
 
 /// The vector v with each component divided by f. A division by 0 is not guarded.
-inline ox_3dvector operator/(ox_3dvector v, float f) { return v /= f; }
+inline ox_3dvector operator/(ox_3dvector v, float f) {
+    return v /= f;
+}
 
 /// True if all components are equal, without a tolerance (so a NaN equals nothing).
 inline bool operator==(const ox_3dvector& a, const ox_3dvector& b) {
@@ -214,7 +224,9 @@ inline bool operator==(const ox_3dvector& a, const ox_3dvector& b) {
 }
 
 /// True if a component differs, without a tolerance.
-inline bool operator!=(const ox_3dvector& a, const ox_3dvector& b) { return !(a == b); }
+inline bool operator!=(const ox_3dvector& a, const ox_3dvector& b) {
+    return !(a == b);
+}
 
 /// Dot product a.x b.x + a.y b.y + a.z b.z.
 inline float ox_dot(const ox_3dvector& a, const ox_3dvector& b) {

@@ -1,0 +1,71 @@
+#include <ox/geometry/ox_polar.h>
+
+#include <ox/geometry/internal/angles.h>
+
+namespace ox {
+
+namespace {
+
+float latitude_of(float sine) {
+    if (sine >= 1.f) {
+        return quarter_turn;
+    }
+    if (sine <= -1.f) {
+        return -quarter_turn;
+    }
+    return rounded_asin(sine);
+}
+
+float unsigned_longitude_of(float cosine) {
+    if (cosine >= 1.f) {
+        return 0.f;
+    }
+    if (cosine <= -1.f) {
+        return half_turn;
+    }
+    return rounded_acos(cosine);
+}
+
+} // namespace
+
+ox_polar::ox_polar(const ox_3dvector& p) : radius(p.size()) {
+    if (!(radius > 0.f)) {
+        return;
+    }
+    const float to_unit = 1.f / radius;
+    latitude = latitude_of(to_unit * p.z);
+
+    const float horizontal = rounded_cos(latitude);
+    if (!(horizontal > 0.f)) {
+        return;
+    }
+    const float to_horizontal_unit = 1.f / horizontal;
+    const float east = (to_unit * p.x) * to_horizontal_unit;
+    const float north = (to_unit * p.y) * to_horizontal_unit;
+    longitude = unsigned_longitude_of(east);
+    if (north < 0.f) {
+        longitude = -longitude;
+    }
+}
+
+ox_3dvector ox_polar::to_3dvector() const {
+    const float horizontal = rounded_cos(latitude) * radius;
+    return ox_3dvector(rounded_cos(longitude) * horizontal, rounded_sin(longitude) * horizontal,
+                       rounded_sin(latitude) * radius);
+}
+
+void ox_3dvector::get_angles(float& bearing, float& tilt) const {
+    const ox_polar direction(*this);
+    // The longitude lies in [-pi, pi] or is NaN, so at most one turn is added or taken away.
+    float heading = 90.f - to_degrees(direction.longitude);
+    if (heading < 0.f) {
+        heading += 360.f;
+    }
+    if (heading > 360.f) {
+        heading -= 360.f;
+    }
+    bearing = heading;
+    tilt = 90.f - to_degrees(direction.latitude);
+}
+
+} // namespace ox

@@ -1,6 +1,7 @@
 #ifndef OX_CORE_OX_LIST_H
 #define OX_CORE_OX_LIST_H
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -127,7 +128,7 @@ public:
         if (live >= capacity) {
             reallocate(grown_capacity(live));
         }
-        const int place = position < 0 ? 0 : (position > live ? live : position);
+        const int place = std::clamp(position, 0, live);
         for (int i = live; i > place; --i) {
             data[i] = data[i - 1];
         }

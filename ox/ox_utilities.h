@@ -1,0 +1,25 @@
+#ifndef OX_OX_UTILITIES_H
+#define OX_OX_UTILITIES_H
+
+/// @file
+/// Every public header of the library.
+
+#include <ox/core/ox_chrono.h>
+#include <ox/core/ox_export.h>
+#include <ox/core/ox_list.h>
+#include <ox/core/ox_log.h>
+#include <ox/core/ox_mutex.h>
+#include <ox/core/ox_random.h>
+#include <ox/display/ox_debug.h>
+#include <ox/display/ox_opengl_shapes.h>
+#include <ox/geometry/ox_2dvector.h>
+#include <ox/geometry/ox_3dvector.h>
+#include <ox/geometry/ox_box.h>
+#include <ox/geometry/ox_color.h>
+#include <ox/geometry/ox_matrix.h>
+#include <ox/geometry/ox_polar.h>
+#include <ox/ox_functions.h>
+#include <ox/polygon/ox_polygon.h>
+#include <ox/solid/ox_solid.h>
+
+#endif

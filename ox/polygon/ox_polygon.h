@@ -108,7 +108,10 @@ public:
     /// normal points to the other side (negative dot product with the old one). O(n).
     void set_normal(const ox_3dvector& normal);
 
-    /// Moves the plane to `point` and projects the contours on it. Without a plane only the
+    /// Moves the plane to `point`, keeping its normal. The contours are projected on the moved
+    /// plane only where making the normal of unit length again changes it by a rounding; a
+    /// normal that stays exactly as it is (an axis, for example) leaves them where they are,
+    /// until the next merge or boolean brings them into the plane. Without a plane only the
     /// point is stored. O(n).
     void set_point(const ox_3dvector& point);
 
@@ -182,9 +185,13 @@ public:
 
     // Booleans and offset, in place
 
-    /// Adds the region of `other`, whose contours are projected on this plane. Does nothing when
-    /// `other` has no contour. A polygon without a plane takes the plane of `other` first.
-    /// When an operand leads outside the integer grid, its contours that do are left out.
+    /// Adds the region of `other`. Does nothing when `other` has no contour. A polygon without a
+    /// plane takes the plane of `other` first.
+    ///
+    /// All three operations project the contours of `other` on this plane and work on this
+    /// polygon's integer grid; contours of either polygon that do not fit the grid are left out.
+    /// A result that vanishes leaves the plane. `other` may be this polygon. O(n log n) plus the
+    /// crossings.
     void unites(const ox_polygon& other);
 
     /// Removes the region of `other`. Does nothing when either polygon has no contour.
@@ -196,9 +203,13 @@ public:
 
     /// Grows (positive distance, model units) or shrinks (negative) the region: outlines move
     /// outwards, holes shrink. `join_type` is one of `join`; every other value is read as
-    /// `join_square`. A distance that is not finite, or that leads outside the integer grid or
-    /// beyond the largest supported offset (100,000 model units), leaves no contour when it is
-    /// negative and the polygon unchanged otherwise.
+    /// `join_square`. Arcs keep within 0.000025 model units of the circle.
+    ///
+    /// Out of reach is a distance that is not finite, one of which twice could lead outside the
+    /// integer grid, and with round joins one beyond 1,000,000 model units or whose arcs would
+    /// have more than 8,000,000 vertices. It leaves no contour when it is negative, and the
+    /// polygon unchanged otherwise. O(n log n) for n vertices, those of the arcs included, plus
+    /// the crossings of the moved sides.
     void offset(float distance, int join_type);
 
     // Cutting and splitting

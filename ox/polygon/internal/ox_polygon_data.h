@@ -41,7 +41,7 @@ struct ox_polygon_data {
 
     /// Sets the plane through `new_point` with `new_normal` (any length; one shorter than the
     /// tolerance is refused after the point was stored) and projects what is computed on it.
-    void set_plane(const ox_3dvector& new_point, const ox_3dvector& new_normal);
+    void set_plane(const ox_3dvector& new_point, ox_3dvector new_normal);
 
     /// Empties the polygon and forgets its plane.
     void clear();
@@ -61,6 +61,11 @@ struct ox_polygon_data {
     /// To be called after every change of the normalised contours: their triangles and their
     /// bounding box are no longer known.
     void forget_derived();
+
+    /// Empties the region when the plane or a vertex holds a number that is not finite, so that
+    /// none ever reaches the clipping library or the tessellator. To be called after every
+    /// operation that can bring one in.
+    void drop_region_unless_finite();
 
     /// A deep copy of this record, merged first; the bounding box is left to be found anew.
     ox_polygon_data* copy();

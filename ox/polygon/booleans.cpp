@@ -1,0 +1,80 @@
+// Union, difference and intersection with another polygon, on the integer grid of the polygon
+// that changes.
+
+#include <algorithm>
+
+#include <ox/polygon/internal/integer_grid.h>
+#include <ox/polygon/internal/ox_polygon_data.h>
+#include <ox/polygon/ox_polygon.h>
+
+namespace ox {
+namespace {
+
+ClipperLib::ClipType clip_type(boolean_operation operation) {
+    switch (operation) {
+    case boolean_operation::subtract:
+        return ClipperLib::ctDifference;
+    case boolean_operation::intersect:
+        return ClipperLib::ctIntersection;
+    case boolean_operation::unite:
+        break;
+    }
+    return ClipperLib::ctUnion;
+}
+
+bool is_without_contours(const ox_polygon_data& polygon) {
+    return polygon.contour_sizes.size() == 0;
+}
+
+} // namespace
+
+void ox_polygon_data::combine(const ox_polygon_data& other, boolean_operation operation) {
+    ClipperLib::Paths subjects;
+    contours_to_grid(*this, contour_vertices, contour_sizes, subjects);
+    ClipperLib::Paths clips;
+    contours_to_grid(*this, other.contour_vertices, other.contour_sizes, clips);
+    if (ox_dot(normal, other.normal) < 0.0f) {
+        for (ClipperLib::Path& path : clips) {
+            std::reverse(path.begin(), path.end());
+        }
+    }
+    ClipperLib::PolyTree tree;
+    clip_paths(clip_type(operation), subjects, clips, tree);
+    rebuild_contours(*this, tree);
+}
+
+void ox_polygon::unites(const ox_polygon& other) {
+    data->compute_contours();
+    other.data->compute_contours();
+    if (is_without_contours(*other.data)) {
+        return;
+    }
+    if (!data->plane_defined) {
+        data->set_plane(other.data->point, other.data->normal);
+    }
+    data->combine(*other.data, boolean_operation::unite);
+}
+
+void ox_polygon::substracts(const ox_polygon& other) {
+    data->compute_contours();
+    other.data->compute_contours();
+    if (is_without_contours(*data) || is_without_contours(*other.data)) {
+        return;
+    }
+    data->combine(*other.data, boolean_operation::subtract);
+}
+
+void ox_polygon::intersects(const ox_polygon& other) {
+    data->compute_contours();
+    other.data->compute_contours();
+    if (is_without_contours(*data)) {
+        return;
+    }
+    if (is_without_contours(*other.data)) {
+        data->clear();
+        return;
+    }
+    data->combine(*other.data, boolean_operation::intersect);
+}
+
+} // namespace ox

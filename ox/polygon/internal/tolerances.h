@@ -1,0 +1,48 @@
+#ifndef OX_POLYGON_INTERNAL_TOLERANCES_H
+#define OX_POLYGON_INTERNAL_TOLERANCES_H
+
+namespace ox {
+
+// Lengths of normals
+
+/// A normal given to `set_normal` that is shorter is noise of the caller's arithmetic and ignored.
+constexpr float shortest_given_normal = 0.001f;
+
+/// A shorter normal has no reliable direction: no plane is made of it.
+constexpr float shortest_plane_normal = 0.0001f;
+
+/// Twice an area, in squared model units: a first contour whose summed cross products are shorter
+/// encloses nothing that could define a plane.
+constexpr float shortest_contour_normal = 0.000001f;
+
+// Integer grid
+
+/// Model units per unit of the integer grid in the plane's frame.
+constexpr float grid_unit = 0.0001f;
+
+/// In grid units, exclusive: 2^62, the first float beyond what the clipping library takes
+/// (0x3FFFFFFFFFFFFFFF).
+constexpr float grid_end = 4611686018427387904.0f;
+
+// Offset
+
+/// A mitred corner reaches at most this many distances from its vertex; so does no other join.
+constexpr double offset_miter_limit = 2.0;
+
+/// Grid units between an arc and its chords.
+constexpr double offset_arc_tolerance = 0.25;
+
+/// Grid units that the clipping library adds around the bounds when it shrinks a region; taken
+/// generously.
+constexpr double offset_bounds_margin = 16.0;
+
+/// Model units. The number of vertices of an arc grows with the root of its radius: a full circle
+/// of this radius has 444,000, a second of work.
+constexpr float largest_round_offset = 1000000.0f;
+
+/// Vertices of all arcs of one round offset together: about a gigabyte for the clipping library.
+constexpr double most_arc_vertices = 8000000.0;
+
+} // namespace ox
+
+#endif

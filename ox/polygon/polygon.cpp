@@ -1,0 +1,77 @@
+// Life of a polygon: construction, copying, clearing and the count of living polygons.
+
+#include <memory>
+
+#include <ox/polygon/internal/ox_polygon_data.h>
+#include <ox/polygon/ox_polygon.h>
+
+namespace ox {
+namespace {
+
+int living_polygons = 0;
+
+} // namespace
+
+ox_polygon_data* ox_polygon_data::copy() {
+    compute_contours();
+    std::unique_ptr<ox_polygon_data> made(new ox_polygon_data(*this));
+    made->bounding_box.clear();
+    if (!tesselation_computed) {
+        made->tesselation_vertices.clear();
+        made->tesselation_triangles.clear();
+    }
+    return made.release();
+}
+
+void ox_polygon_data::clear() {
+    pending_vertices.clear();
+    pending_sizes.clear();
+    clear_contours();
+    tesselation_vertices.clear();
+    tesselation_triangles.clear();
+    area = 0.0f;
+    bounding_box.clear();
+    plane_defined = false;
+    contours_computed = true;
+    tesselation_computed = true;
+}
+
+ox_polygon::ox_polygon() : data(new ox_polygon_data) {
+    ++living_polygons;
+}
+
+ox_polygon::ox_polygon(const ox_3dvector& point, const ox_3dvector& normal) : ox_polygon() {
+    data->set_plane(point, normal);
+}
+
+ox_polygon::ox_polygon(const ox_polygon& source) : data(source.data->copy()) {
+    ++living_polygons;
+}
+
+ox_polygon& ox_polygon::operator=(const ox_polygon& source) {
+    if (this != &source) {
+        ox_polygon_data* copied = source.data->copy();
+        delete data;
+        data = copied;
+    }
+    return *this;
+}
+
+ox_polygon::~ox_polygon() {
+    --living_polygons;
+    delete data;
+}
+
+void ox_polygon::clear() {
+    data->clear();
+}
+
+int ox_polygon::get_instanced() {
+    return living_polygons;
+}
+
+double ox_polygon::get_compute_contour_time() {
+    return 0.0;
+}
+
+} // namespace ox

@@ -43,6 +43,25 @@ constexpr float largest_round_offset = 1000000.0f;
 /// Vertices of all arcs of one round offset together: about a gigabyte for the clipping library.
 constexpr double most_arc_vertices = 8000000.0;
 
+// Best centre
+
+/// Model units: a shorter side has no reliable direction to measure a perpendicular from; only
+/// its end vertices count.
+constexpr float shortest_side_of_center_distance = 0.01f;
+
+// Cutting
+
+/// The sine of the angle between two planes (times the length of the cutting normal): below it
+/// the planes count as parallel and nothing is cut.
+constexpr float parallel_cut_sine = 0.001f;
+
+/// The cosine of the angle between two planes (times the length of the cutting normal): above it
+/// they have no section line.
+constexpr float parallel_section_cosine = 0.999f;
+
+/// Model units: boxes this far apart still count as touching.
+constexpr float box_contact_tolerance = 0.0001f;
+
 } // namespace ox
 
 #endif

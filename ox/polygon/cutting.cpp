@@ -1,0 +1,106 @@
+#include <algorithm>
+#include <memory>
+
+#include <ox/polygon/internal/ox_polygon_data.h>
+#include <ox/polygon/internal/tolerances.h>
+#include <ox/polygon/ox_polygon.h>
+
+namespace ox {
+
+namespace {
+
+// The directions in a polygon's plane along which a cutting plane measures it.
+struct cut_frame {
+    ox_3dvector origin; // in the cutting plane
+    ox_3dvector along;  // of the line in which the planes meet
+    ox_3dvector away;   // from the side the cutting normal points to
+    bool parallel;      // the planes do not meet, or not in a line that can be computed
+};
+
+cut_frame make_cut_frame(const ox_3dvector& origin, const ox_3dvector& cut_normal,
+                         const ox_3dvector& normal) {
+    cut_frame frame;
+    frame.origin = origin;
+    frame.along = ox_cross(cut_normal, normal);
+    const float length = frame.along.normalize();
+    frame.parallel = !(length >= parallel_cut_sine);
+    frame.away = ox_cross(frame.along, normal);
+    frame.away.normalize();
+    return frame;
+}
+
+// The extent of a polygon in a cut frame: s away from the cutting plane, t along it.
+struct cut_extent {
+    float s_min = 0.0f;
+    float s_max = 0.0f;
+    float t_min = 100000000.0f;
+    float t_max = -100000000.0f;
+};
+
+cut_extent measure(const ox_list<ox_3dvector>& vertices, const cut_frame& frame) {
+    cut_extent extent;
+    for (const ox_3dvector& vertex : vertices) {
+        const float s = ox_dot(vertex - frame.origin, frame.away);
+        const float t = ox_dot(vertex - frame.origin, frame.along);
+        extent.s_min = std::min(extent.s_min, s);
+        extent.s_max = std::max(extent.s_max, s);
+        extent.t_min = std::min(extent.t_min, t);
+        extent.t_max = std::max(extent.t_max, t);
+    }
+    return extent;
+}
+
+// The rectangle over the polygon's whole extent along the cut, from `s_first` to `s_last` away.
+ox_list<ox_3dvector> rectangle(const cut_frame& f, const cut_extent& x, float s_first,
+                               float s_last) {
+    ox_list<ox_3dvector> corners;
+    corners.push_right(f.origin + s_first * f.away + x.t_min * f.along);
+    corners.push_right(f.origin + s_first * f.away + x.t_max * f.along);
+    corners.push_right(f.origin + s_last * f.away + x.t_max * f.along);
+    corners.push_right(f.origin + s_last * f.away + x.t_min * f.along);
+    return corners;
+}
+
+// The part of `polygon` inside a rectangle of its plane, as a new polygon.
+std::unique_ptr<ox_polygon> piece_inside(const ox_polygon& polygon,
+                                         const ox_list<ox_3dvector>& corners) {
+    ox_polygon clip(polygon.get_point(), polygon.get_normal());
+    clip.add_contour(corners);
+    auto piece = std::make_unique<ox_polygon>(polygon);
+    piece->intersects(clip);
+    return piece;
+}
+
+void append(ox_list<ox_polygon*>& pieces, std::unique_ptr<ox_polygon> piece) {
+    pieces.push_right(piece.get());
+    piece.release();
+}
+
+} // namespace
+
+ox_list<ox_polygon*> ox_polygon::cut_by_plane(const ox_3dvector& point, const ox_3dvector& normal,
+                                              bool both_sides) {
+    ox_list<ox_polygon*> pieces;
+    data->compute_contours();
+    const cut_frame frame = make_cut_frame(point, normal, data->normal);
+    const cut_extent extent = measure(data->contour_vertices, frame);
+    const bool nothing_behind = extent.s_max == 0.0f;
+    const bool nothing_in_front = extent.s_min == 0.0f;
+    if (frame.parallel || nothing_behind) {
+        pieces.push_right(this);
+        return pieces;
+    }
+    if (nothing_in_front) {
+        if (both_sides) {
+            pieces.push_right(this);
+        }
+        return pieces;
+    }
+    append(pieces, piece_inside(*this, rectangle(frame, extent, extent.s_min, 0.0f)));
+    if (both_sides) {
+        append(pieces, piece_inside(*this, rectangle(frame, extent, 0.0f, extent.s_max)));
+    }
+    return pieces;
+}
+
+} // namespace ox

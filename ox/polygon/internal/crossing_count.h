@@ -1,0 +1,82 @@
+#ifndef OX_POLYGON_INTERNAL_CROSSING_COUNT_H
+#define OX_POLYGON_INTERNAL_CROSSING_COUNT_H
+
+#include <ox/core/ox_list.h>
+#include <ox/geometry/ox_2dvector.h>
+
+namespace ox {
+
+/// The crossings of the horizontal line through a point with the edges of closed contours, left
+/// and right of the point (the even-odd rule of Shimrat, Communications of the ACM 1962).
+///
+/// An edge owns its lower end and not its upper one, so a line through a vertex counts each
+/// chain of edges once, and a horizontal edge is never counted. All comparisons are exact: a
+/// point on the outline is inside or outside as the count comes out.
+class crossing_count {
+public:
+    crossing_count(float point_u, float point_v) : u(point_u), v(point_v) {}
+
+    /// Counts the edge from `a` to `b`, if the line meets it.
+    void add_edge(const ox_2dvector& a, const ox_2dvector& b) {
+        if ((a.y > v && b.y > v) || (a.y < v && b.y < v)) {
+            return;
+        }
+        if (a.y == v) {
+            if (b.y > v) {
+                add_crossing(a.x);
+            }
+        } else if (b.y != v) {
+            add_crossing(a.x + (v - a.y) / (b.y - a.y) * (b.x - a.x));
+        } else if (a.y > v) {
+            add_crossing(b.x);
+        }
+    }
+
+    /// Tells whether the point lies inside what the counted edges bound.
+    bool is_inside() const {
+        return left != 0 && right != 0 && (left + right) % 2 == 0 && left % 2 == 1;
+    }
+
+private:
+    void add_crossing(float at) {
+        if (u > at) {
+            ++left;
+        } else {
+            ++right;
+        }
+    }
+
+    float u;
+    float v;
+    unsigned int left = 0;
+    unsigned int right = 0;
+};
+
+/// Tells whether (u, v) lies inside the region that closed contours bound. `sizes` are the vertex
+/// counts of the contours, and `vertex(i)` gives vertex i of all of them, contour after contour,
+/// as an `ox_2dvector`. False without contours, and for a point that is not a number. O(n); each
+/// vertex is asked for once, the last one of each contour twice.
+template <class vertex_access>
+bool contours_contain(const ox_list<unsigned int>& sizes, const vertex_access& vertex, float u,
+                      float v) {
+    crossing_count crossings(u, v);
+    int first = 0;
+    for (int contour = 0; contour < sizes.size(); ++contour) {
+        const int end = first + static_cast<int>(sizes[contour]);
+        if (end == first) {
+            continue;
+        }
+        ox_2dvector previous = vertex(end - 1);
+        for (int i = first; i < end; ++i) {
+            const ox_2dvector current = vertex(i);
+            crossings.add_edge(previous, current);
+            previous = current;
+        }
+        first = end;
+    }
+    return crossings.is_inside();
+}
+
+} // namespace ox
+
+#endif

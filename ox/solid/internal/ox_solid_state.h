@@ -1,9 +1,6 @@
 #ifndef OX_SOLID_INTERNAL_OX_SOLID_STATE_H
 #define OX_SOLID_INTERNAL_OX_SOLID_STATE_H
 
-#include <memory>
-#include <vector>
-
 #include <ox/core/ox_chrono.h>
 #include <ox/core/ox_list.h>
 #include <ox/geometry/ox_3dvector.h>
@@ -16,8 +13,26 @@ namespace ox {
 
 class ox_solid;
 
-/// Polygons of a solid that are deleted together.
-using oxp_polygon_owner = std::vector<std::unique_ptr<ox_polygon>>;
+/// A list of polygons that it deletes with itself.
+class oxp_owned_polygons {
+public:
+    oxp_owned_polygons() = default;
+    oxp_owned_polygons(oxp_owned_polygons&& other) noexcept = default;
+    oxp_owned_polygons& operator=(oxp_owned_polygons&& other) noexcept;
+    ~oxp_owned_polygons();
+
+    /// Appends a new, empty polygon and returns it.
+    ox_polygon& add();
+
+    /// The polygons, in the order in which they were added.
+    const ox_list<ox_polygon*>& get_list() const { return list; }
+
+private:
+    ox_list<ox_polygon*> list;
+};
+
+/// Number of stopwatches of a solid.
+constexpr int solid_chrono_count = 8;
 
 /// The record behind a solid: its primary storage, the caches derived from it, and its settings.
 struct ox_solid_state {
@@ -29,7 +44,10 @@ struct ox_solid_state {
     ~ox_solid_state();
 
     /// Drops all caches. The cached faces are handed to the caller, who may still be reading one.
-    oxp_polygon_owner invalidate();
+    oxp_owned_polygons invalidate();
+
+    /// Number of vertices, 0 for a list with a negative count.
+    unsigned int count_vertices() const;
 
     /// Empties the primary storage and frees its memory; the caches are the caller's business.
     void clear_primary_storage();
@@ -43,7 +61,7 @@ struct ox_solid_state {
 
     // Caches
     ox_box bounding_box;
-    ox_list<ox_polygon*> faces; // owned
+    oxp_owned_polygons faces;
     ox_list<ox_3dvector> tesselation_vertices;
     ox_list<unsigned int> tesselation_triangles;
 
@@ -54,7 +72,7 @@ struct ox_solid_state {
 
     bool verbose = false;
     bool profiling = false;
-    ox_chrono chronos[8];
+    ox_chrono chronos[solid_chrono_count]; // 0 to 2 time the phases of a boolean, 3 to 7 are spare
 
     bool half_edges_closed = false; // every half-edge has an opposite
 };

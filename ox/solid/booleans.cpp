@@ -1,0 +1,86 @@
+#include <ox/solid/internal/combination.h>
+#include <ox/solid/internal/ox_solid_state.h>
+#include <ox/solid/ox_solid.h>
+
+namespace ox {
+
+namespace {
+
+ox_box grown_by(const ox_box& box, float margin) {
+    const float both_sides = 2.0f * margin;
+    ox_box grown;
+    grown.origin = box.origin - ox_3dvector(margin, margin, margin);
+    grown.size = box.size + ox_3dvector(both_sides, both_sides, both_sides);
+    return grown;
+}
+
+/// Appends the primary storage of another solid as it is.
+void append_solid(ox_solid_state& target, const ox_solid& other) {
+    target.invalidate();
+    const unsigned int base = target.count_vertices();
+    for (const ox_3dvector& vertex : other.get_vertices()) {
+        target.vertices.push_right(vertex);
+    }
+    for (const int size : other.get_contour_sizes()) {
+        target.contour_sizes.push_right(size);
+    }
+    for (const unsigned int index : other.get_contours()) {
+        target.contours.push_right(index + base);
+    }
+}
+
+} // namespace
+
+void ox_solid::unites(ox_solid& other) {
+    if (&other == this) {
+        ox_solid copy(other);
+        unites(copy);
+        return;
+    }
+    const ox_box other_box = other.get_bounding_box();
+    if (other_box.is_empty()) {
+        return;
+    }
+    if (get_bounding_box().is_empty()) {
+        *this = other;
+    } else if (grown_by(get_bounding_box(), union_box_margin).intersects(other_box)) {
+        combine(*state, other, boolean_operation::unite);
+    } else {
+        append_solid(*state, other);
+    }
+}
+
+void ox_solid::substracts(ox_solid& other) {
+    if (&other == this) {
+        ox_solid copy(other);
+        substracts(copy);
+        return;
+    }
+    const ox_box box = get_bounding_box();
+    const ox_box other_box = other.get_bounding_box();
+    if (!box.is_empty() && !other_box.is_empty() && box.intersects(other_box)) {
+        combine(*state, other, boolean_operation::substract);
+    }
+}
+
+void ox_solid::intersects(ox_solid& other) {
+    if (&other == this) {
+        ox_solid copy(other);
+        intersects(copy);
+        return;
+    }
+    const ox_box box = get_bounding_box();
+    if (box.is_empty()) {
+        return;
+    }
+    const ox_box other_box = other.get_bounding_box();
+    if (!other_box.is_empty() && box.intersects(other_box)) {
+        combine(*state, other, boolean_operation::intersect);
+    } else {
+        clear();
+    }
+}
+
+void ox_solid::optimize_vertices(float) {}
+
+} // namespace ox

@@ -1,0 +1,20 @@
+#ifndef OX_SOLID_INTERNAL_PLANE_SECTION_H
+#define OX_SOLID_INTERNAL_PLANE_SECTION_H
+
+#include <memory>
+
+#include <ox/geometry/ox_3dvector.h>
+#include <ox/polygon/ox_polygon.h>
+#include <ox/solid/ox_solid.h>
+
+namespace ox {
+
+/// The region of the plane through `point` with `normal` that lies inside the solid, as a polygon
+/// in that plane; none when the plane meets no face. A vertex no farther than `tolerance` (model
+/// units) from the plane lies on it; ends no farther apart (Manhattan distance) are joined.
+std::unique_ptr<ox_polygon> plane_section(ox_solid& solid, const ox_3dvector& point,
+                                          const ox_3dvector& normal, float tolerance);
+
+} // namespace ox
+
+#endif

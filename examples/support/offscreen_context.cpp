@@ -129,13 +129,18 @@ struct offscreen_context::state {
     }
 
     void create_buffers(int samples) {
+        GLint most_samples = 0;
+        glGetIntegerv(GL_MAX_SAMPLES, &most_samples);
+        if (samples > most_samples) {
+            fail("the driver offers no more than " + std::to_string(most_samples) + " samples");
+        }
         canvas = std::make_unique<render_target>(width, height, samples > 1 ? samples : 0);
         if (samples > 1) {
             resolved = std::make_unique<render_target>(width, height, 0);
         }
         if (!canvas->is_complete() || (resolved && !resolved->is_complete()) ||
             glGetError() != GL_NO_ERROR) {
-            fail("the driver refuses buffers of this size or sample count");
+            fail("the driver refuses buffers of this size");
         }
     }
 };

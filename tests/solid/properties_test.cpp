@@ -1,0 +1,242 @@
+// The volumes of random solids obey the laws of sets: what a union adds, the intersection
+// takes away. The laws hold for solids in steep position to each other; what happens at the
+// boundary of that domain is in limits_test.cpp.
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include <ox/solid/ox_solid.h>
+#include <tests/support/measures.h>
+#include <tests/support/printing.h>
+#include <tests/support/random_shapes.h>
+
+namespace {
+
+using ox::ox_3dvector;
+using ox::ox_list;
+using ox::ox_polygon;
+using ox::ox_solid;
+using support::generator;
+using support::point;
+
+/// Smallest angle between an edge and a plane that is not parallel to it: sin(11.5 degrees).
+/// A flatter edge meets the plane at a point that one step of the grid moves too far.
+constexpr double steep_sine = 0.19937;
+
+/// An edge below this sine is parallel to a plane; rounding of its ends makes no more of it.
+constexpr double parallel_sine = 0.00001;
+
+/// No vertex is nearer to a plane than this (model units): twice the tolerance within which a
+/// section takes it for lying in the plane.
+constexpr double vertex_clearance = 0.002;
+
+bool crosses_steeply(const point& edge, const point& normal) {
+    const double sine = std::fabs(dot(edge, normal)) / length(edge);
+    return sine < parallel_sine || sine >= steep_sine;
+}
+
+/// Whether all edges and vertices of `a` keep their distance from the plane of one face.
+bool keeps_clear_of(ox_solid& a, const ox_polygon& face) {
+    const point normal = support::to_point(face.get_normal());
+    const point origin = support::to_point(face.get_point());
+    const ox_list<ox_3dvector>& vertices = a.get_vertices();
+    const ox_list<int>& sizes = a.get_contour_sizes();
+    int first = 0;
+    for (int c = 0; c < sizes.size(); ++c) {
+        const int size = std::abs(sizes[c]);
+        for (int i = 0; i < size; ++i) {
+            const point start = support::to_point(vertices[first + i]);
+            const point end = support::to_point(vertices[first + (i + 1) % size]);
+            if (std::fabs(dot(start - origin, normal)) < vertex_clearance ||
+                !crosses_steeply(end - start, normal)) {
+                return false;
+            }
+        }
+        first += size;
+    }
+    return true;
+}
+
+bool keeps_clear_of(ox_solid& a, ox_solid& b) {
+    const ox_list<ox_polygon*>& faces = b.get_faces();
+    return std::all_of(faces.begin(), faces.end(),
+                       [&a](const ox_polygon* face) { return keeps_clear_of(a, *face); });
+}
+
+/// The domain of the volume laws: every edge is parallel to every plane of the other solid or
+/// meets it at 11.5 degrees or more, and no vertex is within 0.002 of one.
+bool in_steep_position(ox_solid& a, ox_solid& b) {
+    return keeps_clear_of(a, b) && keeps_clear_of(b, a);
+}
+
+struct solid_pair {
+    ox_solid a;
+    ox_solid b;
+};
+
+ox_solid random_solid(generator& random, const ox_3dvector& centre, const support::frame& axes) {
+    return random.one_in(2) ? support::random_brick(random, centre, axes)
+                            : support::random_prism(random, centre, axes);
+}
+
+/// Two solids in steep position near `centre`: drawn until they are. One pair in four shares
+/// its axes, so that edges parallel to planes occur too.
+solid_pair random_pair(generator& random, const ox_3dvector& centre) {
+    for (;;) {
+        const support::frame axes = support::random_frame(random);
+        const support::frame others = random.one_in(4) ? axes : support::random_frame(random);
+        const ox_3dvector shift = support::random_point(random, 1.5);
+        solid_pair pair;
+        pair.a = random_solid(random, centre, axes);
+        pair.b = random_solid(random, centre + shift, others);
+        if (in_steep_position(pair.a, pair.b)) {
+            return pair;
+        }
+    }
+}
+
+/// The largest error of a volume, per unit of surface.
+///
+/// Near the origin the grid of 0.0001 decides: a vertex moves by at most half a step on either
+/// axis of its face, and the moves of neighbours largely cancel. Further out each of a vertex's
+/// coordinates is rounded to single precision (2^-24 of the distance, a few times over).
+double allowed_error_per_area(double distance_from_origin) {
+    const double grid_error = 2e-5;
+    const double rounding_steps = 4.0;
+    return grid_error + rounding_steps * distance_from_origin / 16777216.0;
+}
+
+struct law_errors {
+    double union_law = 0.0;
+    double difference_law = 0.0;
+    bool overlapping = false;
+};
+
+/// vol(A) + vol(B) = vol(A+B) + vol(A*B) and vol(A-B) = vol(A) - vol(A*B), per unit of surface.
+law_errors measure_laws(solid_pair& pair) {
+    const support::measure a = support::measure_solid(pair.a);
+    const support::measure b = support::measure_solid(pair.b);
+    ox_solid united = pair.a;
+    united.unites(pair.b);
+    ox_solid common = pair.a;
+    common.intersects(pair.b);
+    ox_solid rest = pair.a;
+    rest.substracts(pair.b);
+    const double common_volume = support::volume_of(common);
+    const double area = a.area + b.area;
+    law_errors errors;
+    errors.union_law =
+        std::fabs(a.volume + b.volume - support::volume_of(united) - common_volume) / area;
+    errors.difference_law = std::fabs(a.volume - common_volume - support::volume_of(rest)) / area;
+    errors.overlapping = common_volume > 0.01;
+    return errors;
+}
+
+void expect_laws_within(double distance_from_origin, int pairs, std::uint64_t seed) {
+    generator random(seed);
+    const double limit = allowed_error_per_area(distance_from_origin);
+    double worst = 0.0;
+    int overlapping = 0;
+    for (int i = 0; i < pairs; ++i) {
+        // Every coordinate within the distance divided by the root of 3.
+        const ox_3dvector centre = support::random_point(random, distance_from_origin * 0.577);
+        solid_pair pair = random_pair(random, centre);
+        const law_errors errors = measure_laws(pair);
+        overlapping += errors.overlapping ? 1 : 0;
+        worst = std::max({worst, errors.union_law, errors.difference_law});
+        ASSERT_LE(std::max(errors.union_law, errors.difference_law), limit)
+            << "seed " << seed << ", pair " << i << "\nA:\n"
+            << support::to_text(pair.a) << "B:\n"
+            << support::to_text(pair.b);
+    }
+    EXPECT_GT(overlapping, pairs / 2) << "too few pairs meet to say anything";
+    ::testing::Test::RecordProperty("worst_error_per_area", std::to_string(worst));
+    std::cout << "seed " << seed << ": worst error per area " << worst << " of " << limit
+              << ", overlapping " << overlapping << " of " << pairs << '\n';
+}
+
+TEST(OxSolidProperties, VolumesOfUnionIntersectionAndDifferenceAddUpNearTheOrigin) {
+    expect_laws_within(4.0, 1500, 20240611);
+}
+
+TEST(OxSolidProperties, VolumesAddUpWithinAHundredUnits) { expect_laws_within(100.0, 500, 77); }
+
+TEST(OxSolidProperties, VolumesAddUpWithinAThousandUnits) { expect_laws_within(1000.0, 500, 4711); }
+
+TEST(OxSolidProperties, UnionIntersectionAndDifferenceOfSteepSolidsAreClosed) {
+    generator random(99);
+    int open_results = 0;
+    for (int i = 0; i < 200; ++i) {
+        solid_pair pair = random_pair(random, ox_3dvector());
+        ox_solid united = pair.a;
+        united.unites(pair.b);
+        ox_solid common = pair.a;
+        common.intersects(pair.b);
+        ox_solid rest = pair.a;
+        rest.substracts(pair.b);
+        for (ox_solid* result : {&united, &common, &rest}) {
+            open_results += support::is_closed(*result) ? 0 : 1;
+        }
+    }
+    EXPECT_EQ(open_results, 0) << "seed 99";
+}
+
+TEST(OxSolidProperties, BooleansLeaveTheArgumentAsItWas) {
+    generator random(5);
+    for (int i = 0; i < 50; ++i) {
+        solid_pair pair = random_pair(random, ox_3dvector());
+        const ox_list<ox_3dvector> before = pair.b.get_vertices();
+        ox_solid a = pair.a;
+        a.unites(pair.b);
+        a.substracts(pair.b);
+        a.intersects(pair.b);
+        const ox_list<ox_3dvector>& after = pair.b.get_vertices();
+        ASSERT_TRUE(std::equal(before.begin(), before.end(), after.begin(), after.end()));
+    }
+}
+
+TEST(OxSolidProperties, SwappingTheOperandsKeepsVolumeOfUnionAndIntersection) {
+    generator random(31);
+    for (int i = 0; i < 100; ++i) {
+        solid_pair pair = random_pair(random, ox_3dvector());
+        const double limit = 2.0 * allowed_error_per_area(4.0) *
+                             (support::measure_solid(pair.a).area + support::measure_solid(pair.b).area);
+        ox_solid a_first = pair.a;
+        a_first.unites(pair.b);
+        ox_solid b_first = pair.b;
+        b_first.unites(pair.a);
+        EXPECT_NEAR(support::volume_of(a_first), support::volume_of(b_first), limit);
+        a_first = pair.a;
+        a_first.intersects(pair.b);
+        b_first = pair.b;
+        b_first.intersects(pair.a);
+        EXPECT_NEAR(support::volume_of(a_first), support::volume_of(b_first), limit);
+    }
+}
+
+TEST(OxSolidProperties, TheTwoHalvesOfAClippedSolidMakeUpTheWhole) {
+    generator random(12);
+    for (int i = 0; i < 300; ++i) {
+        const ox_3dvector centre = support::random_point(random, 1.0);
+        const support::frame axes = support::random_frame(random);
+        ox_solid whole = random_solid(random, centre, axes);
+        // A slanted plane through the middle, 30 degrees and more from every axis of the solid.
+        ox_3dvector normal = axes.x + axes.y * 0.9f + axes.z * 1.1f;
+        normal.normalize();
+        ox_solid below = whole;
+        below.clip(centre, normal);
+        ox_solid above = whole;
+        above.clip(centre, -normal);
+        const support::measure measured = support::measure_solid(whole);
+        const double area = measured.area;
+        ASSERT_NEAR(support::volume_of(below) + support::volume_of(above), measured.volume,
+                    2.0 * allowed_error_per_area(4.0) * area)
+            << "seed 12, solid " << i << '\n'
+            << support::to_text(whole);
+    }
+}
+
+} // namespace

@@ -78,15 +78,19 @@ void ox_matrix::translation(const ox_3dvector& t) {
 
 void ox_matrix::axis_transformation(const ox_3dvector& o, const ox_3dvector& x,
                                     const ox_3dvector& y, const ox_3dvector& z) {
-    const float values[16] = {x.x, y.x, z.x, 0.f, x.y,           y.y,           z.y,           0.f,
-                              x.z, y.z, z.z, 0.f, -ox_dot(o, x), -ox_dot(o, y), -ox_dot(o, z), 1.f};
+    const float values[16] = {x.x,           y.x,           z.x,           0.f,  // image of +x
+                              x.y,           y.y,           z.y,           0.f,  // image of +y
+                              x.z,           y.z,           z.z,           0.f,  // image of +z
+                              -ox_dot(o, x), -ox_dot(o, y), -ox_dot(o, z), 1.f}; // of the origin
     load_from_float(values);
 }
 
 void ox_matrix::inv_axis_transformation(const ox_3dvector& o, const ox_3dvector& x,
                                         const ox_3dvector& y, const ox_3dvector& z) {
-    const float values[16] = {x.x, x.y, x.z, 0.f, y.x, y.y, y.z, 0.f,
-                              z.x, z.y, z.z, 0.f, o.x, o.y, o.z, 1.f};
+    const float values[16] = {x.x, x.y, x.z, 0.f,  // image of +x
+                              y.x, y.y, y.z, 0.f,  // image of +y
+                              z.x, z.y, z.z, 0.f,  // image of +z
+                              o.x, o.y, o.z, 1.f}; // image of the origin
     load_from_float(values);
 }
 

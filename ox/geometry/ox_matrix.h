@@ -62,8 +62,8 @@ public:
     /// Replaces all elements by 16 floats in storage order; a null pointer changes nothing.
     OX_EXPORT void load_from_float(const float* values);
 
-    /// Replaces all elements by 16 doubles in storage order, each rounded to float; a null
-    /// pointer changes nothing.
+    /// Replaces all elements by 16 doubles in storage order, each rounded to float (infinite
+    /// beyond its range); a null pointer changes nothing.
     OX_EXPORT void load_from_double(const double* values);
 
     /// Makes this the rotation by `angle` (radians) about a coordinate axis, 0 = x, 1 = y,

@@ -129,9 +129,7 @@ public:
             reallocate(grown_capacity(live));
         }
         const int place = std::clamp(position, 0, live);
-        for (int i = live; i > place; --i) {
-            data[i] = data[i - 1];
-        }
+        std::copy_backward(data + place, data + live, data + live + 1);
         data[place] = kept;
         count = live + 1;
     }
@@ -150,9 +148,7 @@ public:
         if (position < 0 || position >= count) {
             return;
         }
-        for (int i = position; i < count - 1; ++i) {
-            data[i] = data[i + 1];
-        }
+        std::copy(data + position + 1, data + count, data + position);
         --count;
     }
 
@@ -185,19 +181,19 @@ private:
 
     static T* new_array(int n) { return n < 1 ? nullptr : new T[static_cast<std::size_t>(n)]; }
 
-    /// A new array of `n` elements, the first `copied` of them taken from `source`. Plain values
-    /// are copied as bytes, since spare slots may never have been given a value.
+    /// A new array of `n` elements, the first `copied` of them taken from `source`, null for none.
+    /// Plain values are copied as bytes, since spare slots may never have been given a value.
     static T* new_array_from(const T* source, int copied, int n) {
         std::unique_ptr<T[]> array(new_array(n));
+        if (array == nullptr || source == nullptr || copied < 1) {
+            return array.release();
+        }
+        const std::size_t length = static_cast<std::size_t>(copied);
         if constexpr (std::is_trivially_copyable_v<T>) {
-            if (copied > 0) {
-                std::memcpy(static_cast<void*>(array.get()), static_cast<const void*>(source),
-                            static_cast<std::size_t>(copied) * sizeof(T));
-            }
+            std::memcpy(static_cast<void*>(array.get()), static_cast<const void*>(source),
+                        length * sizeof(T));
         } else {
-            for (int i = 0; i < copied; ++i) {
-                array[static_cast<std::size_t>(i)] = source[i];
-            }
+            std::copy(source, source + length, array.get());
         }
         return array.release();
     }

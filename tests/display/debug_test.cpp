@@ -91,9 +91,9 @@ TEST(OxDebug, NullChildrenAreSkipped) {
 
 TEST(OxDebug, AListOfChildrenWithANegativeCountIsEmpty) {
     ox_debug node;
-    node.children.set_size(-3);
+    node.children = ox_list<ox_debug*>(-3);
     ox_debug* child = new ox_debug;
-    child->children.set_size(-1);
+    child->children = ox_list<ox_debug*>(-1);
     node.children.push_right(child);
     EXPECT_EQ(node.children.size(), 1);
 }

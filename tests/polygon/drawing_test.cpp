@@ -172,7 +172,8 @@ TEST_F(OxPolygonDrawing, AContourLineRunsAllTheWayRound) {
     polygon.add_contour(square(16.5f, 47.5f));
     polygon.draw_opengl_contour(false);
     const ox_examples::image picture = get_picture();
-    for (int i = 16; i < 48; ++i) {
+    // OpenGL leaves it open whether the pixel of a corner belongs to a line that ends there.
+    for (int i = 17; i < 47; ++i) {
         EXPECT_EQ(pixel_at(picture, i, 16), ox_test::white) << "upper side, " << i;
         EXPECT_EQ(pixel_at(picture, i, 47), ox_test::white) << "lower side, " << i;
         EXPECT_EQ(pixel_at(picture, 16, i), ox_test::white) << "left side, " << i;

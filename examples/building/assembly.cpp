@@ -1,0 +1,173 @@
+#include <examples/building/assembly.h>
+
+#include <examples/building/layout.h>
+#include <examples/building/shapes.h>
+#include <examples/building/volumes.h>
+
+#include <ox/core/ox_chrono.h>
+
+#include <algorithm>
+
+namespace building {
+
+namespace {
+
+/// Metres by which the hollow of a roof reaches beyond the roof, at the eaves and below.
+constexpr double hollow_reach = 0.1;
+
+/// Metres of a block above the highest point of the slopes that are to cut it.
+constexpr double headroom = 1;
+
+ox::ox_solid wall_solid(const wall& w, double floor) {
+    const plan_contour base = footprint(w);
+    const ox::ox_3dvector origin = at_height(base[0], floor);
+    ox::ox_solid solid;
+    solid.brick(origin, at_height(base[1], floor) - origin, at_height(base[3], floor) - origin,
+                at_height({}, w.height));
+    return solid;
+}
+
+/// What an opening takes out of its wall: a box that sticks out on both sides, and a door's also
+/// below the floor.
+ox::ox_solid cutter_solid(const opening& o, const wall& w, double floor) {
+    const double below = o.sill == 0 ? cutter_reach : 0;
+    const double bottom = floor + o.sill - below;
+    const plan_contour base = footprint(o, w);
+    const ox::ox_3dvector origin = at_height(base[0], bottom);
+    ox::ox_solid solid;
+    solid.brick(origin, at_height(base[1], bottom) - origin, at_height(base[3], bottom) - origin,
+                at_height({}, o.height + below));
+    return solid;
+}
+
+/// Keeps what lies under the planes.
+void clip_under(ox::ox_solid& solid, const std::vector<height_plane>& planes) {
+    for (const height_plane& plane : planes) {
+        const ox::ox_3dvector corner = solid.get_bounding_box().origin;
+        const plan_point below = {corner.x, corner.y};
+        ox::ox_3dvector normal(static_cast<float>(-plane.dx), static_cast<float>(-plane.dy), 1);
+        normal.normalize();
+        solid.clip(at_height(below, plane.at(below)), normal);
+    }
+}
+
+/// What stands on `base`, which lies at height `bottom`, up to the lowest of the planes.
+ox::ox_solid solid_under(ox::ox_polygon base, double bottom,
+                         const std::vector<height_plane>& planes) {
+    double top = bottom;
+    for (const ox::ox_3dvector& corner : base.get_contour_vertices()) {
+        for (const height_plane& plane : planes) {
+            top = std::max(top, plane.at({corner.x, corner.y}));
+        }
+    }
+    ox::ox_solid solid;
+    solid.extrusion(base, at_height({}, top + headroom - bottom));
+    clip_under(solid, planes);
+    return solid;
+}
+
+/// Joins the walls of a storey, then cuts all openings at once, then ends the walls at the roof.
+/// The cutting solids are joined first: side by side they would otherwise cut along each other's
+/// faces.
+ox::ox_solid storey_solid(const description& d, std::size_t storey, progress& steps) {
+    const double floor = d.storeys[storey].level;
+    ox::ox_solid walls;
+    for (const wall& w : d.walls) {
+        if (w.storey == storey) {
+            steps.advance("wall " + w.name);
+            ox::ox_solid solid = wall_solid(w, floor);
+            walls.unites(solid);
+        }
+    }
+    ox::ox_solid cutters;
+    for (const opening& o : d.openings) {
+        const wall& w = d.walls[o.wall];
+        if (w.storey == storey) {
+            steps.advance("opening " + o.name);
+            ox::ox_solid solid = cutter_solid(o, w, floor);
+            cutters.unites(solid);
+        }
+    }
+    walls.substracts(cutters);
+    clip_under(walls, ceilings(d, storey));
+    return walls;
+}
+
+/// Sweeps the slab's polygon from its lower side up: along the polygon's normal, so that the faces
+/// look outwards.
+ox::ox_solid slab_solid(const slab& s) {
+    ox::ox_polygon base = level_polygon(s.outline, s.holes, s.level - s.thickness);
+    ox::ox_solid solid;
+    solid.extrusion(base, at_height({}, s.thickness));
+    return solid;
+}
+
+/// A block clipped by the upper sides of the slopes, hollowed by a larger one clipped by their
+/// lower sides.
+ox::ox_solid roof_solid(const roof& r) {
+    std::vector<height_plane> upper;
+    std::vector<height_plane> lower;
+    for (const slope& s : r.slopes) {
+        upper.push_back(upper_side(s));
+        lower.push_back(lower_side(s, r.thickness));
+    }
+    ox::ox_solid solid = solid_under(level_polygon(r.outline, {}, r.level), r.level, upper);
+
+    ox::ox_polygon base = level_polygon(r.outline, {}, r.level - hollow_reach);
+    base.offset(static_cast<float>(hollow_reach), ox::ox_polygon::join_miter);
+    ox::ox_solid hollow = solid_under(base, r.level - hollow_reach, lower);
+    solid.substracts(hollow);
+    return solid;
+}
+
+bool has_walls(const description& d, std::size_t storey) {
+    return std::any_of(d.walls.begin(), d.walls.end(),
+                       [storey](const wall& w) { return w.storey == storey; });
+}
+
+} // namespace
+
+int count_steps(const description& d) {
+    return static_cast<int>(d.walls.size() + d.openings.size() + d.slabs.size() + d.roofs.size());
+}
+
+std::vector<element> assemble(const description& d, progress& steps) {
+    std::vector<element> elements;
+    const auto add = [&elements](element e, const auto& make_solid) {
+        ox::ox_chrono chrono;
+        chrono.start();
+        e.solid = make_solid();
+        e.seconds = chrono.elapsed();
+        elements.push_back(e);
+    };
+
+    for (std::size_t storey = 0; storey < d.storeys.size(); ++storey) {
+        if (has_walls(d, storey)) {
+            element e;
+            e.name = "walls of storey " + std::to_string(storey);
+            e.storey = storey;
+            e.expected_volume = walls_volume(d, storey);
+            add(e, [&] { return storey_solid(d, storey, steps); });
+        }
+    }
+    for (const slab& s : d.slabs) {
+        steps.advance("slab " + s.name);
+        element e;
+        e.name = "slab " + s.name;
+        e.kind = element_kind::slab;
+        e.level = s.level;
+        e.expected_volume = slab_volume(s);
+        add(e, [&] { return slab_solid(s); });
+    }
+    for (const roof& r : d.roofs) {
+        steps.advance("roof " + r.name);
+        element e;
+        e.name = "roof " + r.name;
+        e.kind = element_kind::roof;
+        e.expected_volume = roof_volume(r);
+        add(e, [&] { return roof_solid(r); });
+    }
+    return elements;
+}
+
+} // namespace building

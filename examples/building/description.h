@@ -1,0 +1,101 @@
+#ifndef OX_EXAMPLES_BUILDING_DESCRIPTION_H
+#define OX_EXAMPLES_BUILDING_DESCRIPTION_H
+
+#include <cstddef>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace building {
+
+/// A point of the ground plan, in metres.
+struct plan_point {
+    double x = 0;
+    double y = 0;
+};
+
+using plan_contour = std::vector<plan_point>;
+
+/// A storey: its position in the list is its number, `level` the height of its floor.
+struct storey {
+    double level = 0;
+};
+
+/// An upright wall: a box along the axis `from`-`to`, standing on the floor of its storey.
+struct wall {
+    std::string name;
+    std::size_t storey = 0;
+    plan_point from;
+    plan_point to;
+    double thickness = 0;
+    double height = 0;
+    int line = 0;
+};
+
+/// A rectangular hole through a wall. `distance` runs along the axis from the wall's `from`, and
+/// `sill` up from the floor: 0 makes a door.
+struct opening {
+    std::string name;
+    std::size_t wall = 0;
+    double distance = 0;
+    double sill = 0;
+    double width = 0;
+    double height = 0;
+    int line = 0;
+};
+
+/// A horizontal slab whose top lies at `level`, with holes for stairs.
+struct slab {
+    std::string name;
+    double level = 0;
+    double thickness = 0;
+    plan_contour outline;
+    std::vector<plan_contour> holes;
+    int line = 0;
+};
+
+/// An inclined plane, the upper side of a roof. It passes through `from` and `to` at `level` and
+/// rises by `rise` metres with each metre to the left of that line.
+struct slope {
+    plan_point from;
+    plan_point to;
+    double level = 0;
+    double rise = 0;
+};
+
+/// A roof: what lies above `level`, inside the convex outline, and no deeper than `thickness` below
+/// the lowest of its slopes. The walls of its storey end at its underside.
+struct roof {
+    std::string name;
+    std::size_t storey = 0;
+    double level = 0;
+    double thickness = 0;
+    plan_contour outline;
+    std::vector<slope> slopes;
+    int line = 0;
+};
+
+/// A whole building as its text file describes it; README.md documents the file.
+struct description {
+    std::string name;
+    std::vector<storey> storeys;
+    std::vector<wall> walls;
+    std::vector<opening> openings;
+    std::vector<slab> slabs;
+    std::vector<roof> roofs;
+};
+
+/// What is wrong with a description, as `file:line: reason`.
+class description_error : public std::runtime_error {
+public:
+    description_error(const std::string& file, int line, const std::string& reason)
+        : std::runtime_error(file + ":" + std::to_string(line) + ": " + reason) {}
+};
+
+/// Reads and checks the description at `path`. Throws `description_error` at the first thing that
+/// is wrong; line 0 stands for the file as a whole.
+description read_description(const std::string& path);
+
+} // namespace building
+
+#endif

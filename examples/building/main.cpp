@@ -1,0 +1,80 @@
+#include <examples/building/assembly.h>
+#include <examples/building/description.h>
+#include <examples/building/drawing.h>
+#include <examples/building/floor_plan.h>
+#include <examples/building/obj_file.h>
+#include <examples/building/output_folder.h>
+#include <examples/building/progress.h>
+#include <examples/building/report.h>
+
+#include <examples/support/png_file.h>
+
+#include <cstdio>
+#include <exception>
+#include <string>
+
+namespace {
+
+/// The process's exit status.
+enum status { all_well = 0, refused = 1, volume_off = 2 };
+
+struct arguments {
+    std::string description;
+    std::string folder = ".";
+};
+
+/// Reads `DESCRIPTION [--out DIR]`. Returns false when the command line is something else.
+bool parse(int argc, char** argv, arguments& result) {
+    for (int i = 1; i < argc; ++i) {
+        const std::string argument = argv[i];
+        if (argument == "--out" && i + 1 < argc) {
+            result.folder = argv[++i];
+        } else if (argument.rfind("--", 0) != 0 && result.description.empty()) {
+            result.description = argument;
+        } else {
+            return false;
+        }
+    }
+    return !result.description.empty();
+}
+
+void write_files(building::output_folder& folder, const building::description& d,
+                 std::vector<building::element>& elements) {
+    building::write_obj(folder.add(d.name + ".obj"), elements);
+    ox_examples::write_png(folder.add(d.name + ".png"), building::draw_view(elements));
+    for (std::size_t storey = 0; storey < d.storeys.size(); ++storey) {
+        building::floor_plan plan = building::plan_of(d, elements, storey);
+        ox_examples::write_png(folder.add("plan-" + std::to_string(storey) + ".png"),
+                               building::draw_plan(plan, building::bounding_box(elements)));
+    }
+    folder.publish();
+}
+
+/// From the description to the files and the table.
+status run(const arguments& wanted) {
+    const building::description d = building::read_description(wanted.description);
+    building::output_folder folder(wanted.folder, d.name);
+    std::vector<building::element> elements;
+    {
+        building::progress steps(building::count_steps(d));
+        elements = building::assemble(d, steps);
+    }
+    write_files(folder, d, elements);
+    return building::report(d.name, elements) ? all_well : volume_off;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    arguments wanted;
+    if (!parse(argc, argv, wanted)) {
+        std::fprintf(stderr, "usage: %s DESCRIPTION [--out DIR]\n", argv[0]);
+        return refused;
+    }
+    try {
+        return run(wanted);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        return refused;
+    }
+}

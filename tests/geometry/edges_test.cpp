@@ -141,7 +141,8 @@ TEST(ProjectOnEdge, AnswersAsThePointTestDoesAndLandsOnTheLine) {
         const ox_3dvector start = random.vector(3.f);
         const ox_3dvector direction = random.direction();
         const ox_3dvector end = start + direction * random.number(0.f, 4.f);
-        const ox_3dvector p = start + direction * random.number(-1.f, 5.f) + random.vector(0.5f);
+        const ox_3dvector on_line = start + direction * random.number(-1.f, 5.f);
+        const ox_3dvector p = on_line + random.vector(0.5f);
         ox_3dvector projected = p;
         const bool found = projected.project_on_edge(start, end, 0.4f);
         ASSERT_EQ(found, p.is_on_edge(start, end, 0.4f));

@@ -64,13 +64,14 @@ TEST(Ox3dVector, InPlaceOperatorsWorkComponentByComponent) {
 
 TEST(Ox3dVector, InPlaceOperatorsAcceptTheVectorItself) {
     ox_3dvector v(3.f, 5.f, 7.f);
-    v += v;
+    const ox_3dvector& itself = v;
+    v += itself;
     EXPECT_EQ(v, ox_3dvector(6.f, 10.f, 14.f));
-    v *= v;
+    v *= itself;
     EXPECT_EQ(v, ox_3dvector(36.f, 100.f, 196.f));
-    v /= v;
+    v /= itself;
     EXPECT_EQ(v, ox_3dvector(1.f, 1.f, 1.f));
-    v -= v;
+    v -= itself;
     EXPECT_EQ(v, ox_3dvector());
 }
 
@@ -200,7 +201,8 @@ TEST(Ox3dVector, BuildAxisCrossesPlusYWithAVectorNearZ) {
 TEST(Ox3dVector, BuildAxisGivesAnOrthonormalRightHandedFrame) {
     sampler random(3);
     for (int i = 0; i < 5000; ++i) {
-        ox_3dvector w = random.direction() * random.number(0.01f, 100.f);
+        ox_3dvector w = random.direction();
+        w *= random.number(0.01f, 100.f);
         ox_3dvector u, v;
         w.build_axis(u, v);
         EXPECT_NEAR(w.size(), 1.f, 1e-6f);

@@ -173,7 +173,8 @@ TEST(OxBox, PlaneStatusTellsTheSide) {
 TEST(OxBox, PlaneStatusAgreesWithItsCorners) {
     sampler random(9);
     for (int i = 0; i < 3000; ++i) {
-        const ox_box box = box_of(random.vector(2.f), random.vector(2.f));
+        const ox_3dvector corner1 = random.vector(2.f);
+        const ox_box box = box_of(corner1, random.vector(2.f));
         const ox_3dvector point = random.vector(2.f);
         const ox_3dvector normal = random.direction();
         int clearly_negative = 0;
@@ -231,9 +232,13 @@ TEST(OxBox, UnionDoesNotDependOnTheOrderOnAGridOfWholeNumbers) {
         const ox_3dvector p = random.vector(50.f);
         return ox_3dvector(std::floor(p.x), std::floor(p.y), std::floor(p.z));
     };
+    const auto random_box = [&corner] {
+        const ox_3dvector p = corner();
+        return box_of(p, corner());
+    };
     for (int i = 0; i < 2000; ++i) {
-        const ox_box first = box_of(corner(), corner());
-        const ox_box second = box_of(corner(), corner());
+        const ox_box first = random_box();
+        const ox_box second = random_box();
         ox_box forward = first;
         forward.enlarge(second);
         ox_box backward = second;

@@ -96,8 +96,9 @@ TEST(OxPolar, RoundTripReturnsThePoint) {
 TEST(OxPolar, AnglesRoundTripAwayFromThePoles) {
     sampler random(7);
     for (int i = 0; i < 5000; ++i) {
-        const ox_polar start(random.number(0.1f, 10.f), random.number(-1.4f, 1.4f),
-                             random.number(-3.1f, 3.1f));
+        const float radius = random.number(0.1f, 10.f);
+        const float latitude = random.number(-1.4f, 1.4f);
+        const ox_polar start(radius, latitude, random.number(-3.1f, 3.1f));
         const ox_polar back = start.to_3dvector();
         EXPECT_NEAR(back.radius, start.radius, 1e-5f);
         EXPECT_NEAR(back.latitude, start.latitude, 1e-4f);

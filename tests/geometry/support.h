@@ -40,7 +40,8 @@ bool same_bits(const T& a, const T& b) {
 }
 
 /// Repeatable random numbers: the generator's output is the same everywhere, and so is the
-/// arithmetic on it, which the standard distributions do not promise.
+/// arithmetic on it, which the standard distributions do not promise. Draw once per statement:
+/// compilers choose the order of several draws in one.
 class sampler {
 public:
     explicit sampler(unsigned int seed) : source(seed) {}
@@ -49,6 +50,13 @@ public:
     float number(float low, float high) {
         const double share = static_cast<double>(source()) / 4294967295.0;
         return low + static_cast<float>(share) * (high - low);
+    }
+
+    /// A vector of the plane with both components in [-reach, reach].
+    ox::ox_2dvector plane_vector(float reach) {
+        const float x = number(-reach, reach);
+        const float y = number(-reach, reach);
+        return ox::ox_2dvector(x, y);
     }
 
     /// A vector with each component in [-reach, reach].

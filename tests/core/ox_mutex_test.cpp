@@ -5,9 +5,17 @@
 #include <thread>
 #include <vector>
 
-namespace {
+// A program cannot replace the allocation of a Windows library, nor the one that the sanitizers of
+// Clang bring along.
+#if defined(__clang__) && !defined(_WIN32)
+#if !__has_feature(thread_sanitizer) && !__has_feature(address_sanitizer)
+#define CAN_REPLACE_ALLOCATION
+#endif
+#elif !defined(_WIN32)
+#define CAN_REPLACE_ALLOCATION
+#endif
 
-thread_local bool refuse_memory = false;
+namespace {
 
 /// Adds to a plain counter from several threads under `mutex` and returns the sum.
 int count_with_threads(ox::ox_mutex& mutex) {
@@ -30,7 +38,11 @@ int count_with_threads(ox::ox_mutex& mutex) {
 
 } // namespace
 
-#ifndef _WIN32
+#ifdef CAN_REPLACE_ALLOCATION
+
+namespace {
+thread_local bool refuse_memory = false;
+}
 
 // Replaces the allocation that reports failure by null, for the library too.
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept {

@@ -198,6 +198,19 @@ TEST(Ox3dVector, BuildAxisCrossesPlusYWithAVectorNearZ) {
     EXPECT_EQ(v, ox_3dvector(0.f, 1.f, 0.f));
 }
 
+TEST(Ox3dVector, BuildAxisChangesItsReferenceAxisAtACosineOf099) {
+    ox_3dvector u, v;
+    ox_3dvector below(0.1425f, 0.f, 0.9898f);
+    below.build_axis(u, v);
+    EXPECT_LT(below.z, 0.99f);
+    EXPECT_FLOAT_EQ(u.y, 1.f); // across +z
+    ox_3dvector above(0.1404f, 0.f, 0.9901f);
+    above.build_axis(u, v);
+    EXPECT_GT(above.z, 0.99f);
+    EXPECT_EQ(u.y, 0.f); // across +y
+    EXPECT_GT(u.x, 0.98f);
+}
+
 TEST(Ox3dVector, BuildAxisGivesAnOrthonormalRightHandedFrame) {
     sampler random(3);
     for (int i = 0; i < 5000; ++i) {

@@ -179,6 +179,16 @@ TEST(OxColor, FieldOfOneDigitIsEnough) {
     expect_color(c, 15.f / 255.f, 15.f / 255.f, 15.f / 255.f, 1.f);
 }
 
+TEST(OxColor, FieldsMayStartWithWhiteSpaceOrASignAsInAnyScan) {
+    ox_color c;
+    EXPECT_TRUE(c.decode_string("# 7f\t00\nff"));
+    expect_color(c, 127.f / 255.f, 0.f, 1.f, 1.f);
+    EXPECT_TRUE(c.decode_string("#+f+f+f"));
+    expect_color(c, 15.f / 255.f, 15.f / 255.f, 15.f / 255.f, 1.f);
+    EXPECT_TRUE(c.decode_string("#-10000"));
+    EXPECT_EQ(c.r, 4294967295.f / 255.f);
+}
+
 TEST(OxColor, WhatFollowsTheThreeFieldsIsNotLookedAt) {
     ox_color c;
     EXPECT_TRUE(c.decode_string("#ff000080 and more"));

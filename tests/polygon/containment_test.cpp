@@ -1,0 +1,191 @@
+#include <limits>
+
+#include <gtest/gtest.h>
+
+#include <ox/polygon/ox_polygon.h>
+#include <tests/reference/contains.h>
+#include <tests/reference/plane_frame.h>
+#include <tests/support/generator.h>
+#include <tests/support/random_shapes.h>
+
+namespace {
+
+using ox::ox_3dvector;
+using ox::ox_box;
+using ox::ox_polygon;
+using support::frame;
+using support::generator;
+using support::rectangle;
+using support::rectangle_polygon;
+
+constexpr float infinity = std::numeric_limits<float>::infinity();
+constexpr float not_a_number = std::numeric_limits<float>::quiet_NaN();
+
+// The point of the polygon's plane with the given coordinates in its frame.
+ox_3dvector at(ox_polygon& polygon, float u, float v) {
+    const reference::plane_frame axes(polygon);
+    return axes.point + axes.dx * u + axes.dy * v;
+}
+
+ox_box box(const ox_3dvector& origin, const ox_3dvector& size) {
+    ox_box result;
+    result.origin = origin;
+    result.size = size;
+    return result;
+}
+
+} // namespace
+
+TEST(OxPolygonContains, IsFalseForAPolygonWithoutContours) {
+    ox_polygon polygon(ox_3dvector(), ox_3dvector(0.0f, 0.0f, 1.0f));
+    EXPECT_FALSE(polygon.contains(ox_3dvector()));
+}
+
+TEST(OxPolygonContains, TellsInsideFromOutside) {
+    ox_polygon square = rectangle_polygon(0.0f, 0.0f, 1.0f, 1.0f);
+    EXPECT_TRUE(square.contains(ox_3dvector(0.5f, 0.5f, 0.0f)));
+    EXPECT_TRUE(square.contains(ox_3dvector(0.01f, 0.99f, 0.0f)));
+    EXPECT_FALSE(square.contains(ox_3dvector(-0.01f, 0.5f, 0.0f)));
+    EXPECT_FALSE(square.contains(ox_3dvector(1.01f, 0.5f, 0.0f)));
+    EXPECT_FALSE(square.contains(ox_3dvector(0.5f, -0.01f, 0.0f)));
+    EXPECT_FALSE(square.contains(ox_3dvector(0.5f, 1.01f, 0.0f)));
+}
+
+TEST(OxPolygonContains, IgnoresTheDistanceFromThePlane) {
+    ox_polygon square = rectangle_polygon(0.0f, 0.0f, 1.0f, 1.0f);
+    EXPECT_TRUE(square.contains(ox_3dvector(0.5f, 0.5f, 1000.0f)));
+    EXPECT_TRUE(square.contains(ox_3dvector(0.5f, 0.5f, -1000.0f)));
+}
+
+TEST(OxPolygonContains, LeavesOutHolesAndTakesIslandsInThem) {
+    ox_polygon polygon = rectangle_polygon(0.0f, 0.0f, 6.0f, 6.0f);
+    polygon.add_contour(rectangle(1.0f, 1.0f, 5.0f, 5.0f));
+    polygon.add_contour(rectangle(2.0f, 2.0f, 4.0f, 4.0f));
+    EXPECT_TRUE(polygon.contains(ox_3dvector(0.5f, 3.1f, 0.0f)));
+    EXPECT_FALSE(polygon.contains(ox_3dvector(1.5f, 3.1f, 0.0f)));
+    EXPECT_TRUE(polygon.contains(ox_3dvector(3.0f, 3.1f, 0.0f)));
+}
+
+TEST(OxPolygonContains, ClassifiesPointsOnTheOutlineByTheCountingRules) {
+    // In the frame, an edge owns its lower end and not its upper one, and a crossing at the point
+    // itself counts as right of it. So the lower and the right side of a square are inside, its
+    // upper and its left side are not.
+    ox_polygon square = rectangle_polygon(0.0f, 0.0f, 1.0f, 1.0f);
+    float u_low = 0.0f;
+    float v_low = 0.0f;
+    for (const ox_3dvector& vertex : square.get_contour_vertices()) {
+        const ox::ox_2dvector q = reference::plane_frame(square).coordinates(vertex);
+        u_low = q.x < u_low ? q.x : u_low;
+        v_low = q.y < v_low ? q.y : v_low;
+    }
+    const float u_high = u_low + 1.0f;
+    const float v_high = v_low + 1.0f;
+    const auto contains = [&](float u, float v) { return square.contains(at(square, u, v)); };
+    const float u_middle = u_low + 0.5f;
+    const float v_middle = v_low + 0.5f;
+    EXPECT_TRUE(contains(u_middle, v_low)) << "on the lower horizontal side";
+    EXPECT_FALSE(contains(u_middle, v_high)) << "on the upper horizontal side";
+    EXPECT_FALSE(contains(u_low, v_middle)) << "nothing is left of the left side";
+    EXPECT_TRUE(contains(u_high, v_middle)) << "the right side itself counts as right";
+    EXPECT_FALSE(contains(u_low, v_low));
+    EXPECT_TRUE(contains(u_high, v_low));
+    EXPECT_FALSE(contains(u_low, v_high));
+    EXPECT_FALSE(contains(u_high, v_high));
+}
+
+TEST(OxPolygonContains, IsFalseForAPointThatIsNotFinite) {
+    ox_polygon square = rectangle_polygon(-1.0f, -1.0f, 1.0f, 1.0f);
+    for (const float bad : {infinity, -infinity, not_a_number}) {
+        EXPECT_FALSE(square.contains(ox_3dvector(bad, 0.0f, 0.0f)));
+        EXPECT_FALSE(square.contains(ox_3dvector(0.0f, bad, 0.0f)));
+        EXPECT_FALSE(square.contains(ox_3dvector(bad, bad, bad)));
+    }
+}
+
+TEST(OxPolygonContains, IsFalseInAPlaneThatIsNotFinite) {
+    for (const float bad : {infinity, -infinity, not_a_number}) {
+        ox_polygon square = rectangle_polygon(-1.0f, -1.0f, 1.0f, 1.0f);
+        square.get_area();
+        square.set_point(ox_3dvector(bad, bad, bad));
+        EXPECT_FALSE(square.contains(ox_3dvector()));
+    }
+}
+
+TEST(OxPolygonContains, EqualsThePlainCountOnAndAroundTheOutline) {
+    generator random(601);
+    for (int i = 0; i < 1500; ++i) {
+        ox_polygon polygon;
+        const int contours = random.between(1, 3);
+        for (int c = 0; c < contours; ++c) {
+            polygon.add_contour(support::random_tangle(random, random.between(3, 8), 2));
+        }
+        if (polygon.get_contour_sizes().size() == 0) {
+            continue;
+        }
+        ASSERT_TRUE(reference::has_reproducible_frame(polygon));
+        const ox::ox_list<ox_3dvector> vertices = polygon.get_contour_vertices();
+        for (int k = 0; k < 20; ++k) {
+            const ox_3dvector& a = vertices[random.between(0, vertices.size() - 1)];
+            const ox_3dvector& b = vertices[random.between(0, vertices.size() - 1)];
+            for (const ox_3dvector& p :
+                 {a, ox_3dvector(a.x, b.y, a.z), (a + b) * 0.5f, random_point(random, 3.0)}) {
+                ASSERT_EQ(polygon.contains(p), reference::contains(polygon, p))
+                    << "polygon " << i << ", point " << p.x << ' ' << p.y << ' ' << p.z;
+            }
+        }
+    }
+}
+
+TEST(OxPolygonContains, EqualsThePlainCountInSlantedPlanes) {
+    generator random(602);
+    int compared = 0;
+    for (int i = 0; i < 1000; ++i) {
+        const frame axes = support::random_frame(random);
+        const ox_3dvector origin = support::random_point(random, i % 2 == 0 ? 1.0 : 1e6);
+        ox::ox_list<ox_3dvector> vertices;
+        const int corners = random.between(3, 9);
+        for (int k = 0; k < corners; ++k) {
+            const float x = random.grid(-3, 3);
+            const float y = random.grid(-3, 3);
+            vertices.push_right(origin + axes.x * x + axes.y * y);
+        }
+        ox_polygon polygon;
+        polygon.add_contour(vertices);
+        if (!reference::has_reproducible_frame(polygon)) {
+            continue;
+        }
+        ++compared;
+        for (int k = 0; k < 10; ++k) {
+            const ox_3dvector p = origin + support::random_point(random, 3.0);
+            ASSERT_EQ(polygon.contains(p), reference::contains(polygon, p)) << "polygon " << i;
+        }
+    }
+    EXPECT_GT(compared, 200);
+}
+
+TEST(OxPolygonMayIntersect, IsTrueForBoxesThatTouchWithinTheTolerance) {
+    ox_polygon square = rectangle_polygon(0.0f, 0.0f, 1.0f, 1.0f);
+    const ox_3dvector unit(1.0f, 1.0f, 1.0f);
+    EXPECT_TRUE(square.may_intersect(box(ox_3dvector(1.0f, 0.0f, 0.0f), unit)));
+    EXPECT_TRUE(square.may_intersect(box(ox_3dvector(1.00005f, 0.0f, 0.0f), unit)));
+    EXPECT_TRUE(square.may_intersect(box(ox_3dvector(-1.00005f, 0.0f, 0.0f), unit)));
+    EXPECT_TRUE(square.may_intersect(box(ox_3dvector(0.0f, 0.0f, 0.00005f), unit)));
+}
+
+TEST(OxPolygonMayIntersect, IsFalseForBoxesApartAlongAnyAxis) {
+    ox_polygon square = rectangle_polygon(0.0f, 0.0f, 1.0f, 1.0f);
+    const ox_3dvector unit(1.0f, 1.0f, 1.0f);
+    EXPECT_FALSE(square.may_intersect(box(ox_3dvector(1.001f, 0.0f, 0.0f), unit)));
+    EXPECT_FALSE(square.may_intersect(box(ox_3dvector(-1.001f, 0.0f, 0.0f), unit)));
+    EXPECT_FALSE(square.may_intersect(box(ox_3dvector(0.0f, 1.001f, 0.0f), unit)));
+    EXPECT_FALSE(square.may_intersect(box(ox_3dvector(0.0f, -1.001f, 0.0f), unit)));
+    EXPECT_FALSE(square.may_intersect(box(ox_3dvector(0.0f, 0.0f, 0.001f), unit)));
+    EXPECT_FALSE(square.may_intersect(box(ox_3dvector(0.0f, 0.0f, -1.001f), unit)));
+}
+
+TEST(OxPolygonMayIntersect, OnlyComparesBoxes) {
+    // The box lies in the notch of the L: the polygon is not met, but its box is.
+    ox_polygon l = rectangle_polygon(0.0f, 0.0f, 4.0f, 4.0f);
+    l.substracts(rectangle_polygon(1.0f, 1.0f, 4.0f, 4.0f));
+    EXPECT_TRUE(l.may_intersect(box(ox_3dvector(2.0f, 2.0f, 0.0f), ox_3dvector(1.0f, 1.0f, 1.0f))));
+}

@@ -1,0 +1,17 @@
+#ifndef OX_TESTS_REFERENCE_PLANE_SECTION_H
+#define OX_TESTS_REFERENCE_PLANE_SECTION_H
+
+#include <memory>
+
+#include <ox/solid/ox_solid.h>
+
+namespace reference {
+
+/// Plain version of the cross-section of a solid by a plane, as one polygon; none when the plane
+/// meets no face.
+std::unique_ptr<ox::ox_polygon> plane_section(ox::ox_solid& solid, const ox::ox_3dvector& point,
+                                              const ox::ox_3dvector& normal, float tolerance);
+
+} // namespace reference
+
+#endif

@@ -275,8 +275,8 @@ public:
     static double get_compute_contour_time();
 
     /// Tells how a contour turns when seen from the side `normal` points to: 1 clockwise, -1
-    /// counter-clockwise or empty, 0 when fewer than three vertices differ in succession.
-    /// Repeated vertices are skipped. O(n).
+    /// counter-clockwise, collinear or empty, 0 when the vertices coincide or the contour only
+    /// goes from one point to another. Repeated vertices are skipped. O(n).
     static int is_clockwise(const ox_list<ox_3dvector>& contour, const ox_3dvector& normal);
 
     /// The area of a triangle by Heron's formula, in squared model units; 0 for a triangle so

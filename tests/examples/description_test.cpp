@@ -60,7 +60,7 @@ TEST(BuildingDescription, BytesThatCannotBePrintedAreNotRepeated) {
         read_description(file.path);
         FAIL();
     } catch (const description_error& error) {
-        EXPECT_EQ(error.what(), file.path + ":1: unknown keyword '?[2J??'");
+        EXPECT_EQ(error.what(), file.path + ":1: unknown keyword '?[2J?" + "?'");
     }
 }
 

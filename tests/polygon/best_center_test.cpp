@@ -342,7 +342,7 @@ TEST(OxPolygonBestCenter, EqualsThePlainScanAfterTransformationsThatChangeTheAxe
         ASSERT_TRUE(reference::has_reproducible_frame(polygon));
         reference::plane_frame axes(polygon);
         ox_matrix stretch;
-        for (const int diagonal : {0, 5, 10}) {
+        for (const unsigned int diagonal : {0u, 5u, 10u}) {
             stretch[diagonal] = static_cast<float>(random.real(0.5, 1.6));
         }
         stretch[4] = random.one_in(2) ? static_cast<float>(random.real(-0.5, 0.5)) : 0.0f;

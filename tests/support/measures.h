@@ -171,8 +171,8 @@ private:
 constexpr double corner_tolerance = 0.001;
 
 /// Number of edge pieces of the solid's faces that no other face closes; 0 for a closed solid.
-inline int count_open_edges(ox::ox_solid& solid) {
-    edge_balance balance(corner_tolerance);
+inline int count_open_edges(ox::ox_solid& solid, double tolerance = corner_tolerance) {
+    edge_balance balance(tolerance);
     const ox::ox_list<ox::ox_polygon*>& faces = solid.get_faces();
     for (int f = 0; f < faces.size(); ++f) {
         const ox::ox_list<ox::ox_3dvector>& vertices = faces[f]->get_contour_vertices();

@@ -19,7 +19,7 @@ namespace {
 const std::string& big_table() {
     static const std::string text = [] {
         std::string rows = "a;b;c;d;e;f;g;h\n";
-        for (int row = 0; row < 1000000; ++row) {
+        for (long long row = 0; row < 1000000; ++row) {
             for (int column = 0; column < 8; ++column) {
                 rows += std::to_string((row * 7919 + column * 104729) % 1000000);
                 rows += column < 7 ? ';' : '\n';

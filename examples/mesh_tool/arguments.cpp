@@ -60,13 +60,14 @@ private:
 
 const char* const usage =
     "usage: ox_mesh_tool FILE|--generate N [--weld DISTANCE NORMAL] [--subdivide LEVELS]\n"
-    "                    [--out FOLDER]\n"
+    "                    [--out FOLDER [--y-up]]\n"
     "\n"
     "  FILE                    a mesh: binary STL, or raw when it ends in .raw\n"
     "  --generate N            a field of hills instead, N x N squares\n"
     "  --weld DISTANCE NORMAL  tolerances of welding (0.0001 10: across all edges)\n"
     "  --subdivide LEVELS      replaces each triangle by four, LEVELS times\n"
-    "  --out FOLDER            writes the mesh as .raw and .obj, and a picture, there\n";
+    "  --out FOLDER            writes the mesh as .raw and .obj, and a picture, there\n"
+    "  --y-up                  draws the mesh with its y axis upwards, not its z axis\n";
 
 arguments parse(int argc, char** argv) {
     arguments result;
@@ -80,6 +81,8 @@ arguments parse(int argc, char** argv) {
             result.normal = line.take_tolerance("normal tolerance");
         } else if (word == "--subdivide") {
             result.levels = line.take_count("number of levels", max_levels);
+        } else if (word == "--y-up") {
+            result.y_is_up = true;
         } else if (word == "--out") {
             result.folder = line.take("folder");
         } else if (word.rfind("--", 0) != 0 && result.file.empty()) {

@@ -12,6 +12,7 @@ struct arguments {
     float position = 1e-4f; // welding tolerance, in model units
     float normal = 10.f;    // welding tolerance; 10 welds across all edges
     int levels = 0;         // of subdivision
+    bool y_is_up = false;   // in the picture
     std::string folder;     // for the files, empty for none
 };
 

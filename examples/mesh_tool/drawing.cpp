@@ -22,10 +22,10 @@ constexpr int samples = 4;
 constexpr unsigned int max_triangles_with_edges = 20000;
 
 /// Looks at the sphere around the mesh from above its front left corner.
-void set_perspective(const ox::ox_3dvector& centre, double radius) {
+void set_perspective(const ox::ox_3dvector& centre, double radius, bool y_is_up) {
     constexpr double view_angle = 0.5; // radians, from top to bottom
     constexpr double aspect = double(picture_width) / picture_height;
-    const double distance = 0.85 * radius / std::sin(view_angle / 2);
+    const double distance = 1.02 * radius / std::sin(view_angle / 2);
     const double near_plane = 0.1 * distance;
     const double top = near_plane * std::tan(view_angle / 2);
     glMatrixMode(GL_PROJECTION);
@@ -33,6 +33,9 @@ void set_perspective(const ox::ox_3dvector& centre, double radius) {
     glFrustum(-top * aspect, top * aspect, -top, top, near_plane, distance + 4 * radius);
     glMatrixMode(GL_MODELVIEW);
     glLoadIdentity();
+    if (y_is_up) {
+        glRotated(90, 1, 0, 0);
+    }
     // The mesh is moved to the origin: single precision is finest there.
     gluLookAt(-0.5 * distance, -0.7 * distance, 0.5 * distance, 0, 0, 0, 0, 0, 1);
     glTranslated(-double{centre.x}, -double{centre.y}, -double{centre.z});
@@ -72,7 +75,7 @@ void draw_faces(const ox::ox_triangle_set& mesh) {
 
 } // namespace
 
-ox_examples::image draw_view(const ox::ox_triangle_set& mesh) {
+ox_examples::image draw_view(const ox::ox_triangle_set& mesh, bool y_is_up) {
     const ox::ox_box box = bounding_box(mesh);
     const double radius = std::max(1e-6, box.size.size() / 2.0);
 
@@ -80,7 +83,7 @@ ox_examples::image draw_view(const ox::ox_triangle_set& mesh) {
     glEnable(GL_MULTISAMPLE);
     glClearColor(0.97f, 0.985f, 1.f, 1.f);
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
-    set_perspective(box.origin + box.size * 0.5f, radius);
+    set_perspective(box.origin + box.size * 0.5f, radius, y_is_up);
     switch_on_light();
     glEnable(GL_DEPTH_TEST);
     glEnable(GL_POLYGON_OFFSET_FILL); // leaves the edges in front of their faces

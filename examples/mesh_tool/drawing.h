@@ -8,8 +8,8 @@
 namespace mesh_tool {
 
 /// A shaded view of the mesh from a raised corner, with its edges while there are few enough to be
-/// told apart.
-ox_examples::image draw_view(const ox::ox_triangle_set& mesh);
+/// told apart. The z axis points up in the picture, or else the y axis.
+ox_examples::image draw_view(const ox::ox_triangle_set& mesh, bool y_is_up);
 
 } // namespace mesh_tool
 

@@ -43,7 +43,7 @@ void write_files(const arguments& wanted, ox::ox_triangle_set& mesh, progress& s
     }
     mesh_tool::write_obj(folder.add(name + ".obj"), mesh);
     steps.advance("drawing");
-    ox_examples::write_png(folder.add(name + ".png"), mesh_tool::draw_view(mesh));
+    ox_examples::write_png(folder.add(name + ".png"), mesh_tool::draw_view(mesh, wanted.y_is_up));
     folder.publish();
 }
 

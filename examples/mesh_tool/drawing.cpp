@@ -21,8 +21,8 @@ constexpr int samples = 4;
 /// Triangles above which edges would cover the faces.
 constexpr unsigned int max_triangles_with_edges = 20000;
 
-/// Looks at the sphere around the mesh from above its front left corner.
-void set_perspective(const ox::ox_3dvector& centre, double radius, bool y_is_up) {
+/// Looks at the sphere around the origin from above its front left corner.
+void set_perspective(double radius) {
     constexpr double view_angle = 0.5; // radians, from top to bottom
     constexpr double aspect = double(picture_width) / picture_height;
     const double distance = 1.02 * radius / std::sin(view_angle / 2);
@@ -33,11 +33,14 @@ void set_perspective(const ox::ox_3dvector& centre, double radius, bool y_is_up)
     glFrustum(-top * aspect, top * aspect, -top, top, near_plane, distance + 4 * radius);
     glMatrixMode(GL_MODELVIEW);
     glLoadIdentity();
+    gluLookAt(-0.5 * distance, -0.7 * distance, 0.5 * distance, 0, 0, 0, 0, 0, 1);
+}
+
+/// Turns the mesh upright and moves it to the origin, where single precision is finest.
+void place_mesh(const ox::ox_3dvector& centre, bool y_is_up) {
     if (y_is_up) {
         glRotated(90, 1, 0, 0);
     }
-    // The mesh is moved to the origin: single precision is finest there.
-    gluLookAt(-0.5 * distance, -0.7 * distance, 0.5 * distance, 0, 0, 0, 0, 0, 1);
     glTranslated(-double{centre.x}, -double{centre.y}, -double{centre.z});
 }
 
@@ -83,8 +86,9 @@ ox_examples::image draw_view(const ox::ox_triangle_set& mesh, bool y_is_up) {
     glEnable(GL_MULTISAMPLE);
     glClearColor(0.97f, 0.985f, 1.f, 1.f);
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
-    set_perspective(box.origin + box.size * 0.5f, radius, y_is_up);
+    set_perspective(radius);
     switch_on_light();
+    place_mesh(box.origin + box.size * 0.5f, y_is_up);
     glEnable(GL_DEPTH_TEST);
     glEnable(GL_POLYGON_OFFSET_FILL); // leaves the edges in front of their faces
     glPolygonOffset(1.f, 1.f);

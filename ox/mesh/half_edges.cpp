@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include <ox/mesh/internal/edge_table.h>
+#include <ox/mesh/internal/side_index.h>
 
 namespace ox {
 
@@ -35,22 +35,16 @@ std::vector<half_edge> sides_of(const ox_list<unsigned int>& triangles) {
     return sides;
 }
 
-bool has_vertices(const half_edge& side, unsigned int nb_vertices) {
-    return side.start < nb_vertices && side.end < nb_vertices;
-}
-
 /// Links each side to the first one that runs the other way; tells whether all found one.
 bool link_opposites(std::vector<half_edge>& sides, unsigned int nb_vertices) {
-    oxp_edge_table first_sides(sides.size());
-    for (std::size_t i = 0; i < sides.size(); ++i) {
-        if (has_vertices(sides[i], nb_vertices)) {
-            first_sides.find_or_add(sides[i].start, sides[i].end, static_cast<std::uint32_t>(i));
-        }
-    }
+    const oxp_side_index index(static_cast<std::uint32_t>(sides.size()), nb_vertices,
+                               [&](std::uint32_t i) {
+                                   return oxp_side{sides[i].start, sides[i].end};
+                               });
     bool closed = true;
     for (half_edge& side : sides) {
-        const std::uint32_t opposite = first_sides.find(side.end, side.start);
-        if (opposite == oxp_edge_table::absent) {
+        const std::uint32_t opposite = index.first({side.end, side.start});
+        if (opposite == oxp_side_index::none) {
             closed = false;
         } else {
             side.opposite = &sides[opposite];

@@ -77,8 +77,8 @@ public:
     const ox_list<ox_half_edge*>& get_half_edges() const;
 
     /// Replaces the half-edges by those of the current vertices and triangles. The earlier ones no
-    /// longer exist. An allocation that fails leaves them as they were. O(n) on average for n
-    /// triangles.
+    /// longer exist. An allocation that fails leaves them as they were. O(n log k) for n
+    /// triangles and vertices, k triangles at a vertex.
     void build_half_edges();
 
     /// Tells whether every half-edge of the last build has an opposite; false before the first one.

@@ -127,7 +127,7 @@ public:
     ///
     /// An index not below the vertex count: logs "invalid triangle index" and changes nothing. A
     /// result beyond 2^32 - 1 vertices or triangles: logs "too many triangles" and changes nothing.
-    /// O(n) on average.
+    /// O(n log k) for n triangles and vertices, k triangles at a vertex.
     void subdivide();
 
 private:

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include <ox/core/ox_log.h>
-#include <ox/mesh/internal/edge_table.h>
+#include <ox/mesh/internal/side_index.h>
 
 namespace ox {
 
@@ -21,26 +21,27 @@ struct numbered_sides {
     std::vector<std::uint32_t> first_corner;   // the corner that each side was first met at
 };
 
-unsigned int next_corner_index(const unsigned int* triangles, std::size_t corner) {
-    return triangles[corner % 3 == 2 ? corner - 2 : corner + 1];
+/// The side that leaves a corner, from its smaller to its larger vertex index.
+oxp_side side_at(const unsigned int* triangles, std::size_t corner) {
+    const unsigned int start = triangles[corner];
+    const unsigned int end = triangles[corner % 3 == 2 ? corner - 2 : corner + 1];
+    return {std::min(start, end), std::max(start, end)};
 }
 
-numbered_sides number_sides(const unsigned int* triangles, std::uint32_t nb_corners) {
+numbered_sides number_sides(const unsigned int* triangles, std::uint32_t nb_corners,
+                            std::uint32_t nb_vertices) {
+    const oxp_side_index index(nb_corners, nb_vertices,
+                               [=](std::uint32_t corner) { return side_at(triangles, corner); });
     numbered_sides sides;
     sides.side_of_corner.resize(nb_corners);
-    // A closed mesh has half as many sides as corners.
-    sides.first_corner.reserve(nb_corners / 2);
-    oxp_edge_table table(nb_corners / 2);
     for (std::uint32_t corner = 0; corner < nb_corners; ++corner) {
-        const unsigned int start = triangles[corner];
-        const unsigned int end = next_corner_index(triangles, corner);
-        const std::uint32_t next = static_cast<std::uint32_t>(sides.first_corner.size());
-        const std::uint32_t side =
-            table.find_or_add(std::min(start, end), std::max(start, end), next);
-        if (side == next) {
+        const std::uint32_t first = index.first(side_at(triangles, corner));
+        if (first == corner) {
+            sides.side_of_corner[corner] = static_cast<std::uint32_t>(sides.first_corner.size());
             sides.first_corner.push_back(corner);
+        } else {
+            sides.side_of_corner[corner] = sides.side_of_corner[first];
         }
-        sides.side_of_corner[corner] = side;
     }
     return sides;
 }
@@ -63,7 +64,7 @@ void ox_triangle_set::subdivide() {
         ox_log("too many triangles");
         return;
     }
-    const numbered_sides sides = number_sides(triangles.get(), 3 * nb_triangles);
+    const numbered_sides sides = number_sides(triangles.get(), 3 * nb_triangles, nb_vertices);
     if (nb_vertices + sides.first_corner.size() > max_count) {
         ox_log("too many triangles");
         return;
@@ -73,9 +74,8 @@ void ox_triangle_set::subdivide() {
     std::copy(vertices.get(), vertices.get() + nb_vertices, refined.vertices.get());
     ox_3dvector* middle = refined.vertices.get() + nb_vertices;
     for (const std::uint32_t corner : sides.first_corner) {
-        const unsigned int start = triangles[corner];
-        const unsigned int end = next_corner_index(triangles.get(), corner);
-        *middle++ = (vertices[std::min(start, end)] + vertices[std::max(start, end)]) * 0.5f;
+        const oxp_side side = side_at(triangles.get(), corner);
+        *middle++ = (vertices[side.start] + vertices[side.end]) * 0.5f;
     }
     unsigned int* out = refined.triangles.get();
     for (std::size_t first = 0; first < sides.side_of_corner.size(); first += 3) {

@@ -18,6 +18,9 @@
 #include <ox/geometry/ox_color.h>
 #include <ox/geometry/ox_matrix.h>
 #include <ox/geometry/ox_polar.h>
+#include <ox/mesh/ox_mesh.h>
+#include <ox/mesh/ox_triangle_set.h>
+#include <ox/mesh/ox_vertex_optimizer.h>
 #include <ox/ox_functions.h>
 #include <ox/polygon/ox_polygon.h>
 #include <ox/solid/ox_solid.h>

@@ -11,8 +11,8 @@
 
 namespace ox {
 
-// Dates: process-wide change stamps. The counter is not synchronised; threads that take dates at
-// the same time may receive the same one.
+// Dates: process-wide change stamps. Threads that take dates at the same time receive different
+// ones.
 
 /// The date given out last, 0 before the first.
 OX_EXPORT unsigned int ox_get_date();

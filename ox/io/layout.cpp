@@ -85,7 +85,7 @@ void log_score(char candidate, double mean, double deviation) {
     char line[256];
     std::snprintf(line, sizeof line, "Score for %c : %lf %lf = %lf", candidate, mean, deviation,
                   mean - deviation);
-    ox_log(line);
+    ox_log_thread_safe(line);
 }
 
 /// Everything but what numbers, and the blanks around them, are made of.
@@ -173,7 +173,7 @@ csv_layout measure_layout(const std::string& text, char separator) {
     }
     layout.nb_header_lines = count_header_lines(texts, column, line);
     const std::string message = "Header lines : " + std::to_string(layout.nb_header_lines);
-    ox_log(message.c_str());
+    ox_log_thread_safe(message.c_str());
     return layout;
 }
 

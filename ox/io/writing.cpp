@@ -114,7 +114,7 @@ bool ox_csv::write_file(const std::string& path) {
         return false;
     }
     std::fputs(write_string().c_str(), file.get());
-    ox_log("csv file writen with success");
+    ox_log_thread_safe("csv file writen with success");
     return true;
 }
 

@@ -111,7 +111,7 @@ void ox_progress_manager::set_experience_learning_file(const std::string& path) 
     state->experience_path = path;
     std::vector<phase_experience> lines;
     if (!read_experience(path, lines)) {
-        ox_log("Could not read from experience file");
+        ox_log_thread_safe("Could not read from experience file");
     }
     state->learn(lines);
 }

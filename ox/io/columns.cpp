@@ -1,8 +1,11 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <limits>
+#include <new>
 #include <ox/io/internal/ox_csv_state.h>
 #include <ox/io/internal/plain_numbers.h>
+#include <string>
 #include <utility>
 
 namespace ox {
@@ -41,15 +44,37 @@ std::string format_float(float value, int precision, char separator) {
 template <typename Value, typename Format>
 ox_csv_column make_column(const ox_list<std::string>& headers, const ox_list<Value>& values,
                           const Format& format) {
-    ox_csv_column column;
+    cell_text cells;
     for (const std::string& header : headers) {
-        column.headers.append(header);
+        cells.add_line(header);
     }
-    column.values.reserve(static_cast<std::size_t>(values.end() - values.begin()));
+    const std::size_t nb_headers = cells.get_nb_lines();
     for (const Value& value : values) {
-        column.values.append(format(value));
+        cells.add_line(format(value));
     }
+    ox_csv_column column;
+    column.text = std::make_shared<const cell_text>(std::move(cells));
+    column.first_line = nb_headers;
+    for (std::size_t line = 0; line < nb_headers; ++line) {
+        column.headers.push_back(column.text->get_cell(line, 0));
+    }
+    column.nb_headers = nb_headers;
+    column.nb_values = column.text->get_nb_lines() - nb_headers;
     return column;
+}
+
+/// The number of cells as lists count them; more fail as their allocation would.
+int list_size(std::size_t nb_cells) {
+    if (nb_cells > static_cast<std::size_t>((std::numeric_limits<int>::max)())) {
+        throw std::bad_array_new_length();
+    }
+    return static_cast<int>(nb_cells);
+}
+
+ox_list<std::string> headers_of(const ox_csv_column& column) {
+    ox_list<std::string> list(list_size(column.nb_headers));
+    std::copy(column.headers.begin(), column.headers.end(), list.begin());
+    return list;
 }
 
 } // namespace
@@ -99,9 +124,11 @@ bool ox_csv::get_column(int index, ox_list<std::string>& cells) {
         return false;
     }
     const ox_csv_column& column = state->columns[static_cast<std::size_t>(index)];
-    ox_list<std::string> found = column.headers.to_list();
-    for (const std::string& value : column.values.to_list()) {
-        found.push_right(value);
+    ox_list<std::string> found(list_size(column.nb_headers + column.nb_values));
+    std::copy(column.headers.begin(), column.headers.end(), found.begin());
+    std::string* cell = found.begin() + column.nb_headers;
+    for (std::size_t row = 0; row < column.nb_values; ++row) {
+        *cell++ = column.get_value(row);
     }
     cells = std::move(found);
     return true;
@@ -112,13 +139,13 @@ bool ox_csv::get_column(int index, ox_list<std::string>& headers, ox_list<float>
         return false;
     }
     const ox_csv_column& column = state->columns[static_cast<std::size_t>(index)];
-    ox_list<float> found_values(column.values.list_size());
-    std::fill(found_values.begin(), found_values.end(), 0.0f);
+    ox_list<float> found_values(list_size(column.nb_values));
     const plain_numbers with_a_point;
-    for (const sparse_cells::filled_cell& cell : column.values.filled()) {
-        found_values[static_cast<int>(cell.row)] = static_cast<float>(std::atof(cell.text.c_str()));
+    for (std::size_t row = 0; row < column.nb_values; ++row) {
+        const std::string cell(column.get_value(row));
+        found_values[static_cast<int>(row)] = static_cast<float>(std::atof(cell.c_str()));
     }
-    headers = column.headers.to_list();
+    headers = headers_of(column);
     values = std::move(found_values);
     return true;
 }

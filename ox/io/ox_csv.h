@@ -14,8 +14,9 @@ struct oxp_csv_state;
 /// A table of text cells in columns, read from and written as delimited text.
 ///
 /// Representation: columns, each with header cells and value cells from top to bottom; columns may
-/// differ in their numbers of both until the table is written. Empty cells take no memory of their
-/// own, so that a table never takes more than a multiple of the text it was read from.
+/// differ in their numbers of both until the table is written. The cells stay in the text that was
+/// read, and cells that it does not have take no memory, so that a table never takes more than a
+/// multiple of that text.
 ///
 /// Reading finds the separator (tab, comma or semicolon) and the number of header lines by itself.
 /// Quotation marks have no meaning, NUL characters are kept. Every `\n` and every `\r` ends a line,

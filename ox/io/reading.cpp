@@ -1,51 +1,56 @@
 #include <cstdio>
-#include <ox/io/internal/csv_layout.h>
+#include <memory>
+#include <ox/io/internal/csv_detection.h>
 #include <ox/io/internal/open_file.h>
 #include <ox/io/internal/ox_csv_state.h>
+#include <string>
+#include <utility>
 
 namespace ox {
 
 namespace {
 
-/// Empty columns with room for the cells of a text. Empty cells need none, and header cells are so
-/// few that the room of the values serves for both.
-std::vector<ox_csv_column> make_columns(const csv_layout& layout) {
-    std::vector<ox_csv_column> columns(layout.nb_cells.size());
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-        columns[i].values.reserve(layout.nb_cells[i]);
-    }
-    return columns;
-}
-
-/// Stores one cell of line `line`. Header cells follow each other; value cells keep their row.
-void store_cell(ox_csv_column& column, std::size_t line, std::size_t nb_header_lines,
-                const char* first, const char* last) {
-    if (line < nb_header_lines) {
-        column.headers.append(first, last);
-        return;
-    }
-    column.values.pad_to(line - nb_header_lines);
-    column.values.append(first, last);
-}
-
-std::vector<ox_csv_column> parse(const std::string& text, char separator) {
-    const csv_layout layout = measure_layout(text, separator);
-    std::vector<ox_csv_column> columns = make_columns(layout);
-    std::size_t column = 0;
-    std::size_t line = 0;
-    const char* cell = text.data();
-    const char* const end = text.data() + text.size();
-    for (const char* place = cell; place != end; ++place) {
-        const bool line_break = *place == '\n' || *place == '\r';
-        if (!line_break && *place != separator) {
-            continue;
+/// Gives each column its header cells, which follow each other even where a line has none.
+void take_headers(std::vector<ox_csv_column>& columns, const cell_text& text,
+                  std::size_t nb_header_lines) {
+    for (std::size_t line = 0; line < nb_header_lines; ++line) {
+        for (std::size_t i = 0; i < text.get_nb_cells(line); ++i) {
+            columns[i].headers.push_back(text.get_cell(line, i));
         }
-        store_cell(columns[column], line, layout.nb_header_lines, cell, place);
-        cell = place + 1;
-        column = line_break ? 0 : column + 1;
-        line += line_break ? 1 : 0;
     }
-    return columns;
+    for (ox_csv_column& column : columns) {
+        column.nb_headers = column.headers.size();
+    }
+}
+
+/// Each column ends at the last line that reaches into it: going up, every longer line ends more
+/// columns.
+void count_values(std::vector<ox_csv_column>& columns, const cell_text& text,
+                  std::size_t nb_header_lines) {
+    std::size_t nb_counted = 0;
+    for (std::size_t line = text.get_nb_lines(); line > nb_header_lines; --line) {
+        for (; nb_counted < text.get_nb_cells(line - 1); ++nb_counted) {
+            columns[nb_counted].nb_values = line - nb_header_lines;
+        }
+    }
+}
+
+/// Replaces all columns by those of `text`, which the table keeps.
+void read_text(oxp_csv_state& state, std::string text) {
+    const separator_choice choice = choose_separator(text);
+    const auto kept = std::make_shared<const cell_text>(std::move(text), choice.separator,
+                                                        choice.nb_cells, choice.nb_line_breaks);
+    const std::size_t nb_header_lines = count_header_lines(*kept, choice.nb_line_breaks);
+    std::vector<ox_csv_column> columns(kept->get_nb_columns());
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        columns[i].text = kept;
+        columns[i].place = i;
+        columns[i].first_line = nb_header_lines;
+    }
+    take_headers(columns, *kept, nb_header_lines);
+    count_values(columns, *kept, nb_header_lines);
+    state.columns = std::move(columns);
+    state.column_separator = choice.separator;
 }
 
 /// Reads all of a file. False when it cannot be opened or read.
@@ -66,13 +71,15 @@ bool read_whole_file(const std::string& path, std::string& text) {
 
 bool ox_csv::read_file(const std::string& path) {
     std::string text;
-    return read_whole_file(path, text) && read_string(text);
+    if (!read_whole_file(path, text)) {
+        return false;
+    }
+    read_text(*state, std::move(text));
+    return true;
 }
 
 bool ox_csv::read_string(const std::string& text) {
-    const char separator = detect_separator(text);
-    state->columns = parse(text, separator);
-    state->column_separator = separator;
+    read_text(*state, text);
     return true;
 }
 

@@ -80,6 +80,65 @@ TEST(CsvDifferential, TablesOfRowsReadAndWriteAsThePlainVersionDoes) {
     ox_log_set(true);
 }
 
+TEST(CsvDifferential, LongLinesAndLongTextsReadAsThePlainVersionDoes) {
+    const support::log_capture log;
+    support::generator random(88);
+    std::string expected;
+    for (const int length : {65534, 65535, 65536, 131070, 200000}) {
+        std::string text = "a,b;c\n" + std::string(static_cast<std::size_t>(length), ';');
+        while (text.size() < 300000) {
+            text += random_rows(random);
+        }
+        ox::ox_csv table;
+        table.read_string(text);
+        const reference::plain_table plain = reference::plain_read_csv(text);
+        expected += plain.log;
+        EXPECT_EQ(table.get_column_separator(), plain.separator);
+        EXPECT_EQ(table.get_nb_columns(), static_cast<int>(plain.columns.size()));
+        EXPECT_EQ(column_of(table, 0).size(),
+                  plain.columns[0].headers.size() + plain.columns[0].values.size());
+    }
+    EXPECT_EQ(log.text(), expected);
+}
+
+/// Adds the same column of a few texts to both.
+void add_column(support::generator& random, ox::ox_csv& table, reference::plain_table& plain) {
+    reference::plain_table::column column;
+    ox::ox_list<std::string> headers;
+    ox::ox_list<std::string> values;
+    for (int n = random.between(0, 3); n > 0; --n) {
+        column.headers.push_back(std::string(static_cast<std::size_t>(n), 'h'));
+        headers.push_right(column.headers.back());
+    }
+    for (int n = random.between(0, 6); n > 0; --n) {
+        column.values.push_back(std::string(static_cast<std::size_t>(random.between(0, 2)), 'v'));
+        values.push_right(column.values.back());
+    }
+    table.add_column(headers, values);
+    plain.columns.push_back(column);
+}
+
+TEST(CsvDifferential, TablesThatWereReadTakeColumnsAndAnotherSeparatorAsThePlainVersionDoes) {
+    ox_log_set(false);
+    support::generator random(838);
+    for (int i = 0; i < 5000 && !HasFatalFailure(); ++i) {
+        const std::string text = random.one_in(2) ? random_rows(random) : random_text(random);
+        SCOPED_TRACE(::testing::PrintToString(text));
+        ox::ox_csv read;
+        read.read_string(text);
+        reference::plain_table plain = reference::plain_read_csv(text);
+        ox::ox_csv table = read;
+        read.read_string("another;text\n"); // the copy keeps its cells
+        for (int n = random.between(0, 3); n > 0; --n) {
+            add_column(random, table, plain);
+        }
+        plain.separator = random.one_in(3) ? '|' : plain.separator;
+        table.set_column_separator(plain.separator);
+        expect_equal(table, plain);
+    }
+    ox_log_set(true);
+}
+
 TEST(CsvDifferential, LogLinesAreThoseOfThePlainVersion) {
     const support::log_capture log;
     support::generator random(838383);

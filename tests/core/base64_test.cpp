@@ -85,4 +85,31 @@ TEST(Base64, EqualsThePlainVersionsInBytesAndCapacity) {
     }
 }
 
+TEST(Base64, TextsWithWrongCharactersAnywhereDecodeAsThePlainVersionDoes) {
+    support::generator random(646464);
+    for (int i = 0; i < 10000; ++i) {
+        bytes text = ox_to_b64(random_bytes(random, random.between(0, 60), 255));
+        for (int n = random.between(0, 4); n > 0 && text.size() > 0; --n) {
+            const int highest = random.one_in(2) ? 255 : 127;
+            text[random.between(0, text.size() - 1)] =
+                random.one_in(2) ? static_cast<unsigned char>('=')
+                                 : static_cast<unsigned char>(random.between(0, highest));
+        }
+        const bytes back = ox_from_b64(text);
+        const bytes plain_back = reference::plain_from_b64(text);
+        ASSERT_EQ(text_of(back), text_of(plain_back)) << "for " << text_of(text);
+        ASSERT_EQ(back.get_capacity(), plain_back.get_capacity());
+    }
+}
+
+TEST(Base64, EveryCharacterInEveryPlaceOfAGroupDecodesAsThePlainVersionDoes) {
+    for (int place = 0; place < 16; ++place) {
+        for (int c = 0; c < 256; ++c) {
+            bytes text = ox_from_stdstring("abcd+/01WXYZefgh");
+            text[place] = static_cast<unsigned char>(c);
+            ASSERT_EQ(text_of(ox_from_b64(text)), text_of(reference::plain_from_b64(text)));
+        }
+    }
+}
+
 } // namespace

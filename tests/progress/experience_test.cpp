@@ -39,6 +39,11 @@ TEST(Experience, ABrokenLineEndsTheReadingAndKeepsTheLinesBeforeIt) {
     EXPECT_EQ(learnt_weight(text, "print"), 1.0);
 }
 
+TEST(Experience, ALastLineWithoutALineBreakCounts) {
+    EXPECT_EQ(learnt_weight("load 10\nsave 20", "save"), 20.0);
+    EXPECT_EQ(learnt_weight("load 10\nsave", "save"), 1.0);
+}
+
 TEST(Experience, ANumberThatIsNotFiniteEndsTheReading) {
     for (const char* number : {"nan", "inf", "-inf", "1e999"}) {
         EXPECT_EQ(learnt_weight(std::string("load ") + number + "\nsave 5\n", "load"), 1.0);

@@ -1,11 +1,10 @@
-#include "recording_manager.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <string>
 
 #include <tests/support/generator.h>
 #include <tests/support/log_capture.h>
+#include <tests/support/recording_manager.h>
 
 namespace {
 

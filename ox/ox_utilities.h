@@ -6,6 +6,7 @@
 
 #include <ox/core/ox_chrono.h>
 #include <ox/core/ox_export.h>
+#include <ox/core/ox_hash.h>
 #include <ox/core/ox_list.h>
 #include <ox/core/ox_log.h>
 #include <ox/core/ox_mutex.h>
@@ -14,8 +15,11 @@
 #include <ox/display/ox_opengl_shapes.h>
 #include <ox/geometry/ox_2dvector.h>
 #include <ox/geometry/ox_3dvector.h>
+#include <ox/geometry/ox_bezier.h>
 #include <ox/geometry/ox_box.h>
+#include <ox/geometry/ox_bspline.h>
 #include <ox/geometry/ox_color.h>
+#include <ox/geometry/ox_cubic_spline.h>
 #include <ox/geometry/ox_matrix.h>
 #include <ox/geometry/ox_polar.h>
 #include <ox/ox_functions.h>

@@ -30,7 +30,7 @@ const colour wall_fill = {0.22f, 0.22f, 0.24f, 1};
 const colour hidden_line = {0.55f, 0.52f, 0.48f, 1};
 
 const float* colour_of(element_kind kind) {
-    static const colour walls = {0.97f, 0.94f, 0.87f, 1};
+    static const colour walls = {1.0f, 0.97f, 0.90f, 1};
     static const colour slab = {0.68f, 0.68f, 0.70f, 1};
     static const colour roof = {0.66f, 0.29f, 0.21f, 1};
     return kind == element_kind::walls ? walls : kind == element_kind::slab ? slab : roof;
@@ -46,7 +46,7 @@ void begin_picture(const colour& background) {
 /// of a host's own camera would go here.
 void set_perspective(const ox::ox_3dvector& centre, double radius) {
     constexpr double view_angle = 0.5; // radians, from top to bottom
-    const double distance = 0.78 * radius / std::sin(view_angle / 2);
+    const double distance = 0.9 * radius / std::sin(view_angle / 2);
     const double near_plane = 0.1 * distance;
     const double top = near_plane * std::tan(view_angle / 2);
     glMatrixMode(GL_PROJECTION);
@@ -56,15 +56,15 @@ void set_perspective(const ox::ox_3dvector& centre, double radius) {
     glLoadIdentity();
     const double x = centre.x;
     const double y = centre.y;
-    const double z = centre.z;
-    gluLookAt(x - 0.52 * distance, y - 0.72 * distance, z + 0.46 * distance, x, y, z, 0, 0, 1);
+    const double z = centre.z - 0.12 * radius; // leaves less sky
+    gluLookAt(x - 0.54 * distance, y - 0.76 * distance, z + 0.36 * distance, x, y, z, 0, 0, 1);
 }
 
-/// A sun over the viewer's right shoulder, and light from the sky everywhere.
+/// A sun behind the viewer, and light from the sky everywhere.
 void switch_on_light() {
-    const float direction[] = {0.25f, -0.80f, 0.75f, 0}; // w 0: infinitely far
-    const float sun[] = {0.62f, 0.61f, 0.58f, 1};
-    const float ambient[] = {0.47f, 0.48f, 0.50f, 1};
+    const float direction[] = {-0.30f, -0.75f, 0.70f, 0}; // w 0: infinitely far
+    const float sun[] = {0.60f, 0.59f, 0.55f, 1};
+    const float ambient[] = {0.52f, 0.53f, 0.55f, 1};
     glEnable(GL_LIGHTING);
     glEnable(GL_LIGHT0);
     glLightfv(GL_LIGHT0, GL_POSITION, direction);
@@ -142,7 +142,7 @@ ox_examples::image draw_view(std::vector<element>& elements) {
     glEnable(GL_POLYGON_OFFSET_FILL); // leaves the edges in front of their faces
     glPolygonOffset(1, 1);
 
-    draw_ground(centre, box.origin.z, 1.35 * radius);
+    draw_ground(centre, box.origin.z, 1.05 * radius);
     for (element& e : elements) {
         glColor4fv(colour_of(e.kind));
         e.solid.draw_opengl();
@@ -161,11 +161,11 @@ ox_examples::image draw_plan(floor_plan& plan, const ox::ox_box& bounds) {
     begin_picture(paper);
     set_plan_view(bounds);
     fill(plan.floor, floor_fill);
-    outline(plan.floor, edge, 1);
     glEnable(GL_LINE_STIPPLE); // what lies above the cut is dashed
     glLineStipple(3, 0x3333);
-    outline(plan.overhead, hidden_line, 1.5f);
+    outline(plan.overhead, hidden_line, 1);
     glDisable(GL_LINE_STIPPLE);
+    outline(plan.floor, edge, 1);
     fill(plan.foot, sill_fill);
     outline(plan.foot, edge, 1);
     outline(plan.footprint, edge, 1);

@@ -146,9 +146,9 @@ void ox_polygon_data::append_contour(const ox_3dvector* vertices, unsigned int s
     for (unsigned int i = 0; i < size; ++i) {
         contour_vertices.push_right(vertices[i]);
     }
-    contour_sizes.push_right(size);
     contour_orientations.push_right(outer);
     contour_parents.push_right(parent);
+    contour_sizes.push_right(size); // last: no size without its vertices, even without memory
 }
 
 void ox_polygon_data::clear_contours() {
@@ -197,10 +197,16 @@ void ox_polygon::add_contour(const ox_list<ox_3dvector>& vertices) {
     if (vertices.size() <= 0) {
         return;
     }
-    for (const ox_3dvector& v : vertices) {
-        data->pending_vertices.push_right(v);
+    const int pending = data->pending_vertices.size();
+    try {
+        for (const ox_3dvector& v : vertices) {
+            data->pending_vertices.push_right(v);
+        }
+        data->pending_sizes.push_right(static_cast<unsigned int>(vertices.size()));
+    } catch (...) { // no memory: vertices without a size would go to the next contour
+        data->pending_vertices.set_size(pending);
+        throw;
     }
-    data->pending_sizes.push_right(static_cast<unsigned int>(vertices.size()));
     data->contours_computed = false;
     data->forget_derived();
 }

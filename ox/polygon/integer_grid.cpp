@@ -1,5 +1,6 @@
 #include <ox/polygon/internal/integer_grid.h>
 
+#include <utility>
 #include <vector>
 
 #include <ox/polygon/internal/tolerances.h>
@@ -35,15 +36,31 @@ void push_children(node_stack& stack, const ClipperLib::PolyNode& node, int pare
     }
 }
 
-void append_node(ox_polygon_data& polygon, const pending_node& visited) {
-    const ClipperLib::Path& path = visited.node->Contour;
-    polygon.contour_sizes.push_right(static_cast<unsigned int>(path.size()));
-    polygon.contour_orientations.push_right(!visited.hole);
-    polygon.contour_parents.push_right(visited.parent);
-    for (const ClipperLib::IntPoint& p : path) {
-        polygon.contour_vertices.push_right(grid_to_plane(polygon, p));
+// The four lists of normalised contours, gathered aside: a failed allocation leaves those of the
+// polygon as they are.
+struct contour_lists {
+    ox_list<ox_3dvector> vertices;
+    ox_list<unsigned int> sizes;
+    ox_list<bool> orientations;
+    ox_list<int> parents;
+
+    void append(const ox_polygon_data& plane, const pending_node& visited) {
+        const ClipperLib::Path& path = visited.node->Contour;
+        sizes.push_right(static_cast<unsigned int>(path.size()));
+        orientations.push_right(!visited.hole);
+        parents.push_right(visited.parent);
+        for (const ClipperLib::IntPoint& p : path) {
+            vertices.push_right(grid_to_plane(plane, p));
+        }
     }
-}
+
+    void move_to(ox_polygon_data& polygon) {
+        polygon.contour_vertices = std::move(vertices);
+        polygon.contour_sizes = std::move(sizes);
+        polygon.contour_orientations = std::move(orientations);
+        polygon.contour_parents = std::move(parents);
+    }
+};
 
 } // namespace
 
@@ -85,7 +102,7 @@ ox_3dvector grid_to_plane(const ox_polygon_data& plane, const ClipperLib::IntPoi
 // boundaries, and every level down turns the kind over. Carrying it saves a climb to the root for
 // every contour.
 void rebuild_contours(ox_polygon_data& polygon, const ClipperLib::PolyTree& tree) {
-    polygon.clear_contours();
+    contour_lists made;
     node_stack stack;
     push_children(stack, tree, -1, false);
     while (!stack.empty()) {
@@ -93,11 +110,12 @@ void rebuild_contours(ox_polygon_data& polygon, const ClipperLib::PolyTree& tree
         stack.pop_back();
         int parent = visited.parent;
         if (!visited.node->Contour.empty()) {
-            parent = polygon.contour_sizes.size();
-            append_node(polygon, visited);
+            parent = made.sizes.size();
+            made.append(polygon, visited);
         }
         push_children(stack, *visited.node, parent, !visited.hole);
     }
+    made.move_to(polygon);
     polygon.forget_derived();
     polygon.drop_region_unless_finite();
 }

@@ -143,7 +143,7 @@ int ox_polygon::is_clockwise(const ox_list<ox_3dvector>& contour, const ox_3dvec
             return 0;
         }
         sum += ox_cross(contour[k] - contour[j], contour[j] - contour[i]);
-        steps += (j - i + n) % n;
+        steps += j > i ? j - i : j - i + n;
         i = j;
     }
     return ox_dot(sum, normal) > 0.0f ? 1 : -1;

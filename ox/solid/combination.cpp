@@ -72,10 +72,9 @@ private:
     void replace_faces();
 
     /// One line per face when progress is asked for, on standard output like all of them.
-    void print_progress(const char* phase, std::size_t done, std::size_t count) const {
+    void print_progress(const char* phase, int done, int count) const {
         if (target.verbose) {
-            std::printf("%s faces (%d / %d)\n", phase, static_cast<int>(done),
-                        static_cast<int>(count));
+            std::printf("%s faces (%d / %d)\n", phase, done, count);
         }
     }
 
@@ -92,7 +91,8 @@ private:
 // Cutting
 
 /// The section of `solid` in the plane of a piece, or none where it is too small to cut anything.
-/// For a union it is made with the opposite normal, as the rest of the method is stated.
+/// For a union it is made with the opposite normal: of a face that both solids have, facing the
+/// same way, it is then empty, and both copies stay to be merged into one.
 std::unique_ptr<ox_polygon> combination::find_cut(ox_polygon& piece, ox_solid& solid,
                                                   const ox_box& box) const {
     if (!piece.may_intersect(box)) {
@@ -190,7 +190,7 @@ void combination::rebuild() {
 
 void combination::merge_faces() {
     for (std::size_t i = 0; i < kept.size(); ++i) {
-        print_progress("merge", i, kept.size());
+        print_progress("merge", static_cast<int>(i), static_cast<int>(kept.size()));
         if (kept[i]) {
             merge_into(i);
         }

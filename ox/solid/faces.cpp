@@ -1,6 +1,5 @@
 #include <cstdint>
 #include <cstdlib>
-#include <utility>
 
 #include <ox/solid/internal/ox_solid_state.h>
 #include <ox/solid/ox_solid.h>

@@ -1,6 +1,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include <ox/solid/internal/half_edges.h>

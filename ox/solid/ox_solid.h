@@ -166,6 +166,9 @@ public:
 
     /// Keeps the volume that lies in `other` as well. The solid becomes empty when `other` is, or
     /// when the boxes do not overlap (touching is not overlapping).
+    ///
+    /// Faces of both solids that coincide and face the same way are kept twice, once from each: of
+    /// a solid intersected with itself every face is there twice.
     void intersects(ox_solid& other);
 
     /// Does nothing: a solid never welds its vertices. Kept for programs that call it.
@@ -174,9 +177,13 @@ public:
     // Planes
 
     /// The cross-section of the solid with the plane through `point` with `normal`: new polygons,
-    /// one per outer boundary with the holes directly inside it, which the caller deletes. The
-    /// faces within 0.001 model units of the plane count as lying in it and give no section of
-    /// their own. Empty when the plane meets no face.
+    /// one per outer boundary with the holes directly inside it, which the caller deletes. Vertices
+    /// no farther than 0.001 model units from the plane lie in it, and ends of the face cuts no
+    /// farther apart (Manhattan distance) are joined. Empty when the plane meets no face.
+    ///
+    /// In the plane of a face the section is the face when `normal` is the face's normal, and
+    /// empty when it is the opposite one. Of an open shell the section depends on the order of the
+    /// faces: a cut is only continued by the cut of a later face. Complexity: as below.
     ox_list<ox_polygon*> intersect_by_plane(const ox_3dvector& point, const ox_3dvector& normal);
 
     /// The cross-section of the solid bounded by `faces`, as above. The faces stay the caller's and

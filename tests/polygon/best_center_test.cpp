@@ -5,7 +5,6 @@
 
 #include <ox/polygon/ox_polygon.h>
 #include <tests/reference/best_center.h>
-#include <tests/reference/contains.h>
 #include <tests/reference/plane_frame.h>
 #include <tests/support/generator.h>
 #include <tests/support/random_shapes.h>
@@ -293,5 +292,70 @@ TEST(OxPolygonBestCenter, EqualsThePlainScanForShapesOfAFewHundredCandidatesAcro
         ox_polygon polygon;
         polygon.add_contour(support::random_tangle(random, 7, 10));
         expect_plain_center(polygon);
+    }
+}
+
+TEST(OxPolygonBestCenter, EqualsThePlainScanFarFromTheOriginOfTheFrame) {
+    // Up to where the finer steps, and at last all of them, no longer advance a coordinate.
+    generator random(506);
+    const float distances[] = {1e3f, 1e5f, 1e6f, 2097152.0f, 3e6f, 5e6f, 1.7e7f, 1e9f};
+    for (int i = 0; i < 400; ++i) {
+        const float far_x = distances[i % 8] * (random.one_in(2) ? 1.0f : -1.0f);
+        const float far_y = distances[random.between(0, 7)] * (random.one_in(2) ? 1.0f : -1.0f);
+        ox_polygon polygon(ox_3dvector(), ox_3dvector(0.0f, 0.0f, 1.0f));
+        ox_list<ox_3dvector> vertices;
+        const int corners = random.between(4, 8);
+        for (int k = 0; k < corners; ++k) {
+            const float x = far_x + static_cast<float>(random.real(-3.0, 3.0));
+            const float y = far_y + static_cast<float>(random.real(-3.0, 3.0));
+            vertices.push_right(ox_3dvector(x, y, 0.0f));
+        }
+        polygon.add_contour(vertices);
+        expect_plain_center(polygon);
+        ASSERT_FALSE(HasFailure()) << "polygon " << i;
+    }
+}
+
+TEST(OxPolygonBestCenter, EqualsThePlainScanWhereOneSideOfTheBoundsIsFar) {
+    // Thin strips whose candidates run through many powers of two.
+    generator random(507);
+    for (int i = 0; i < 40; ++i) {
+        const float begin = static_cast<float>(random.real(-600.0, 600.0));
+        const float end = static_cast<float>(random.real(-600.0, 600.0));
+        const float height = static_cast<float>(random.real(0.1, 1.0));
+        ox_polygon polygon(ox_3dvector(), ox_3dvector(0.0f, 0.0f, 1.0f));
+        polygon.add_contour(rectangle(begin, 0.0f, end, height));
+        polygon.add_contour(rectangle(begin, height * 0.25f, end, height * 0.5f));
+        expect_plain_center(polygon);
+        ASSERT_FALSE(HasFailure()) << "polygon " << i;
+    }
+}
+
+TEST(OxPolygonBestCenter, EqualsThePlainScanAfterTransformationsThatChangeTheAxes) {
+    generator random(508);
+    for (int i = 0; i < 400; ++i) {
+        ox_polygon polygon;
+        polygon.add_contour(support::random_tangle(random, random.between(4, 8), 2));
+        if (polygon.get_contour_sizes().size() == 0) {
+            continue;
+        }
+        ASSERT_TRUE(reference::has_reproducible_frame(polygon));
+        reference::plane_frame axes(polygon);
+        ox_matrix stretch;
+        for (const unsigned int diagonal : {0u, 5u, 10u}) {
+            stretch[diagonal] = static_cast<float>(random.real(0.5, 1.6));
+        }
+        stretch[4] = random.one_in(2) ? static_cast<float>(random.real(-0.5, 0.5)) : 0.0f;
+        polygon.matrix_transform(stretch);
+        axes.point = polygon.get_point();
+        for (ox_3dvector* axis : {&axes.dx, &axes.dy}) {
+            const ox_3dvector v = *axis;
+            *axis = ox_3dvector(stretch[0] * v.x + stretch[4] * v.y + stretch[8] * v.z,
+                                stretch[1] * v.x + stretch[5] * v.y + stretch[9] * v.z,
+                                stretch[2] * v.x + stretch[6] * v.y + stretch[10] * v.z);
+        }
+        expect_same(polygon.get_best_center(),
+                    reference::best_center(polygon, axes, ox_3dvector()));
+        ASSERT_FALSE(HasFailure()) << "polygon " << i;
     }
 }

@@ -1,9 +1,9 @@
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include <tests/reference/best_center.h>
 #include <tests/reference/contains.h>
-#include <tests/reference/plane_frame.h>
 
 namespace reference {
 
@@ -50,8 +50,12 @@ float score_of(const ox::ox_2dvector& q, float penalty, const contour_set& conto
 } // namespace
 
 ox::ox_3dvector best_center(ox::ox_polygon& polygon, const ox::ox_3dvector& held) {
-    const contour_set contours = plane_contours(polygon);
-    const plane_frame frame(polygon);
+    return best_center(polygon, plane_frame(polygon), held);
+}
+
+ox::ox_3dvector best_center(ox::ox_polygon& polygon, const plane_frame& frame,
+                            const ox::ox_3dvector& held) {
+    const contour_set contours = plane_contours(polygon, frame);
     if (contours.empty()) {
         return frame.point;
     }
@@ -59,15 +63,16 @@ ox::ox_3dvector best_center(ox::ox_polygon& polygon, const ox::ox_3dvector& held
     const ox::ox_2dvector middle = (box.low + box.high) * 0.5f;
     ox::ox_3dvector center = held;
     float best = 0.0f;
+    constexpr float before_all = -std::numeric_limits<float>::infinity();
     for (float step = 0.5f; step > 0.05f; step *= 0.5f) {
-        float before_u = box.low.x - 1.0f;
+        float before_u = before_all;
         for (float u = box.low.x; u < box.high.x && u > before_u; before_u = u, u = u + step) {
-            float before_v = box.low.y - 1.0f;
+            float before_v = before_all;
             for (float v = box.low.y; v < box.high.y && v > before_v; before_v = v, v = v + step) {
                 const ox::ox_3dvector w = frame.point + u * frame.dx + v * frame.dy;
                 const ox::ox_2dvector q(u, v);
                 const float score = score_of(q, 0.1f * q.distance_to(middle), contours);
-                if (score >= best && contains(polygon, w)) {
+                if (score >= best && contains(polygon, frame, w)) {
                     best = score;
                     center = w;
                 }
@@ -75,20 +80,6 @@ ox::ox_3dvector best_center(ox::ox_polygon& polygon, const ox::ox_3dvector& held
         }
     }
     return center;
-}
-
-double count_candidates(ox::ox_polygon& polygon) {
-    const contour_set contours = plane_contours(polygon);
-    if (contours.empty()) {
-        return 0.0;
-    }
-    const bounds box(contours);
-    const ox::ox_2dvector extent = box.high - box.low;
-    double count = 0.0;
-    for (double step = 0.5; step > 0.05; step *= 0.5) {
-        count += (extent.x / step + 1.0) * (extent.y / step + 1.0);
-    }
-    return count;
 }
 
 } // namespace reference

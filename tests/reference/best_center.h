@@ -2,6 +2,7 @@
 #define OX_TESTS_REFERENCE_BEST_CENTER_H
 
 #include <ox/polygon/ox_polygon.h>
+#include <tests/reference/plane_frame.h>
 
 namespace reference {
 
@@ -10,8 +11,9 @@ namespace reference {
 ox::ox_3dvector best_center(ox::ox_polygon& polygon,
                             const ox::ox_3dvector& held = ox::ox_3dvector());
 
-/// How many candidates the plain version visits, at most.
-double count_candidates(ox::ox_polygon& polygon);
+/// The same in a given frame, for a polygon whose axes a transformation has changed.
+ox::ox_3dvector best_center(ox::ox_polygon& polygon, const plane_frame& frame,
+                            const ox::ox_3dvector& held);
 
 } // namespace reference
 

@@ -1,13 +1,16 @@
 #include <tests/reference/contains.h>
-#include <tests/reference/plane_frame.h>
 
 namespace reference {
 
 bool contains(ox::ox_polygon& polygon, const ox::ox_3dvector& p) {
-    const ox::ox_2dvector q = plane_frame(polygon).coordinates(p);
+    return contains(polygon, plane_frame(polygon), p);
+}
+
+bool contains(ox::ox_polygon& polygon, const plane_frame& frame, const ox::ox_3dvector& p) {
+    const ox::ox_2dvector q = frame.coordinates(p);
     int left = 0;
     int right = 0;
-    for (const auto& contour : plane_contours(polygon)) {
+    for (const auto& contour : plane_contours(polygon, frame)) {
         for (std::size_t i = 0; i < contour.size(); ++i) {
             const ox::ox_2dvector a = contour[i];
             const ox::ox_2dvector b = contour[(i + 1) % contour.size()];

@@ -33,9 +33,9 @@ inline bool has_reproducible_frame(const ox::ox_polygon& polygon) {
     return normal == polygon.get_normal();
 }
 
-/// The contours of a polygon in its frame.
-inline std::vector<std::vector<ox::ox_2dvector>> plane_contours(ox::ox_polygon& polygon) {
-    const plane_frame frame(polygon);
+/// The contours of a polygon in a frame.
+inline std::vector<std::vector<ox::ox_2dvector>> plane_contours(ox::ox_polygon& polygon,
+                                                                const plane_frame& frame) {
     const ox::ox_list<ox::ox_3dvector>& vertices = polygon.get_contour_vertices();
     const ox::ox_list<unsigned int>& sizes = polygon.get_contour_sizes();
     std::vector<std::vector<ox::ox_2dvector>> contours;

@@ -30,7 +30,8 @@ namespace ox {
 /// whole, so that one containment test answers for all its candidates. Every block keeps only
 /// the sides that can be nearest to its candidates.
 ///
-/// Cost: some hundred blocks for common shapes of any size, each O(n) at worst.
+/// Cost: some hundred blocks for common shapes of any size, each O(n) at worst. Where the scores
+/// are level along a curve (a ring of many sides), as many blocks as candidates lie along it.
 class center_search {
 public:
     /// Prepares the search for the contours of `polygon`, which must have been merged and have

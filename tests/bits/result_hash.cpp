@@ -1,0 +1,26 @@
+// Prints one line per topic: its name and the hash of the bits of all its results.
+
+#include <cinttypes>
+#include <cstdio>
+
+#include <tests/bits/result_digest.h>
+
+namespace {
+
+void print_hash(const bits::topic& topic) {
+    bits::result_digest digest;
+    topic.run(digest);
+    std::printf("%s %016" PRIx64 "\n", topic.name, digest.value());
+}
+
+} // namespace
+
+int main() {
+    for (const bits::topic& topic : bits::polygon_topics) {
+        print_hash(topic);
+    }
+    for (const bits::topic& topic : bits::solid_topics) {
+        print_hash(topic);
+    }
+    return 0;
+}

@@ -1,0 +1,175 @@
+#include <ox/solid/ox_solid.h>
+
+#include <limits>
+#include <memory>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <tests/reference/plane_section.h>
+#include <tests/solid/solid_lists.h>
+#include <tests/support/random_shapes.h>
+
+namespace {
+
+using ox::ox_3dvector;
+using ox::ox_list;
+using ox::ox_polygon;
+using ox::ox_solid;
+using ox_test::unit_brick;
+
+using pieces = std::vector<std::unique_ptr<ox_polygon>>;
+
+pieces section_of(ox_solid& solid, const ox_3dvector& point, const ox_3dvector& normal) {
+    pieces owned;
+    for (ox_polygon* piece : solid.intersect_by_plane(point, normal)) {
+        owned.emplace_back(piece);
+    }
+    return owned;
+}
+
+constexpr float infinite = std::numeric_limits<float>::infinity();
+constexpr float not_a_number = std::numeric_limits<float>::quiet_NaN();
+
+TEST(PlaneSection, OfABrickAtHalfHeightIsOneSquare) {
+    ox_solid solid = unit_brick();
+    const pieces section = section_of(solid, ox_3dvector(0, 0, 0.5f), ox_3dvector(0, 0, 1));
+    ASSERT_EQ(section.size(), 1u);
+    EXPECT_FLOAT_EQ(section[0]->get_area(), 1.0f);
+    EXPECT_EQ(section[0]->get_contour_vertices().size(), 4);
+    EXPECT_EQ(section[0]->get_normal(), ox_3dvector(0, 0, 1));
+}
+
+TEST(PlaneSection, ThroughAFaceCountsTheSolidOnlyFromTheSideOfTheNormal) {
+    ox_solid solid = unit_brick();
+    const ox_3dvector up(0, 0, 1);
+    const ox_3dvector down(0, 0, -1);
+    const ox_3dvector bottom(0, 0, 0);
+    const ox_3dvector top(0, 0, 1);
+    EXPECT_EQ(section_of(solid, bottom, up).size(), 0u);
+    EXPECT_EQ(section_of(solid, bottom, down).size(), 1u);
+    EXPECT_EQ(section_of(solid, top, up).size(), 1u);
+    EXPECT_EQ(section_of(solid, top, down).size(), 0u);
+}
+
+TEST(PlaneSection, FacesInThePlaneGiveNoCrossings) {
+    ox_polygon square = support::rectangle_polygon(0, 0, 1, 1);
+    ox_solid solid;
+    solid.add_face(square);
+    EXPECT_EQ(section_of(solid, ox_3dvector(0, 0, 0), ox_3dvector(0, 0, 1)).size(), 0u);
+}
+
+TEST(PlaneSection, VerticesWithinTheToleranceLieOnThePlane) {
+    ox_solid solid = unit_brick();
+    EXPECT_EQ(section_of(solid, ox_3dvector(0, 0, 1.0009f), ox_3dvector(0, 0, 1)).size(), 1u);
+    EXPECT_EQ(section_of(solid, ox_3dvector(0, 0, 1.0011f), ox_3dvector(0, 0, 1)).size(), 0u);
+}
+
+TEST(PlaneSection, OnEdgesAndVerticesOfTheSolidIsComplete) {
+    ox_solid solid = unit_brick();
+    const pieces diagonal = section_of(solid, ox_3dvector(0, 0, 0), ox_3dvector(-1, 1, 0));
+    ASSERT_EQ(diagonal.size(), 1u);
+    EXPECT_NEAR(diagonal[0]->get_area(), 1.41421356f, 1e-3f);
+}
+
+TEST(PlaneSection, OfATunnelHasAHole) {
+    ox_polygon base = support::rectangle_polygon(0, 0, 4, 4);
+    base.add_contour(support::rectangle(1, 1, 2, 2));
+    ox_solid solid;
+    solid.extrusion(base, ox_3dvector(0, 0, 3));
+    const pieces section = section_of(solid, ox_3dvector(0, 0, 1), ox_3dvector(0, 0, 1));
+    ASSERT_EQ(section.size(), 1u);
+    EXPECT_EQ(section[0]->get_contour_sizes().size(), 2);
+    EXPECT_FLOAT_EQ(section[0]->get_area(), 15.0f);
+}
+
+TEST(PlaneSection, OfTwoTowersIsTwoPolygons) {
+    ox_solid solid = unit_brick();
+    ox_solid second;
+    second.brick(ox_3dvector(5, 0, 0), 1, 1, 1);
+    solid.unites(second);
+    EXPECT_EQ(section_of(solid, ox_3dvector(0, 0, 0.5f), ox_3dvector(0, 0, 1)).size(), 2u);
+}
+
+TEST(PlaneSection, MissingTheSolidIsEmpty) {
+    ox_solid solid = unit_brick();
+    ox_solid empty;
+    EXPECT_EQ(section_of(solid, ox_3dvector(0, 0, 5), ox_3dvector(0, 0, 1)).size(), 0u);
+    EXPECT_EQ(section_of(empty, ox_3dvector(0, 0, 0), ox_3dvector(0, 0, 1)).size(), 0u);
+}
+
+TEST(PlaneSection, OfAListOfFacesSkipsNullsAndLeavesTheFacesAlone) {
+    ox_solid solid = unit_brick();
+    ox_list<ox_polygon*> faces = solid.get_faces();
+    faces.push_left(nullptr);
+    pieces section;
+    for (ox_polygon* piece :
+         ox_solid::intersect_by_plane(ox_3dvector(0, 0, 0.5f), ox_3dvector(0, 0, 1), faces)) {
+        section.emplace_back(piece);
+    }
+    ASSERT_EQ(section.size(), 1u);
+    EXPECT_FLOAT_EQ(section[0]->get_area(), 1.0f);
+    EXPECT_EQ(solid.get_faces()[0], faces[1]);
+}
+
+/// A chain is only continued by later segments, so of an open shell the section is whole only when
+/// its faces come in the order in which the section runs round.
+TEST(PlaneSection, OfAnOpenShellDependsOnTheOrderOfItsFaces) {
+    ox_solid solid = unit_brick();
+    ox_polygon* far_x = solid.get_faces()[1];
+    ox_polygon* near_y = solid.get_faces()[2];
+    ox_polygon* far_y = solid.get_faces()[3];
+    const ox_3dvector middle(0, 0, 0.5f);
+    const auto area_of = [&](const ox_list<ox_polygon*>& faces) {
+        float area = 0.0f;
+        for (ox_polygon* piece :
+             ox_solid::intersect_by_plane(middle, ox_3dvector(0, 0, 1), faces)) {
+            area += piece->get_area();
+            delete piece;
+        }
+        return area;
+    };
+    EXPECT_FLOAT_EQ(area_of(ox_test::list_of({near_y, far_x, far_y})), 1.0f);
+    EXPECT_FLOAT_EQ(area_of(ox_test::list_of({far_x, near_y, far_y})), 0.5f);
+}
+
+/// A spike whose tip touches the plane from below crosses it an odd number of times.
+TEST(PlaneSection, AnOddLastCrossingIsDropped) {
+    ox_polygon face;
+    face.add_contour(support::contour({ox_3dvector(0, 0, 1), ox_3dvector(0, 0, -1),
+                                       ox_3dvector(2, 0, -1), ox_3dvector(2, 0, 0),
+                                       ox_3dvector(1, 0, 0.0009f), ox_3dvector(0.5f, 0, 0.0012f)}));
+    ox_solid solid;
+    solid.add_face(face);
+    const auto section =
+        reference::plane_section(solid, ox_3dvector(0, 0, 0), ox_3dvector(0, 0, 1), 0.001f);
+    const pieces found = section_of(solid, ox_3dvector(0, 0, 0), ox_3dvector(0, 0, 1));
+    EXPECT_EQ(found.size(), section ? 1u : 0u);
+}
+
+TEST(PlaneSection, ByAPlaneThatIsNotFiniteOrHasNoNormalDoesNotFail) {
+    ox_solid solid = unit_brick();
+    const float values[] = {0.0f, infinite, -infinite, not_a_number, 3e38f};
+    for (const float value : values) {
+        section_of(solid, ox_3dvector(0, 0, 0.5f), ox_3dvector(0, 0, value));
+        section_of(solid, ox_3dvector(0, 0, value), ox_3dvector(0, 0, 1));
+        section_of(solid, ox_3dvector(value, value, value), ox_3dvector(value, value, value));
+    }
+    EXPECT_EQ(section_of(solid, ox_3dvector(0, 0, 0.5f), ox_3dvector(0, 0, 0)).size(), 0u);
+}
+
+TEST(PlaneSection, NoPolygonIsLeaked) {
+    const int before = ox_polygon::get_instanced();
+    {
+        ox_solid solid = unit_brick();
+        ox_solid second;
+        second.brick(ox_3dvector(5, 0, 0), 1, 1, 1);
+        section_of(solid, ox_3dvector(0, 0, 0.5f), ox_3dvector(0, 0, 1));
+        solid.unites(second);
+        section_of(solid, ox_3dvector(0, 0, 0.5f), ox_3dvector(0, 0, 1));
+    }
+    EXPECT_EQ(ox_polygon::get_instanced(), before);
+}
+
+} // namespace

@@ -64,7 +64,7 @@ public:
     /// Gives `key` the value `value`, adding the key when it is absent. O(depth), O(n) when the
     /// tree is rebuilt: at 1000, 2000, ... entries, updates included.
     void set(const K& key, const V& value) {
-        oxp_hash** const link = find(root, key);
+        oxp_hash** const link = link_of(key);
         if (*link != nullptr) {
             (*link)->value = value;
         } else {
@@ -78,7 +78,7 @@ public:
     /// Removes `key`; nothing is removed when it is absent. Its left subtree takes its place and
     /// carries the right one below its greatest key. O(depth), O(n) when the tree is rebuilt.
     void remove(const K& key) {
-        oxp_hash** const link = find(root, key);
+        oxp_hash** const link = link_of(key);
         if (*link != nullptr) {
             const std::unique_ptr<oxp_hash> removed(*link);
             *link = joined(removed->left, removed->right);

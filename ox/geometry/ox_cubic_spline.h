@@ -18,9 +18,10 @@ namespace ox {
 /// Degenerate input:
 /// - fewer than two points: there is no interval, every value is 0;
 /// - points not in increasing order of x: the curve means nothing;
-/// - points of equal x, or so close together that the system counts as singular (two neighbouring
-///   intervals together up to about 0.0003 wide): the second derivatives are 0 and the curve is
-///   the polyline through the points, with numbers that are not finite at points of equal x;
+/// - points of equal x: numbers that are not finite;
+/// - points so close together that the system counts as singular (two neighbouring intervals
+///   together up to about 0.0003 wide): the second derivatives are 0 and the curve is the polyline
+///   through the points;
 /// - more than 1024 points: the system is solved as a band, O(n), instead of by a dense inverse,
 ///   O(n^3), which moves the last bits.
 ///

@@ -11,8 +11,10 @@
 #include <ox/core/ox_log.h>
 #include <ox/core/ox_mutex.h>
 #include <ox/core/ox_random.h>
+#include <ox/display/ox_camera.h>
 #include <ox/display/ox_debug.h>
 #include <ox/display/ox_opengl_shapes.h>
+#include <ox/display/ox_snap.h>
 #include <ox/geometry/ox_2dvector.h>
 #include <ox/geometry/ox_3dvector.h>
 #include <ox/geometry/ox_bezier.h>
@@ -25,5 +27,6 @@
 #include <ox/ox_functions.h>
 #include <ox/polygon/ox_polygon.h>
 #include <ox/solid/ox_solid.h>
+#include <ox/structure/ox_loadshare.h>
 
 #endif

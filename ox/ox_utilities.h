@@ -26,6 +26,7 @@
 #include <ox/geometry/ox_polar.h>
 #include <ox/ox_functions.h>
 #include <ox/polygon/ox_polygon.h>
+#include <ox/polygon/ox_polygon_projection.h>
 #include <ox/solid/ox_solid.h>
 #include <ox/structure/ox_loadshare.h>
 

@@ -125,6 +125,43 @@ bool has_walls(const description& d, std::size_t storey) {
                        [storey](const wall& w) { return w.storey == storey; });
 }
 
+/// An element with the solid that `make_solid` returns, and the time it took.
+template <typename F>
+element make_element(element_kind kind, const std::string& name, double expected_volume,
+                     const F& make_solid) {
+    element e;
+    e.kind = kind;
+    e.name = name;
+    e.expected_volume = expected_volume;
+    ox::ox_chrono chrono;
+    chrono.start();
+    e.solid = make_solid();
+    e.seconds = chrono.elapsed();
+    return e;
+}
+
+element walls_element(const description& d, std::size_t storey, progress& steps) {
+    element e =
+        make_element(element_kind::walls, "walls of storey " + std::to_string(storey),
+                     walls_volume(d, storey), [&] { return storey_solid(d, storey, steps); });
+    e.storey = storey;
+    return e;
+}
+
+element slab_element(const slab& s, progress& steps) {
+    steps.advance("slab " + s.name);
+    element e = make_element(element_kind::slab, "slab " + s.name, slab_volume(s),
+                             [&s] { return slab_solid(s); });
+    e.level = s.level;
+    return e;
+}
+
+element roof_element(const roof& r, progress& steps) {
+    steps.advance("roof " + r.name);
+    return make_element(element_kind::roof, "roof " + r.name, roof_volume(r),
+                        [&r] { return roof_solid(r); });
+}
+
 } // namespace
 
 int count_steps(const description& d) {
@@ -133,39 +170,16 @@ int count_steps(const description& d) {
 
 std::vector<element> assemble(const description& d, progress& steps) {
     std::vector<element> elements;
-    const auto add = [&elements](element e, const auto& make_solid) {
-        ox::ox_chrono chrono;
-        chrono.start();
-        e.solid = make_solid();
-        e.seconds = chrono.elapsed();
-        elements.push_back(e);
-    };
-
     for (std::size_t storey = 0; storey < d.storeys.size(); ++storey) {
         if (has_walls(d, storey)) {
-            element e;
-            e.name = "walls of storey " + std::to_string(storey);
-            e.storey = storey;
-            e.expected_volume = walls_volume(d, storey);
-            add(e, [&] { return storey_solid(d, storey, steps); });
+            elements.push_back(walls_element(d, storey, steps));
         }
     }
     for (const slab& s : d.slabs) {
-        steps.advance("slab " + s.name);
-        element e;
-        e.name = "slab " + s.name;
-        e.kind = element_kind::slab;
-        e.level = s.level;
-        e.expected_volume = slab_volume(s);
-        add(e, [&] { return slab_solid(s); });
+        elements.push_back(slab_element(s, steps));
     }
     for (const roof& r : d.roofs) {
-        steps.advance("roof " + r.name);
-        element e;
-        e.name = "roof " + r.name;
-        e.kind = element_kind::roof;
-        e.expected_volume = roof_volume(r);
-        add(e, [&] { return roof_solid(r); });
+        elements.push_back(roof_element(r, steps));
     }
     return elements;
 }

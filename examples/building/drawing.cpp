@@ -142,7 +142,7 @@ ox_examples::image draw_view(std::vector<element>& elements) {
     glEnable(GL_POLYGON_OFFSET_FILL); // leaves the edges in front of their faces
     glPolygonOffset(1, 1);
 
-    draw_ground(centre, box.origin.z, 1.05 * radius);
+    draw_ground(centre, box.origin.z, 0.98 * radius);
     for (element& e : elements) {
         glColor4fv(colour_of(e.kind));
         e.solid.draw_opengl();

@@ -164,7 +164,7 @@ public:
     /// elements that keeps the live ones; otherwise only the count changes, so slots that come
     /// back into use hold what they held before. A negative `n` is kept as it is. O(n).
     void set_size(int n) {
-        if (n > capacity) {
+        if (n > 0 && n > capacity) { // the first test spares compilers a false warning
             reallocate(n);
         }
         count = n;

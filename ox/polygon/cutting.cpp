@@ -1,6 +1,9 @@
 #include <algorithm>
 #include <memory>
+#include <utility>
+#include <vector>
 
+#include <ox/polygon/internal/hand_over.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
 #include <ox/polygon/internal/tolerances.h>
 #include <ox/polygon/ox_polygon.h>
@@ -71,11 +74,6 @@ std::unique_ptr<ox_polygon> piece_inside(const ox_polygon& polygon,
     return piece;
 }
 
-void append(ox_list<ox_polygon*>& pieces, std::unique_ptr<ox_polygon> piece) {
-    pieces.push_right(piece.get());
-    piece.release();
-}
-
 } // namespace
 
 ox_list<ox_polygon*> ox_polygon::cut_by_plane(const ox_3dvector& point, const ox_3dvector& normal,
@@ -96,11 +94,12 @@ ox_list<ox_polygon*> ox_polygon::cut_by_plane(const ox_3dvector& point, const ox
         }
         return pieces;
     }
-    append(pieces, piece_inside(*this, rectangle(frame, extent, extent.s_min, 0.0f)));
+    std::vector<std::unique_ptr<ox_polygon>> cut;
+    cut.push_back(piece_inside(*this, rectangle(frame, extent, extent.s_min, 0.0f)));
     if (both_sides) {
-        append(pieces, piece_inside(*this, rectangle(frame, extent, 0.0f, extent.s_max)));
+        cut.push_back(piece_inside(*this, rectangle(frame, extent, 0.0f, extent.s_max)));
     }
-    return pieces;
+    return hand_over(std::move(cut));
 }
 
 } // namespace ox

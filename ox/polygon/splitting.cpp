@@ -1,5 +1,8 @@
 #include <memory>
+#include <utility>
+#include <vector>
 
+#include <ox/polygon/internal/hand_over.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
 #include <ox/polygon/ox_polygon.h>
 
@@ -27,20 +30,19 @@ void append_with_holes(ox_polygon_data& piece, const ox_polygon_data& source, in
 } // namespace
 
 ox_list<ox_polygon*> ox_polygon::split_to_polygons() {
-    ox_list<ox_polygon*> pieces;
     if (count_outer_contours() < 2) {
-        pieces.push_right(this);
-        return pieces;
+        ox_list<ox_polygon*> itself;
+        itself.push_right(this);
+        return itself;
     }
+    std::vector<std::unique_ptr<ox_polygon>> pieces;
     for (int contour = 0; contour < data->contour_sizes.size(); ++contour) {
         if (data->contour_orientations[contour]) {
-            auto piece = std::make_unique<ox_polygon>(data->point, data->normal);
-            append_with_holes(*piece->data, *data, contour);
-            pieces.push_right(piece.get());
-            piece.release();
+            pieces.push_back(std::make_unique<ox_polygon>(data->point, data->normal));
+            append_with_holes(*pieces.back()->data, *data, contour);
         }
     }
-    return pieces;
+    return hand_over(std::move(pieces));
 }
 
 ox_list<ox_polygon*> ox_polygon::split_to_convex_polygons() {

@@ -43,7 +43,7 @@ private:
 
 class combination {
 public:
-    combination(ox_solid_state& target_state, ox_solid& other_solid, boolean_operation kind)
+    combination(ox_solid_state& target_state, ox_solid& other_solid, solid_operation kind)
         : target(target_state), other(other_solid), operation(kind),
           tolerance(target_state.tolerance),
           minimum_area(target_state.tolerance * target_state.tolerance) {}
@@ -80,7 +80,7 @@ private:
 
     ox_solid_state& target;
     ox_solid& other;
-    const boolean_operation operation;
+    const solid_operation operation;
     const float tolerance;
     const float minimum_area;
 
@@ -99,7 +99,7 @@ std::unique_ptr<ox_polygon> combination::find_cut(ox_polygon& piece, ox_solid& s
         return nullptr;
     }
     const ox_3dvector& normal = piece.get_normal();
-    const bool is_union = operation == boolean_operation::unite;
+    const bool is_union = operation == solid_operation::unite;
     polygon_pointer cut =
         plane_section(solid, piece.get_point(), is_union ? -normal : normal, tolerance);
     return cut && cut->get_area() > minimum_area ? std::move(cut) : nullptr;
@@ -119,7 +119,7 @@ void combination::cut_own_face(ox_polygon& face, const ox_box& other_box) {
     const float former_area = face.get_area();
     auto piece = std::make_unique<ox_polygon>(face);
     const polygon_pointer cut = find_cut(*piece, other, other_box);
-    if (operation == boolean_operation::intersect) {
+    if (operation == solid_operation::intersect) {
         if (!cut) {
             is_changed = true;
             return;
@@ -152,11 +152,11 @@ void combination::cut_other_faces() {
 
 void combination::cut_other_face(ox_polygon& face, const ox_box& own_box) {
     auto piece = std::make_unique<ox_polygon>(face);
-    if (operation == boolean_operation::substract) {
+    if (operation == solid_operation::substract) {
         piece->reverse();
     }
     const polygon_pointer cut = find_cut(*piece, *target.owner, own_box);
-    if (operation == boolean_operation::unite) {
+    if (operation == solid_operation::unite) {
         if (cut) {
             piece->substracts(*cut);
         }
@@ -178,7 +178,7 @@ void combination::cut_other_face(ox_polygon& face, const ox_box& own_box) {
 void combination::rebuild() {
     {
         const phase_timer timer(target.chronos[rebuild_slot]);
-        if (operation == boolean_operation::unite) {
+        if (operation == solid_operation::unite) {
             merge_faces();
         }
         replace_faces();
@@ -236,7 +236,7 @@ void combination::replace_faces() {
 
 } // namespace
 
-void combine(ox_solid_state& target, ox_solid& other, boolean_operation operation) {
+void combine(ox_solid_state& target, ox_solid& other, solid_operation operation) {
     combination(target, other, operation).run();
 }
 

@@ -7,11 +7,11 @@
 namespace ox {
 
 /// The boolean operation that `combine` performs.
-enum class boolean_operation { unite, substract, intersect };
+enum class solid_operation { unite, substract, intersect };
 
 /// Replaces the solid behind `target` by its union, difference or intersection with `other`, which
 /// must be another solid. Leaves the target exactly as it was when no face changes.
-void combine(ox_solid_state& target, ox_solid& other, boolean_operation operation);
+void combine(ox_solid_state& target, ox_solid& other, solid_operation operation);
 
 } // namespace ox
 

@@ -24,6 +24,9 @@
 #include <ox/geometry/ox_cubic_spline.h>
 #include <ox/geometry/ox_matrix.h>
 #include <ox/geometry/ox_polar.h>
+#include <ox/mesh/ox_mesh.h>
+#include <ox/mesh/ox_triangle_set.h>
+#include <ox/mesh/ox_vertex_optimizer.h>
 #include <ox/ox_functions.h>
 #include <ox/polygon/ox_polygon.h>
 #include <ox/polygon/ox_polygon_projection.h>

@@ -69,7 +69,7 @@ ox::ox_solid solid_under(ox::ox_polygon base, double bottom,
 /// Joins the walls of a storey, then cuts all openings at once, then ends the walls at the roof.
 /// The cutting solids are joined first: side by side they would otherwise cut along each other's
 /// faces.
-ox::ox_solid storey_solid(const description& d, std::size_t storey, progress& steps) {
+ox::ox_solid storey_solid(const description& d, std::size_t storey, ox_examples::progress& steps) {
     const double floor = d.storeys[storey].level;
     ox::ox_solid walls;
     for (const wall& w : d.walls) {
@@ -140,7 +140,7 @@ element make_element(element_kind kind, const std::string& name, double expected
     return e;
 }
 
-element walls_element(const description& d, std::size_t storey, progress& steps) {
+element walls_element(const description& d, std::size_t storey, ox_examples::progress& steps) {
     element e =
         make_element(element_kind::walls, "walls of storey " + std::to_string(storey),
                      walls_volume(d, storey), [&] { return storey_solid(d, storey, steps); });
@@ -148,7 +148,7 @@ element walls_element(const description& d, std::size_t storey, progress& steps)
     return e;
 }
 
-element slab_element(const slab& s, progress& steps) {
+element slab_element(const slab& s, ox_examples::progress& steps) {
     steps.advance("slab " + s.name);
     element e = make_element(element_kind::slab, "slab " + s.name, slab_volume(s),
                              [&s] { return slab_solid(s); });
@@ -156,7 +156,7 @@ element slab_element(const slab& s, progress& steps) {
     return e;
 }
 
-element roof_element(const roof& r, progress& steps) {
+element roof_element(const roof& r, ox_examples::progress& steps) {
     steps.advance("roof " + r.name);
     return make_element(element_kind::roof, "roof " + r.name, roof_volume(r),
                         [&r] { return roof_solid(r); });
@@ -168,7 +168,7 @@ int count_steps(const description& d) {
     return static_cast<int>(d.walls.size() + d.openings.size() + d.slabs.size() + d.roofs.size());
 }
 
-std::vector<element> assemble(const description& d, progress& steps) {
+std::vector<element> assemble(const description& d, ox_examples::progress& steps) {
     std::vector<element> elements;
     for (std::size_t storey = 0; storey < d.storeys.size(); ++storey) {
         if (has_walls(d, storey)) {

@@ -2,7 +2,7 @@
 #define OX_EXAMPLES_BUILDING_ASSEMBLY_H
 
 #include <examples/building/description.h>
-#include <examples/building/progress.h>
+#include <examples/support/progress.h>
 
 #include <ox/solid/ox_solid.h>
 
@@ -28,7 +28,7 @@ struct element {
 int count_steps(const description& d);
 
 /// Makes the solids of a building, in the order storeys, slabs, roofs.
-std::vector<element> assemble(const description& d, progress& steps);
+std::vector<element> assemble(const description& d, ox_examples::progress& steps);
 
 } // namespace building
 

@@ -3,11 +3,11 @@
 #include <examples/building/drawing.h>
 #include <examples/building/floor_plan.h>
 #include <examples/building/obj_file.h>
-#include <examples/building/output_folder.h>
-#include <examples/building/progress.h>
 #include <examples/building/report.h>
 
+#include <examples/support/output_folder.h>
 #include <examples/support/png_file.h>
+#include <examples/support/progress.h>
 
 #include <cstdio>
 #include <exception>
@@ -38,7 +38,7 @@ bool parse(int argc, char** argv, arguments& result) {
     return !result.description.empty();
 }
 
-void write_files(building::output_folder& folder, const building::description& d,
+void write_files(ox_examples::output_folder& folder, const building::description& d,
                  std::vector<building::element>& elements) {
     building::write_obj(folder.add(d.name + ".obj"), elements);
     ox_examples::write_png(folder.add(d.name + ".png"), building::draw_view(elements));
@@ -53,10 +53,10 @@ void write_files(building::output_folder& folder, const building::description& d
 /// From the description to the files and the table.
 status run(const arguments& wanted) {
     const building::description d = building::read_description(wanted.description);
-    building::output_folder folder(wanted.folder, d.name);
+    ox_examples::output_folder folder(wanted.folder, d.name);
     std::vector<building::element> elements;
     {
-        building::progress steps(building::count_steps(d));
+        ox_examples::progress steps(building::count_steps(d));
         elements = building::assemble(d, steps);
     }
     write_files(folder, d, elements);

@@ -76,15 +76,15 @@ int ox_box::plane_status(const ox_3dvector& point, const ox_3dvector& normal) co
 }
 
 ox_list<ox_3dvector> ox_box::get_vertices() const {
-    ox_list<ox_3dvector> vertices;
+    ox_list<ox_3dvector> vertices(8);
     for (unsigned int corner = 0; corner < 8; ++corner) {
-        ox_3dvector vertex = origin;
+        ox_3dvector& vertex = vertices[static_cast<int>(corner)];
+        vertex = origin;
         for (unsigned int axis = 0; axis < 3; ++axis) {
             if ((corner >> axis & 1U) != 0) {
                 vertex[axis] += size.at(axis);
             }
         }
-        vertices.push_right(vertex);
     }
     return vertices;
 }

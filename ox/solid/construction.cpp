@@ -68,14 +68,19 @@ void add_brick_faces(ox_solid& solid, const ox_3dvector& origin, const axis_vect
 
 // Extrusion
 
-/// Adds a copy of the contours, moved by `offset` and reversed on request, as one polygon.
-void add_cap(ox_solid& solid, const std::vector<ox_list<ox_3dvector>>& contours,
-             const ox_3dvector& offset, bool is_reversed) {
-    ox_polygon cap;
-    for (ox_list<ox_3dvector> contour : contours) {
+/// Moves every vertex of the contours.
+void move_contours(std::vector<ox_list<ox_3dvector>>& contours, const ox_3dvector& offset) {
+    for (ox_list<ox_3dvector>& contour : contours) {
         for (ox_3dvector& vertex : contour) {
             vertex += offset;
         }
+    }
+}
+
+/// Adds a copy of the contours, reversed on request, as one polygon.
+void add_cap(ox_solid& solid, const std::vector<ox_list<ox_3dvector>>& contours, bool is_reversed) {
+    ox_polygon cap;
+    for (ox_list<ox_3dvector> contour : contours) {
         if (is_reversed) {
             std::reverse(contour.begin(), contour.end());
         }
@@ -163,8 +168,10 @@ void ox_solid::extrusion(ox_polygon& polygon, const ox_3dvector& direction) {
     const float rise = ox_dot(polygon.get_normal(), sweep);
     const std::vector<ox_list<ox_3dvector>> contours = copy_contours(polygon);
     clear();
-    add_cap(*this, contours, ox_3dvector(), rise > 0.0f);
-    add_cap(*this, contours, sweep, rise < 0.0f);
+    add_cap(*this, contours, rise > 0.0f);
+    std::vector<ox_list<ox_3dvector>> moved = contours;
+    move_contours(moved, sweep);
+    add_cap(*this, moved, rise < 0.0f);
     for (const ox_list<ox_3dvector>& contour : contours) {
         add_sides(*this, contour, sweep);
     }

@@ -203,6 +203,10 @@ TEST(OxBox, VerticesFollowTheBitsOfTheirIndex) {
     }
 }
 
+TEST(OxBox, VerticesAllocateExactlyEight) {
+    EXPECT_EQ(ox::ox_box().get_vertices().get_capacity(), 8);
+}
+
 TEST(OxBox, VerticesOfAnEmptyBoxReadItsFloatsAsTheyAre) {
     const ox::ox_list<ox_3dvector> vertices = ox_box().get_vertices();
     ASSERT_EQ(vertices.size(), 8);

@@ -106,7 +106,7 @@ TEST(OxPolar, AnglesRoundTripAwayFromThePoles) {
     }
 }
 
-TEST(OxPolar, ConversionMultipliesInTheStatedOrder) {
+TEST(OxPolar, ConversionBackTakesTheHorizontalRadiusFirst) {
     const ox_polar p(3.f, 0.7f, 2.1f);
     const float la_cos = static_cast<float>(std::cos(static_cast<double>(0.7f)));
     const float la_sin = static_cast<float>(std::sin(static_cast<double>(0.7f)));

@@ -101,7 +101,7 @@ TEST(OxPolygonBestCenter, StaysWhereItWasWhenNoCandidateIsInside) {
     expect_same(sliver.get_best_center(), ox_3dvector());
 }
 
-TEST(OxPolygonBestCenter, IsKeptByBooleansOffsetsReversalAndClear) {
+TEST(OxPolygonBestCenter, IsKeptByBooleansOffsetsReversalANewPlaneTransformationAndClear) {
     ox_polygon polygon = rectangle_polygon(0.0f, 0.0f, 2.0f, 2.0f);
     const ox_3dvector center = polygon.get_best_center();
     polygon.substracts(rectangle_polygon(0.5f, 0.5f, 1.5f, 1.5f));

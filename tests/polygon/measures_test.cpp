@@ -16,6 +16,16 @@ TEST(OxPolygonMeasures, PerimeterClosesEveryContourAndCountsHoles) {
     EXPECT_FLOAT_EQ(polygon.get_perimeter(), 20.0f);
 }
 
+TEST(OxPolygonMeasures, PerimeterAddsEdgesInOrderTheClosingEdgeLast) {
+    ox_polygon polygon;
+    polygon.add_contour(support::contour({{0, 0, 0}, {3.3f, 0.1f, 0}, {1.7f, 7.9f, 0}}));
+    const auto& v = polygon.get_contour_vertices();
+    float sum = v[0].distance_to(v[1]);
+    sum += v[1].distance_to(v[2]);
+    sum += v[2].distance_to(v[0]);
+    EXPECT_EQ(polygon.get_perimeter(), sum);
+}
+
 TEST(OxPolygonMeasures, BoundingBoxFollowsEveryChange) {
     ox_polygon polygon = rectangle_polygon(0, 0, 1, 1);
     expect_same_vector(polygon.get_bounding_box().size, ox_3dvector(1.0f, 1.0f, 0.0f));

@@ -2,6 +2,7 @@
 
 #include <ox/polygon/ox_polygon.h>
 #include <tests/polygon/polygon_checks.h>
+#include <tests/support/generator.h>
 
 using namespace polygon_checks;
 using ox::ox_3dvector;
@@ -29,6 +30,19 @@ void expect_triangles_wind_about_the_normal(ox_polygon& polygon) {
 }
 
 } // namespace
+
+TEST(OxPolygonPlane, StoredNormalIsNormalisedAgainWhenItsFrameIsBuilt) {
+    support::generator random(31);
+    for (int i = 0; i < 200; ++i) {
+        const float x = random.grid(-5, 5);
+        const float y = random.grid(-5, 5);
+        const ox_3dvector given(x, y, 1.0f);
+        ox_3dvector twice = given;
+        twice.normalize();
+        twice.normalize();
+        expect_same_vector(ox_polygon(ox_3dvector(), given).get_normal(), twice);
+    }
+}
 
 TEST(OxPolygonPlane, OppositeNormalReversesContoursAndRewindsTriangles) {
     ox_polygon polygon = rectangle_polygon(0, 0, 1, 1);

@@ -52,6 +52,18 @@ TEST(OxPolygon, InstanceCountRisesWithEveryPolygonAndFallsBack) {
     EXPECT_EQ(ox_polygon::get_instanced(), before);
 }
 
+TEST(OxPolygon, InstanceCountRisesWithThePiecesOfACutAndFallsBack) {
+    ox_polygon square = rectangle_polygon(0, 0, 1, 1);
+    const int before = ox_polygon::get_instanced();
+    const auto pieces =
+        square.cut_by_plane(ox_3dvector(0.5f, 0.0f, 0.0f), ox_3dvector(1.0f, 0.0f, 0.0f), true);
+    EXPECT_EQ(ox_polygon::get_instanced(), before + 2);
+    for (ox_polygon* piece : pieces) {
+        delete piece;
+    }
+    EXPECT_EQ(ox_polygon::get_instanced(), before);
+}
+
 TEST(OxPolygon, ContourComputationTimeIsAlwaysZero) {
     EXPECT_EQ(ox_polygon::get_compute_contour_time(), 0.0);
     rectangle_polygon(0, 0, 1, 1).get_area();

@@ -1,5 +1,6 @@
 #include <ox/solid/ox_solid.h>
 
+#include <cmath>
 #include <numeric>
 #include <vector>
 
@@ -219,6 +220,17 @@ TEST(Extrusion, InThePlaneReversesNeitherCap) {
     solid.extrusion(base, ox_3dvector(3, 0, 0));
     EXPECT_EQ(solid.get_faces()[0]->get_normal(), ox_3dvector(0, 0, 1));
     EXPECT_EQ(solid.get_faces()[1]->get_normal(), ox_3dvector(0, 0, 1));
+}
+
+TEST(Extrusion, TheBottomCapHasTheVerticesAsTheyAreToTheSignOfZero) {
+    ox_polygon triangle;
+    triangle.add_contour(
+        support::contour({{0.0f, 0.0f, -0.0f}, {1.0f, 0.0f, -0.0f}, {0.0f, 1.0f, -0.0f}}));
+    ox_solid solid;
+    solid.extrusion(triangle, ox_3dvector(0, 0, 1));
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_TRUE(std::signbit(solid.get_vertices()[i].z));
+    }
 }
 
 TEST(Extrusion, OfNothingIsEmpty) {

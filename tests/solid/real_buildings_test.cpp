@@ -37,7 +37,7 @@ struct building {
 
 std::string buildings_path() {
     const char* given = std::getenv("OX_BUILDINGS_FILE");
-    return given != nullptr ? given : OX_TEST_DATA_DIR "/../../../shared/data/buildings.txt";
+    return given != nullptr ? given : OX_SOURCE_DIR "/../shared/data/buildings.txt";
 }
 
 /// "N x y z x y z ...", as in the rest of a ring line.

@@ -1,8 +1,8 @@
-#include <examples/building/output_folder.h>
+#include <examples/support/output_folder.h>
 
 #include <stdexcept>
 
-namespace building {
+namespace ox_examples {
 
 namespace fs = std::filesystem;
 
@@ -38,4 +38,4 @@ void output_folder::publish() {
     }
 }
 
-} // namespace building
+} // namespace ox_examples

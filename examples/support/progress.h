@@ -1,9 +1,9 @@
-#ifndef OX_EXAMPLES_BUILDING_PROGRESS_H
-#define OX_EXAMPLES_BUILDING_PROGRESS_H
+#ifndef OX_EXAMPLES_SUPPORT_PROGRESS_H
+#define OX_EXAMPLES_SUPPORT_PROGRESS_H
 
 #include <string>
 
-namespace building {
+namespace ox_examples {
 
 /// Tells on standard error how far the work is: a bar on a terminal, otherwise a line per step.
 class progress {
@@ -11,7 +11,7 @@ public:
     /// Work of `total` steps.
     explicit progress(int total);
 
-    /// Ends the bar, also when the work is given up.
+    /// Takes the bar away, also when the work is given up.
     ~progress();
 
     progress(const progress&) = delete;
@@ -20,12 +20,15 @@ public:
     /// Begins the next step.
     void advance(const std::string& step);
 
+    /// Takes the bar away; nothing happens when there is none.
+    void end();
+
 private:
     int done = 0;
     int total;
     bool terminal;
 };
 
-} // namespace building
+} // namespace ox_examples
 
 #endif

@@ -1,11 +1,11 @@
-#ifndef OX_EXAMPLES_BUILDING_OUTPUT_FOLDER_H
-#define OX_EXAMPLES_BUILDING_OUTPUT_FOLDER_H
+#ifndef OX_EXAMPLES_SUPPORT_OUTPUT_FOLDER_H
+#define OX_EXAMPLES_SUPPORT_OUTPUT_FOLDER_H
 
 #include <filesystem>
 #include <string>
 #include <vector>
 
-namespace building {
+namespace ox_examples {
 
 /// A folder that receives all files of a run or none: they are written into a folder beside their
 /// place, and moved there once everything has succeeded.
@@ -32,6 +32,6 @@ private:
     std::vector<std::string> names;
 };
 
-} // namespace building
+} // namespace ox_examples
 
 #endif

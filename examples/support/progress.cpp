@@ -1,4 +1,4 @@
-#include <examples/building/progress.h>
+#include <examples/support/progress.h>
 
 #include <cstdio>
 
@@ -10,7 +10,7 @@
 #include <unistd.h>
 #endif
 
-namespace building {
+namespace ox_examples {
 
 namespace {
 
@@ -24,8 +24,13 @@ progress::progress(int nb_steps)
     : total(nb_steps), terminal(isatty(fileno(stdout)) != 0 && isatty(fileno(stderr)) != 0) {}
 
 progress::~progress() {
+    end();
+}
+
+void progress::end() {
     if (terminal && done > 0) {
         std::fprintf(stderr, "\r%*s\r", bar_width + step_width + 9, "");
+        done = 0;
     }
 }
 
@@ -43,4 +48,4 @@ void progress::advance(const std::string& step) {
     std::fflush(stderr);
 }
 
-} // namespace building
+} // namespace ox_examples

@@ -1,0 +1,47 @@
+#ifndef OX_MESH_INTERNAL_MESH_FILE_H
+#define OX_MESH_INTERNAL_MESH_FILE_H
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <memory>
+
+namespace ox {
+
+/// An open file of plain little-endian items, closed with the object. Items are transferred as
+/// they lie in memory: all platforms of the library are little-endian.
+class oxp_mesh_file {
+public:
+    /// Opens `path` as fopen does with `mode`; a null path opens nothing.
+    oxp_mesh_file(const char* path, const char* mode);
+
+    /// Tells whether the file was opened.
+    bool is_open() const { return stream != nullptr; }
+
+    /// Reads `bytes` bytes; false when fewer are left.
+    bool read(void* data, std::size_t bytes);
+
+    /// Writes `bytes` bytes; false when that fails at once. What is still buffered may fail later,
+    /// in `finish_writing`.
+    bool write(const void* data, std::size_t bytes);
+
+    /// Hands everything written to the system; false when there is no room for it.
+    bool finish_writing() { return std::fflush(stream.get()) == 0; }
+
+    /// The bytes between the place of reading and the end of the file as it was opened. A file
+    /// whose size cannot be asked for, such as a pipe, is taken to hold `unmeasured_file_bytes`.
+    std::uint64_t remaining() const { return size > position ? size - position : 0; }
+
+private:
+    struct closer {
+        void operator()(std::FILE* file) const { std::fclose(file); }
+    };
+
+    std::unique_ptr<std::FILE, closer> stream;
+    std::uint64_t size = 0;
+    std::uint64_t position = 0;
+};
+
+} // namespace ox
+
+#endif

@@ -1,0 +1,84 @@
+#ifndef OX_MESH_INTERNAL_SIDE_INDEX_H
+#define OX_MESH_INTERNAL_SIDE_INDEX_H
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace ox {
+
+/// A side of a triangle: two vertex indices in order.
+struct oxp_side {
+    std::uint32_t start;
+    std::uint32_t end;
+};
+
+/// Finds the first of a numbered sequence of sides that runs from one vertex to another.
+///
+/// The sides are sorted into one range for each start vertex, ordered by end vertex and number.
+/// Neighbouring triangles mostly name neighbouring vertices, so building and searching stay close
+/// in memory, which a hash table over the sides would not.
+class oxp_side_index {
+public:
+    /// What `first` returns when there is no such side.
+    static constexpr std::uint32_t none = 0xFFFFFFFFu;
+
+    /// Indexes the sides `side_at(0)` to `side_at(nb_sides - 1)`. Those with an index not below
+    /// `nb_vertices` are left out. O(nb_vertices + nb_sides log k), k sides at a vertex.
+    template <typename SideAt>
+    oxp_side_index(std::uint32_t nb_sides, std::uint32_t nb_vertices, const SideAt& side_at)
+        : range_ends(nb_vertices, 0) {
+        const auto is_valid = [=](const oxp_side& side) {
+            return side.start < nb_vertices && side.end < nb_vertices;
+        };
+        for (std::uint32_t i = 0; i < nb_sides; ++i) {
+            if (is_valid(side_at(i))) {
+                ++range_ends[side_at(i).start];
+            }
+        }
+        std::uint32_t nb_before = 0;
+        for (std::uint32_t& place : range_ends) {
+            const std::uint32_t nb_here = place;
+            place = nb_before; // grows to the end of the range while it is filled
+            nb_before += nb_here;
+        }
+        entries.resize(nb_before);
+        for (std::uint32_t i = 0; i < nb_sides; ++i) {
+            if (is_valid(side_at(i))) {
+                entries[range_ends[side_at(i).start]++] = entry(side_at(i).end, i);
+            }
+        }
+        for (std::uint32_t vertex = 0; vertex < nb_vertices; ++vertex) {
+            std::sort(entries.begin() + range_begin(vertex), entries.begin() + range_ends[vertex]);
+        }
+    }
+
+    /// The smallest number of a side from `side.start` to `side.end`, `none` when there is none.
+    /// O(log k), k sides at the start vertex.
+    std::uint32_t first(const oxp_side& side) const {
+        if (side.start >= range_ends.size()) {
+            return none;
+        }
+        const auto begin = entries.begin() + range_begin(side.start);
+        const auto end = entries.begin() + range_ends[side.start];
+        const auto found = std::lower_bound(begin, end, entry(side.end, 0));
+        return found != end && *found >> 32 == side.end ? static_cast<std::uint32_t>(*found) : none;
+    }
+
+private:
+    static std::uint64_t entry(std::uint32_t end, std::uint32_t number) {
+        return std::uint64_t{end} << 32 | number;
+    }
+
+    std::uint32_t range_begin(std::uint32_t vertex) const {
+        return vertex == 0 ? 0 : range_ends[vertex - 1];
+    }
+
+    std::vector<std::uint32_t> range_ends; // in `entries`, one for each vertex
+    std::vector<std::uint64_t> entries;    // end vertex and number, by start vertex
+};
+
+} // namespace ox
+
+#endif

@@ -1,0 +1,40 @@
+#include <ox/mesh/internal/mesh_file.h>
+
+#include <filesystem>
+#include <system_error>
+
+#include <ox/mesh/internal/tolerances.h>
+
+namespace ox {
+
+namespace {
+
+std::uint64_t size_of_file(const char* path) {
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error)) {
+        return unmeasured_file_bytes;
+    }
+    const std::uintmax_t bytes = std::filesystem::file_size(path, error);
+    return error ? 0 : static_cast<std::uint64_t>(bytes);
+}
+
+} // namespace
+
+oxp_mesh_file::oxp_mesh_file(const char* path, const char* mode)
+    : stream(path != nullptr ? std::fopen(path, mode) : nullptr) {
+    if (is_open()) {
+        size = size_of_file(path);
+    }
+}
+
+bool oxp_mesh_file::read(void* data, std::size_t bytes) {
+    const std::size_t done = bytes == 0 ? 0 : std::fread(data, 1, bytes, stream.get());
+    position += done;
+    return done == bytes;
+}
+
+bool oxp_mesh_file::write(const void* data, std::size_t bytes) {
+    return bytes == 0 || std::fwrite(data, 1, bytes, stream.get()) == bytes;
+}
+
+} // namespace ox

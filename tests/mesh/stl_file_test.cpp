@@ -1,0 +1,170 @@
+#include "mesh_support.h"
+
+#include <filesystem>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <ox/mesh/ox_triangle_set.h>
+#include <sys/stat.h>
+#include <thread>
+
+#include "allocation_meter.h"
+
+namespace {
+
+using mesh_support::cube;
+using mesh_support::height_field;
+using mesh_support::log_capture;
+using mesh_support::stl_bytes;
+using mesh_support::temporary_file;
+using ox::ox_triangle_set;
+using ::testing::ElementsAre;
+
+/// `mesh` with three vertices of its own for each triangle, as STL files hold it.
+void expect_corners_of(const reference::plain_mesh& mesh, const ox_triangle_set& set) {
+    ASSERT_EQ(set.get_nb_vertices(), mesh.triangles.size());
+    ASSERT_EQ(set.get_nb_triangles(), mesh.triangles.size() / 3);
+    for (unsigned int i = 0; i < mesh.triangles.size(); ++i) {
+        ASSERT_EQ(set.get_triangles()[i], i);
+        ASSERT_EQ(set.get_vertices()[i], mesh.vertices[mesh.triangles[i]]);
+    }
+}
+
+void expect_empty(const ox_triangle_set& set) {
+    EXPECT_EQ(set.get_nb_vertices(), 0u);
+    EXPECT_EQ(set.get_nb_triangles(), 0u);
+    EXPECT_EQ(set.get_vertices(), nullptr);
+    EXPECT_EQ(set.get_triangles(), nullptr);
+}
+
+TEST(StlFile, EachTriangleGetsThreeVerticesOfItsOwn) {
+    const temporary_file file(stl_bytes(cube()));
+    ox_triangle_set set;
+    EXPECT_TRUE(set.read_binary_stl(file.path.c_str()));
+    expect_corners_of(cube(), set);
+}
+
+TEST(StlFile, FilesOfMoreThanOneBlockAreReadWhole) {
+    const reference::plain_mesh field = height_field(60);
+    const temporary_file file(stl_bytes(field));
+    ox_triangle_set set;
+    EXPECT_TRUE(set.read_binary_stl(file.path.c_str()));
+    expect_corners_of(field, set);
+}
+
+TEST(StlFile, ReadingLogsItsStepsAndStates52Bytes) {
+    const temporary_file file(stl_bytes(cube()));
+    const log_capture log;
+    ox_triangle_set set;
+    set.read_binary_stl(file.path.c_str());
+    EXPECT_THAT(log.lines(),
+                ElementsAre("reading stl...", "open file ok", "header ok", "nb of triangles ok",
+                            "reading 12 triangles...", "triangle size : 52 bytes."));
+}
+
+TEST(StlFile, FileWithoutTrianglesIsReadAsAnEmptySet) {
+    const temporary_file file(stl_bytes({}));
+    ox_triangle_set set(2, 2);
+    EXPECT_TRUE(set.read_binary_stl(file.path.c_str()));
+    expect_empty(set);
+}
+
+TEST(StlFile, CountOf10WithNineRecordsLogsNineAndEmptiesTheSet) {
+    reference::plain_mesh nine = cube();
+    nine.triangles.resize(27);
+    const temporary_file file(stl_bytes(nine, 10));
+    const log_capture log;
+    ox_triangle_set set(2, 2);
+    EXPECT_FALSE(set.read_binary_stl(file.path.c_str()));
+    EXPECT_THAT(log.lines(), ElementsAre("reading stl...", "open file ok", "header ok",
+                                         "nb of triangles ok", "reading 10 triangles...",
+                                         "triangle size : 52 bytes.", "9 read triangles..."));
+    expect_empty(set);
+}
+
+TEST(StlFile, RecordCutShortIsNotCounted) {
+    std::string bytes = stl_bytes(cube());
+    bytes.pop_back();
+    const temporary_file file(bytes);
+    const log_capture log;
+    ox_triangle_set set;
+    EXPECT_FALSE(set.read_binary_stl(file.path.c_str()));
+    EXPECT_EQ(log.lines().back(), "11 read triangles...");
+}
+
+TEST(StlFile, CountsAbove2To31AreLoggedAsNegative) {
+    const temporary_file file(stl_bytes(cube(), 4294967295u));
+    const log_capture log;
+    ox_triangle_set set;
+    EXPECT_FALSE(set.read_binary_stl(file.path.c_str()));
+    EXPECT_EQ(log.lines()[4], "reading -1 triangles...");
+    EXPECT_EQ(log.lines()[6], "12 read triangles...");
+}
+
+TEST(StlFile, CountWhoseVerticesWrapAroundToFewIsRefused) {
+    // 3 x 1431655766 is 2^32 + 2.
+    const temporary_file file(stl_bytes(cube(), 1431655766u));
+    ox_triangle_set set;
+    EXPECT_FALSE(set.read_binary_stl(file.path.c_str()));
+    expect_empty(set);
+}
+
+TEST(StlFile, FileThatEndsInHeaderOrCountLeavesTheSetAsItWas) {
+    const temporary_file in_header(std::string(79, 'h'));
+    const temporary_file in_count(std::string(83, 'h'));
+    const log_capture log;
+    ox_triangle_set set(1, 1);
+    EXPECT_FALSE(set.read_binary_stl(in_header.path.c_str()));
+    EXPECT_FALSE(set.read_binary_stl(in_count.path.c_str()));
+    EXPECT_THAT(log.lines(), ElementsAre("reading stl...", "open file ok", "reading stl...",
+                                         "open file ok", "header ok"));
+    EXPECT_EQ(set.get_nb_vertices(), 1u);
+}
+
+TEST(StlFile, FilesThatCannotBeOpenedLogOneLine) {
+    for (const char* path : {static_cast<const char*>(nullptr), "", "/no/such/file.stl"}) {
+        const log_capture log;
+        ox_triangle_set set(1, 1);
+        EXPECT_FALSE(set.read_binary_stl(path));
+        EXPECT_THAT(log.lines(), ElementsAre("reading stl..."));
+        EXPECT_EQ(set.get_nb_vertices(), 1u);
+    }
+}
+
+TEST(StlFile, FolderIsNotRead) {
+    ox_triangle_set set;
+    EXPECT_FALSE(set.read_binary_stl(std::filesystem::temp_directory_path().string().c_str()));
+}
+
+TEST(StlFile, EndlessDevicesAreReadWithinBounds) {
+    if (!std::filesystem::exists("/dev/zero") || !std::filesystem::exists("/dev/urandom")) {
+        GTEST_SKIP() << "this system has no endless devices";
+    }
+    ox_triangle_set set;
+    allocation_meter::start(std::size_t{512} << 20);
+    EXPECT_TRUE(set.read_binary_stl("/dev/zero"));
+    EXPECT_FALSE(set.read_binary_raw("/dev/zero"));
+    set.read_binary_stl("/dev/urandom");
+    EXPECT_LT(allocation_meter::stop(), std::size_t{512} << 20);
+}
+
+TEST(StlFile, PipeIsReadToItsEnd) {
+    const temporary_file place("");
+    const std::string pipe = place.path + ".pipe";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    for (const unsigned int count : {12u, 13u}) {
+        const log_capture log;
+        ox_triangle_set set;
+        std::thread writer([&] { mesh_support::write_file(pipe, stl_bytes(cube(), count)); });
+        const bool complete = set.read_binary_stl(pipe.c_str());
+        writer.join();
+        EXPECT_EQ(complete, count == 12);
+        if (complete) {
+            expect_corners_of(cube(), set);
+        } else {
+            EXPECT_EQ(log.lines().back(), "12 read triangles...");
+        }
+    }
+    std::filesystem::remove(pipe);
+}
+
+} // namespace

@@ -1,10 +1,8 @@
 #include <examples/building/description.h>
 
 #include <examples/building/description_checks.h>
-#include <examples/building/line_reader.h>
+#include <examples/support/line_reader.h>
 
-#include <filesystem>
-#include <fstream>
 #include <map>
 #include <set>
 
@@ -12,8 +10,8 @@ namespace building {
 
 namespace {
 
-/// Bytes. A hundred times the largest description we know; larger files are no descriptions.
-constexpr std::uintmax_t largest_file = 1 << 20;
+using ox_examples::line_reader;
+using ox_examples::quoted;
 
 /// Turns the lines of a description into records, one keyword each.
 class parser {
@@ -168,32 +166,12 @@ void parser::read_slope(line_reader& line) {
     r.slopes.push_back(s);
 }
 
-/// The lines of the file at `path`, which must be a plain one: a device has no end.
-std::vector<std::string> read_lines(const std::string& path) {
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(path, error)) {
-        throw description_error(path, 0, "no such file");
-    }
-    if (std::filesystem::file_size(path, error) > largest_file) {
-        throw description_error(path, 0, "too large for a description");
-    }
-    std::ifstream file(path);
-    std::vector<std::string> lines;
-    for (std::string text; std::getline(file, text);) {
-        lines.push_back(text);
-    }
-    if (!file.eof()) {
-        throw description_error(path, 0, "the file cannot be read");
-    }
-    return lines;
-}
-
 } // namespace
 
 description read_description(const std::string& path) {
     parser p;
     int number = 0;
-    for (const std::string& text : read_lines(path)) {
+    for (const std::string& text : ox_examples::read_lines(path)) {
         line_reader line(path, ++number, text);
         p.read(line);
     }

@@ -1,0 +1,61 @@
+#include <examples/curves/description.h>
+#include <examples/curves/drawing.h>
+#include <examples/curves/tracing.h>
+
+#include <examples/support/output_folder.h>
+#include <examples/support/png_file.h>
+#include <examples/support/single_input.h>
+
+#include <ox/core/ox_log.h>
+
+#include <cstdio>
+#include <exception>
+
+namespace {
+
+/// The process's exit status.
+enum status { all_well = 0, not_written = 1, refused = 2 };
+
+/// Prints eleven points of each curve, from its begin to its end.
+void report(const curves::description& d) {
+    constexpr int nb_steps = 10;
+    const curves::traced_curves traced = curves::trace(d.points, nb_steps);
+    std::printf("%-4s %9s %9s   %9s %9s   %9s %9s\n", "t", "Bezier x", "y", "B-spline x", "y",
+                "spline x", "y");
+    for (std::size_t i = 0; i <= nb_steps; ++i) {
+        std::printf("%-4.1f", static_cast<double>(i) / nb_steps);
+        for (const auto* curve : {&traced.bezier, &traced.bspline, &traced.spline}) {
+            std::printf(" %10.4f %9.4f  ", (*curve)[i].x, (*curve)[i].y);
+        }
+        std::printf("\n");
+    }
+}
+
+void run(const ox_examples::single_input& wanted) {
+    const curves::description d = curves::read_description(wanted.file);
+    ox_examples::output_folder folder(wanted.folder, d.name);
+    ox_examples::write_png(folder.add(d.name + ".png"), curves::draw_curves(d));
+    folder.publish();
+    report(d);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    ox_log_set(false); // the working folder stays as it is
+    ox_examples::single_input wanted;
+    if (!ox_examples::parse(argc, argv, wanted)) {
+        std::fprintf(stderr, "usage: %s DESCRIPTION [--out DIR]\n", argv[0]);
+        return refused;
+    }
+    try {
+        run(wanted);
+        return all_well;
+    } catch (const curves::description_error& error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        return refused;
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        return not_written;
+    }
+}

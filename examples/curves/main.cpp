@@ -20,12 +20,11 @@ enum status { all_well = 0, not_written = 1, refused = 2 };
 void report(const curves::description& d) {
     constexpr int nb_steps = 10;
     const curves::traced_curves traced = curves::trace(d.points, nb_steps);
-    std::printf("%-4s %9s %9s   %9s %9s   %9s %9s\n", "t", "Bezier x", "y", "B-spline x", "y",
-                "spline x", "y");
+    std::printf("%-4s %21s %21s %21s\n", "t", "Bezier", "B-spline", "damped spline");
     for (std::size_t i = 0; i <= nb_steps; ++i) {
         std::printf("%-4.1f", static_cast<double>(i) / nb_steps);
         for (const auto* curve : {&traced.bezier, &traced.bspline, &traced.spline}) {
-            std::printf(" %10.4f %9.4f  ", (*curve)[i].x, (*curve)[i].y);
+            std::printf(" %11.4f %9.4f", (*curve)[i].x, (*curve)[i].y);
         }
         std::printf("\n");
     }

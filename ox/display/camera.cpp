@@ -2,24 +2,11 @@
 #include <cmath>
 #include <ox/display/internal/tolerances.h>
 #include <ox/display/ox_camera.h>
+#include <ox/geometry/internal/angles.h>
 #include <ox/geometry/ox_polar.h>
 #include <ox/ox_functions.h>
 
 namespace ox {
-
-namespace {
-
-constexpr float half_turn = 3.1415927f;
-
-float rounded_cos(float radians) {
-    return static_cast<float>(std::cos(static_cast<double>(radians)));
-}
-
-float rounded_sin(float radians) {
-    return static_cast<float>(std::sin(static_cast<double>(radians)));
-}
-
-} // namespace
 
 ox_camera::ox_camera()
     : ox_camera(ox_3dvector(), ox_3dvector(), ox_3dvector(0.f, 0.f, 1.f), 30.f, 0, 0) {}

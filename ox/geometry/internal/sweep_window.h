@@ -1,0 +1,59 @@
+#ifndef OX_GEOMETRY_INTERNAL_SWEEP_WINDOW_H
+#define OX_GEOMETRY_INTERNAL_SWEEP_WINDOW_H
+
+#include <algorithm>
+#include <cstddef>
+#include <vector>
+
+namespace ox {
+
+/// The intervals of a fixed set that a window meets which only moves upwards: the active edges of
+/// a sweep line (Wylie and others, 1967).
+///
+/// All intervals are closed. Adding them and sorting costs O(n log n); after that every interval
+/// comes in once, and a move costs the number of intervals met before and after it.
+class sweep_window {
+public:
+    struct interval {
+        double low;
+        double high;
+        int index; ///< 0 for the interval added first, 1 for the next, ...
+    };
+
+    /// Adds an interval. One with an end that is not a number is never met.
+    void add(double low, double high) {
+        const int index = added++;
+        if (low <= high) {
+            waiting.push_back({low, high, index});
+        }
+    }
+
+    /// To be called after the last `add` and before the first move.
+    void sort() {
+        std::stable_sort(waiting.begin(), waiting.end(),
+                         [](const interval& a, const interval& b) { return a.low < b.low; });
+    }
+
+    /// The intervals that meet [low, high]. Neither end may be below that of the move before.
+    const std::vector<interval>& move_to(double low, double high) {
+        met.erase(std::remove_if(met.begin(), met.end(),
+                                 [low](const interval& i) { return i.high < low; }),
+                  met.end());
+        for (; next < waiting.size() && waiting[next].low <= high; ++next) {
+            if (waiting[next].high >= low) {
+                met.push_back(waiting[next]);
+            }
+        }
+        return met;
+    }
+
+private:
+    int added = 0;
+    std::vector<interval> waiting; ///< by ascending lower end, from `next` on
+    std::size_t next = 0;
+    std::vector<interval> met;
+};
+
+} // namespace ox
+
+#endif

@@ -127,13 +127,11 @@ ox_list<ox_3dvector> ox_polygon::random_distribution(int count, int seed) {
     points.set_size(count);
     for (ox_3dvector& point : points) {
         const spanned_triangle& t = triangles[by_area.find(random.dice_0_1() * total)];
-        float a = random.dice_0_1();
-        float b = random.dice_0_1();
-        if (a + b > 1.0f) { // the other half of the parallelogram
-            a = 1.0f - a;
-            b = 1.0f - b;
-        }
-        point = t.corner + a * t.first_side + b * t.second_side;
+        const float a = random.dice_0_1();
+        const float b = random.dice_0_1();
+        const bool beyond = a + b > 1.0f; // in the other half of the parallelogram
+        point = t.corner + (beyond ? 1.0f - a : a) * t.first_side +
+                (beyond ? 1.0f - b : b) * t.second_side;
     }
     return points;
 }

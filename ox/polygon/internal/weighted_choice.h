@@ -17,17 +17,17 @@ public:
     /// The sum of all weights.
     float total() const { return sums.empty() ? 0.0f : sums.back(); }
 
-    /// To be called after the last `add`: makes one cell of equal share of the total per weight.
-    /// O(n).
+    /// To be called after the last `add`: divides the total into cells of equal share, so many that
+    /// most belong to one weight alone. O(n).
     void make_guide() {
-        const std::size_t cells = sums.size();
-        cells_per_unit = static_cast<double>(cells) / static_cast<double>(total());
+        last_cell = sums.size() * cells_per_weight - 1;
+        cells_per_unit = static_cast<double>(last_cell + 1) / static_cast<double>(total());
         std::size_t i = 0;
-        for (std::size_t cell = 0; cell < cells; ++cell) {
-            while (i + 1 < cells && cell_of(sums[i]) < cell) {
+        for (std::size_t cell = 0; cell <= last_cell; ++cell) {
+            while (i + 1 < sums.size() && cell_of(sums[i]) < cell) {
                 ++i;
             }
-            guide.push_back(i);
+            guide.push_back(static_cast<unsigned int>(i));
         }
     }
 
@@ -47,12 +47,15 @@ public:
 private:
     std::size_t cell_of(float r) const {
         const double place = static_cast<double>(r) * cells_per_unit;
-        const double last = static_cast<double>(sums.size() - 1);
+        const double last = static_cast<double>(last_cell);
         return place > 0.0 ? static_cast<std::size_t>(std::min(place, last)) : 0;
     }
 
+    static constexpr std::size_t cells_per_weight = 4;
+
     std::vector<float> sums;
-    std::vector<std::size_t> guide; ///< for each cell, the first index that can stand for it
+    std::vector<unsigned int> guide; ///< for each cell, the first index that can stand for it
+    std::size_t last_cell = 0;
     double cells_per_unit = 0.0;
 };
 

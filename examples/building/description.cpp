@@ -1,10 +1,7 @@
 #include <examples/building/description.h>
 
 #include <examples/building/description_checks.h>
-#include <examples/support/line_reader.h>
-
-#include <map>
-#include <set>
+#include <examples/support/record_reader.h>
 
 namespace building {
 
@@ -13,10 +10,10 @@ namespace {
 using ox_examples::line_reader;
 using ox_examples::quoted;
 
-/// Turns the lines of a description into records, one keyword each.
+/// Turns the lines of a description into records.
 class parser {
 public:
-    void read(line_reader& line);
+    void read(const std::string& path);
 
     description result;
 
@@ -30,29 +27,23 @@ private:
     void read_roof(line_reader& line);
     void read_slope(line_reader& line);
 
-    std::string read_new_name(line_reader& line);
     std::size_t read_storey_number(line_reader& line);
 
-    std::set<std::string> names;
+    ox_examples::unique_names names;
 };
 
-void parser::read(line_reader& line) {
-    static const std::map<std::string, void (parser::*)(line_reader&)> keywords = {
-        {"building", &parser::read_building}, {"storey", &parser::read_storey},
-        {"wall", &parser::read_wall},         {"opening", &parser::read_opening},
-        {"slab", &parser::read_slab},         {"hole", &parser::read_hole},
-        {"roof", &parser::read_roof},         {"slope", &parser::read_slope},
-    };
-    if (line.at_end()) {
-        return;
-    }
-    const std::string keyword = line.word("keyword");
-    const auto found = keywords.find(keyword);
-    if (found == keywords.end()) {
-        line.fail("unknown keyword " + quoted(keyword));
-    }
-    (this->*found->second)(line);
-    line.expect_end();
+void parser::read(const std::string& path) {
+    ox_examples::read_records(path,
+                              {
+                                  {"building", [this](line_reader& line) { read_building(line); }},
+                                  {"storey", [this](line_reader& line) { read_storey(line); }},
+                                  {"wall", [this](line_reader& line) { read_wall(line); }},
+                                  {"opening", [this](line_reader& line) { read_opening(line); }},
+                                  {"slab", [this](line_reader& line) { read_slab(line); }},
+                                  {"hole", [this](line_reader& line) { read_hole(line); }},
+                                  {"roof", [this](line_reader& line) { read_roof(line); }},
+                                  {"slope", [this](line_reader& line) { read_slope(line); }},
+                              });
 }
 
 /// The record of that name among `records`.
@@ -65,14 +56,6 @@ std::size_t find_record(line_reader& line, const std::vector<T>& records, const 
         }
     }
     line.fail("unknown " + kind + " " + quoted(name));
-}
-
-std::string parser::read_new_name(line_reader& line) {
-    const std::string name = line.name("name");
-    if (!names.insert(name).second) {
-        line.fail("duplicate name " + quoted(name));
-    }
-    return name;
 }
 
 std::size_t parser::read_storey_number(line_reader& line) {
@@ -105,7 +88,7 @@ void parser::read_storey(line_reader& line) {
 void parser::read_wall(line_reader& line) {
     wall w;
     w.line = line.get_line();
-    w.name = read_new_name(line);
+    w.name = names.take(line);
     w.storey = read_storey_number(line);
     w.from = line.labelled_point("from");
     w.to = line.labelled_point("to");
@@ -117,7 +100,7 @@ void parser::read_wall(line_reader& line) {
 void parser::read_opening(line_reader& line) {
     opening o;
     o.line = line.get_line();
-    o.name = read_new_name(line);
+    o.name = names.take(line);
     line.label("wall");
     o.wall = find_record(line, result.walls, "wall");
     o.distance = line.labelled_number("at");
@@ -130,7 +113,7 @@ void parser::read_opening(line_reader& line) {
 void parser::read_slab(line_reader& line) {
     slab s;
     s.line = line.get_line();
-    s.name = read_new_name(line);
+    s.name = names.take(line);
     s.level = line.labelled_number("level");
     s.thickness = line.labelled_size("thickness");
     line.label("outline");
@@ -147,7 +130,7 @@ void parser::read_hole(line_reader& line) {
 void parser::read_roof(line_reader& line) {
     roof r;
     r.line = line.get_line();
-    r.name = read_new_name(line);
+    r.name = names.take(line);
     r.storey = read_storey_number(line);
     r.level = line.labelled_number("level");
     r.thickness = line.labelled_size("thickness");
@@ -170,11 +153,7 @@ void parser::read_slope(line_reader& line) {
 
 description read_description(const std::string& path) {
     parser p;
-    int number = 0;
-    for (const std::string& text : ox_examples::read_lines(path)) {
-        line_reader line(path, ++number, text);
-        p.read(line);
-    }
+    p.read(path);
     check_description(p.result, path);
     return p.result;
 }

@@ -12,6 +12,7 @@
 
 #include <cstdio>
 #include <exception>
+#include <stdexcept>
 #include <string>
 
 namespace {
@@ -47,13 +48,11 @@ status run(const ox_examples::single_input& wanted) {
 } // namespace
 
 int main(int argc, char** argv) {
-    ox_examples::single_input wanted;
-    if (!ox_examples::parse(argc, argv, wanted)) {
+    try {
+        return run(ox_examples::parse_single_input(argc, argv));
+    } catch (const std::invalid_argument&) {
         std::fprintf(stderr, "usage: %s DESCRIPTION [--out DIR]\n", argv[0]);
         return refused;
-    }
-    try {
-        return run(wanted);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());
         return refused;

@@ -1,13 +1,12 @@
 #include <examples/curves/description.h>
 
-#include <examples/support/line_reader.h>
+#include <examples/support/record_reader.h>
 
 namespace curves {
 
 namespace {
 
 using ox_examples::line_reader;
-using ox_examples::quoted;
 
 /// A cubic curve takes four points; the coefficients of a Bezier curve are exact up to 18.
 constexpr std::size_t fewest_points = 4;
@@ -35,30 +34,14 @@ void read_point(line_reader& line, description& d) {
     d.points.push_back({x, y});
 }
 
-void read_record(line_reader& line, description& d) {
-    if (line.at_end()) {
-        return;
-    }
-    const std::string keyword = line.word("keyword");
-    if (keyword == "curves") {
-        read_name(line, d);
-    } else if (keyword == "point") {
-        read_point(line, d);
-    } else {
-        line.fail("unknown keyword " + quoted(keyword));
-    }
-    line.expect_end();
-}
-
 } // namespace
 
 description read_description(const std::string& path) {
     description d;
-    int number = 0;
-    for (const std::string& text : ox_examples::read_lines(path)) {
-        line_reader line(path, ++number, text);
-        read_record(line, d);
-    }
+    ox_examples::read_records(path, {
+                                        {"curves", [&d](line_reader& line) { read_name(line, d); }},
+                                        {"point", [&d](line_reader& line) { read_point(line, d); }},
+                                    });
     if (d.name.empty()) {
         throw description_error(path, 0, "no 'curves' line names the curves");
     }

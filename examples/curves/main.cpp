@@ -4,17 +4,12 @@
 
 #include <examples/support/output_folder.h>
 #include <examples/support/png_file.h>
+#include <examples/support/program.h>
 #include <examples/support/single_input.h>
 
-#include <ox/core/ox_log.h>
-
 #include <cstdio>
-#include <exception>
 
 namespace {
-
-/// The process's exit status.
-enum status { all_well = 0, not_written = 1, refused = 2 };
 
 /// Prints eleven points of each curve, from its begin to its end.
 void report(const curves::description& d) {
@@ -41,20 +36,8 @@ void run(const ox_examples::single_input& wanted) {
 } // namespace
 
 int main(int argc, char** argv) {
-    ox_log_set(false); // the working folder stays as it is
-    ox_examples::single_input wanted;
-    if (!ox_examples::parse(argc, argv, wanted)) {
-        std::fprintf(stderr, "usage: %s DESCRIPTION [--out DIR]\n", argv[0]);
-        return refused;
-    }
-    try {
-        run(wanted);
-        return all_well;
-    } catch (const curves::description_error& error) {
-        std::fprintf(stderr, "%s\n", error.what());
-        return refused;
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "%s\n", error.what());
-        return not_written;
-    }
+    return ox_examples::run_program("ox_curves DESCRIPTION [--out DIR]", [&] {
+        run(ox_examples::parse_single_input(argc, argv));
+        return ox_examples::all_well;
+    });
 }

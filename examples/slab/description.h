@@ -13,6 +13,12 @@ using ox_examples::description_error;
 using ox_examples::plan_contour;
 using ox_examples::plan_point;
 
+/// The outer contour of the slab or a hole in it.
+struct contour {
+    plan_contour points;
+    int line = 0; ///< of the file
+};
+
 /// A beam under the slab.
 struct beam {
     std::string name;
@@ -29,12 +35,13 @@ struct span {
     double share = 0;     ///< of the weight, from 0 to 1
 };
 
-/// A floor slab as its text file describes it; README.md documents the file.
+/// A floor slab as its text file describes it (README.md documents the file), except that places are
+/// counted from the first corner of the outline: single precision is finest near the origin.
 struct description {
     std::string name;
     double weight = 0; ///< kN/m2
-    plan_contour outline;
-    std::vector<plan_contour> holes;
+    contour outline;
+    std::vector<contour> holes;
     std::vector<span> spans; ///< one or two; their shares sum to 1
     std::vector<beam> beams;
 };

@@ -59,10 +59,11 @@ void draw_map(const share_map& map, const plan_view& view) {
 
 void draw_outlines(const description& d, const plan_view& view) {
     ox_examples::set_colour(ink);
-    ox_examples::draw_loop(view.place(d.outline), 2);
-    for (const plan_contour& hole : d.holes) {
-        ox_examples::draw_loop(view.place(hole), 2);
-        ox_examples::draw_line(view.place({hole[0], hole[hole.size() / 2]}), 1);
+    ox_examples::draw_loop(view.place(d.outline.points), 2);
+    for (const contour& hole : d.holes) {
+        ox_examples::draw_loop(view.place(hole.points), 2);
+        ox_examples::draw_line(view.place({hole.points[0], hole.points[hole.points.size() / 2]}),
+                               1);
     }
 }
 
@@ -121,7 +122,7 @@ ox_examples::image draw_shares(const description& d, const sharing& shares) {
     ox_examples::begin_flat_drawing(context.get_width(), context.get_height());
     for (std::size_t i = 0; i < shares.spans.size(); ++i) {
         const double left = plan_width * static_cast<double>(i);
-        const plan_view view(d.outline, {left, title_height}, plan_width, plan_height);
+        const plan_view view(d.outline.points, {left, title_height}, plan_width, plan_height);
         draw_title(d, d.spans[i], shares.spans[i].map, left);
         draw_map(shares.spans[i].map, view);
         draw_outlines(d, view);

@@ -16,9 +16,9 @@ ox::ox_list<ox::ox_3dvector> flat(const plan_contour& contour) {
 
 ox::ox_polygon polygon_of(const description& d) {
     ox::ox_polygon polygon(ox::ox_3dvector(0, 0, 0), ox::ox_3dvector(0, 0, 1));
-    polygon.add_contour(flat(d.outline));
-    for (const plan_contour& hole : d.holes) {
-        polygon.add_contour(flat(hole));
+    polygon.add_contour(flat(d.outline.points));
+    for (const contour& hole : d.holes) {
+        polygon.add_contour(flat(hole.points));
     }
     return polygon;
 }

@@ -38,9 +38,9 @@ share_map frame_of(const description& d, const span& s, double step) {
     const double length = std::hypot(s.direction.x, s.direction.y);
     map.along = {s.direction.x / length, s.direction.y / length};
     map.across = {-map.along.y, map.along.x};
-    map.left = dot(d.outline[0], map.along);
-    map.bottom = dot(d.outline[0], map.across);
-    for (const plan_point& p : d.outline) {
+    map.left = dot(d.outline.points[0], map.along);
+    map.bottom = dot(d.outline.points[0], map.across);
+    for (const plan_point& p : d.outline.points) {
         map.left = std::min(map.left, dot(p, map.along));
         map.bottom = std::min(map.bottom, dot(p, map.across));
     }
@@ -61,9 +61,9 @@ span_loads share_out(const description& d, const span& s, double step) {
     ox::ox_loadshare shares;
     shares.set_slab_geometry(ox::ox_3dvector(0, 0, 1), flat(s.direction));
     shares.set_slab_weight(static_cast<float>(d.weight * s.share));
-    shares.add_slab_contour(flat(d.outline));
-    for (const plan_contour& hole : d.holes) {
-        shares.add_slab_contour(flat(hole));
+    shares.add_slab_contour(flat(d.outline.points));
+    for (const contour& hole : d.holes) {
+        shares.add_slab_contour(flat(hole.points));
     }
     for (const beam& b : d.beams) {
         shares.add_beam(flat(b.from), flat(b.to));

@@ -11,8 +11,8 @@ struct single_input {
     std::string folder = "."; ///< for the files that are written
 };
 
-/// Reads such a command line. Returns false when it is something else.
-bool parse(int argc, char** argv, single_input& result);
+/// Reads such a command line. Throws `std::invalid_argument` when it is something else.
+single_input parse_single_input(int argc, char** argv);
 
 } // namespace ox_examples
 

@@ -7,19 +7,14 @@
 #include <examples/building/drawing.h>
 #include <examples/support/output_folder.h>
 #include <examples/support/png_file.h>
+#include <examples/support/program.h>
 #include <examples/support/progress.h>
-
-#include <ox/core/ox_log.h>
 
 #include <cmath>
 #include <cstdio>
-#include <exception>
 #include <stdexcept>
 
 namespace {
-
-/// The process's exit status.
-enum status { all_well = 0, failed = 1, refused = 2 };
 
 using building::element;
 
@@ -33,20 +28,20 @@ void print(const char* what, const ox::ox_3dvector& v) {
 }
 
 /// Picks the point of the building that the pixel shows.
-view::hit pick(std::vector<element>& elements, ox::ox_camera& camera,
-               const view::arguments& wanted) {
+ox::ox_3dvector pick(std::vector<element>& elements, ox::ox_camera& camera,
+                     const view::arguments& wanted) {
     const ox::ox_3dvector ray = camera.get_ray_direction(wanted.pick_x, wanted.pick_y);
-    print("eye", camera.get_position());
-    std::printf("\n");
-    print("ray", ray);
-    std::printf("   through pixel %g %g\n", double{wanted.pick_x}, double{wanted.pick_y});
     const auto found = view::first_hit(elements, camera.get_position(), ray);
     if (!found) {
         throw std::runtime_error("the ray through the pixel misses the building");
     }
+    print("eye", camera.get_position());
+    std::printf("\n");
+    print("ray", ray);
+    std::printf("   through pixel %g %g\n", double{wanted.pick_x}, double{wanted.pick_y});
     print("picked", found->point);
     std::printf("   %s\n", found->name.c_str());
-    return *found;
+    return found->point;
 }
 
 view::marks snap(std::vector<element>& elements, const ox::ox_3dvector& picked) {
@@ -81,8 +76,7 @@ void run(const view::arguments& wanted) {
     const building::description d = building::read_description(wanted.description);
     std::vector<element> elements = assemble(d);
     ox::ox_camera camera = view::first_camera(building::bounding_box(elements));
-    const view::hit picked = pick(elements, camera, wanted);
-    const view::marks m = snap(elements, picked.point);
+    const view::marks m = snap(elements, pick(elements, camera, wanted));
 
     ox_examples::output_folder folder(wanted.folder, d.name);
     for (view::station& s : view::tour(camera, m.snapped)) {
@@ -91,25 +85,11 @@ void run(const view::arguments& wanted) {
     folder.publish();
 }
 
-/// Tells what is wrong and returns the status.
-status refuse(const std::exception& error, status result) {
-    std::fprintf(stderr, "%s\n", error.what());
-    return result;
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
-    ox_log_set(false); // the working folder stays as it is
-    try {
+    return ox_examples::run_program("ox_view DESCRIPTION [--pick X Y] [--out DIR]", [&] {
         run(view::parse(argc, argv));
-        return all_well;
-    } catch (const std::invalid_argument& error) {
-        std::fprintf(stderr, "usage: %s DESCRIPTION [--pick X Y] [--out DIR]\n", argv[0]);
-        return refuse(error, refused);
-    } catch (const building::description_error& error) {
-        return refuse(error, refused);
-    } catch (const std::exception& error) {
-        return refuse(error, failed);
-    }
+        return ox_examples::all_well;
+    });
 }

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <limits>
 #include <ox/core/ox_log.h>
+#include <ox/geometry/internal/sweep_window.h>
 #include <ox/structure/internal/oxp_loadshare.h>
 #include <ox/structure/internal/slab_crossings.h>
 #include <ox/structure/ox_loadshare.h>
@@ -17,10 +18,18 @@ namespace {
 /// Model units: keeps the number of lines finite.
 constexpr float smallest_step = 0.001f;
 
-struct beam_crossing {
-    float x;
-    int beam;
-};
+constexpr float infinity = std::numeric_limits<float>::infinity();
+
+using beam_crossing = sweep_window::interval;
+using beam_crossings = std::vector<beam_crossing>;
+
+float next_above(float y) {
+    return std::nextafter(y, infinity);
+}
+
+float next_below(float y) {
+    return std::nextafter(y, -infinity);
+}
 
 template <typename... values>
 void log_line(const char* format, values... arguments) {
@@ -35,7 +44,15 @@ double printed(float number) {
 
 class sweep {
 public:
-    sweep(oxp_loadshare& loads, float line_step) : load(loads), step(line_step) {}
+    sweep(oxp_loadshare& loads, float line_step)
+        : load(loads), step(line_step), outline(loads.contours) {
+        for (const oxp_beam& beam : load.beams) {
+            const auto ends = std::minmax(beam.start.y, beam.end.y);
+            beams.add(static_cast<double>(next_above(ends.first)),
+                      static_cast<double>(next_below(ends.second)));
+        }
+        beams.sort();
+    }
 
     void run() {
         const float first = load.bounds.origin.y;
@@ -50,57 +67,41 @@ private:
         if (load.log) {
             log_line("### y = %f", printed(y));
         }
-        find_spans(y);
-        if (spans.empty()) {
+        const std::vector<float>& spans = outline.find(y); // two ends of each stretch of slab
+        if (spans.empty() || spans.size() % 2 != 0) {
             return;
         }
-        find_beam_crossings(y);
-        share(y);
-    }
-
-    /// Fills `spans` with the ends of the stretches of slab, two for each.
-    void find_spans(float y) {
-        spans.clear();
-        for (const ox_list<ox_3dvector>& contour : load.contours) {
-            append_crossings(contour, y, spans);
-        }
-        if (spans.size() % 2 != 0) {
-            spans.clear();
-        }
-        std::sort(spans.begin(), spans.end(), precedes);
         for (std::size_t i = 0; load.log && i < spans.size(); i += 2) {
             log_line("slab : %f -> %f", printed(spans[i]), printed(spans[i + 1]));
         }
+        share(y, spans, find_beam_crossings(y));
     }
 
-    /// Ascending, with what overflowed to NaN at the end.
-    static bool precedes(float a, float b) { return a < b || (std::isnan(b) && !std::isnan(a)); }
-
-    void find_beam_crossings(float y) {
-        crossings.clear();
-        for (int k = 0; k < load.beams.size(); ++k) {
-            const ox_3dvector& a = load.beams[k].start;
-            const ox_3dvector& b = load.beams[k].end;
-            if ((y >= a.y && y >= b.y) || (a.y >= y && b.y >= y)) {
-                continue;
-            }
+    /// The beams that cross the line, by ascending x. One whose crossing overflows comes last, at
+    /// infinity, where it meets no slab.
+    const beam_crossings& find_beam_crossings(float y) {
+        const double line = static_cast<double>(y);
+        beam_crossings& crossings = beams.move_to(line, line);
+        for (beam_crossing& crossing : crossings) {
+            const ox_3dvector& a = load.beams[crossing.index].start;
+            const ox_3dvector& b = load.beams[crossing.index].end;
             const float x = a.x + (b.x - a.x) * (y - a.y) / (b.y - a.y);
-            if (std::isfinite(x)) {
-                crossings.push_back(beam_crossing{x, k});
+            crossing.at = std::isfinite(x) ? x : infinity;
+        }
+        beams.order_met();
+        for (std::size_t i = 0; load.log && i < crossings.size(); ++i) {
+            if (crossings[i].at < infinity) {
+                log_line("beam %d : %f", crossings[i].index, printed(crossings[i].at));
             }
         }
-        std::stable_sort(crossings.begin(), crossings.end(),
-                         [](const beam_crossing& a, const beam_crossing& b) { return a.x < b.x; });
-        for (std::size_t i = 0; load.log && i < crossings.size(); ++i) {
-            log_line("beam %d : %f", crossings[i].beam, printed(crossings[i].x));
-        }
+        return crossings;
     }
 
-    void share(float y) {
+    void share(float y, const std::vector<float>& spans, const beam_crossings& crossings) {
         std::size_t span = 0;
         float left = spans[0];
         for (std::size_t i = 0; i < crossings.size(); ++i) {
-            const float x = crossings[i].x;
+            const float x = crossings[i].at;
             if (left > x) {
                 continue;
             }
@@ -111,41 +112,34 @@ private:
                 }
                 left = spans[span];
             }
-            const float right = end_of_share(i, spans[span + 1]);
+            const float next_x = i + 1 < crossings.size() ? crossings[i + 1].at : infinity;
+            const float right = next_x <= spans[span + 1] ? (x + next_x) / 2.f : spans[span + 1];
             give(crossings[i], y, left, right);
             left = right;
         }
     }
 
-    /// Half-way to the next beam of the same stretch, or the end of the stretch.
-    float end_of_share(std::size_t i, float end_of_span) const {
-        if (i + 1 < crossings.size() && crossings[i + 1].x <= end_of_span) {
-            return (crossings[i].x + crossings[i + 1].x) / 2.f;
-        }
-        return end_of_span;
-    }
-
     void give(const beam_crossing& crossing, float y, float left, float right) {
-        oxp_beam& beam = load.beams[crossing.beam];
+        oxp_beam& beam = load.beams[crossing.index];
         const float area = (right - left) * step;
         beam.weight += area;
         if (load.log) {
-            log_line("beam contrib %d : %f -> %f : %f", crossing.beam, printed(left),
+            log_line("beam contrib %d : %f -> %f : %f", crossing.index, printed(left),
                      printed(right), printed(area));
         }
         if (load.image.exists()) {
             if (beam.color == 0) {
                 beam.color = share_color(colors_used++);
             }
-            load.image.paint(y, left, right, crossing.x, beam.color);
+            load.image.paint(y, left, right, crossing.at, beam.color);
         }
     }
 
     oxp_loadshare& load;
     float step;
     unsigned int colors_used = 0;
-    std::vector<float> spans;
-    std::vector<beam_crossing> crossings;
+    slab_crossings outline;
+    sweep_window beams; ///< between their ends: a line through an end does not cross
 };
 
 /// The step between lines: at least the minimum, and enough to advance from either end of the slab.
@@ -156,7 +150,7 @@ float advancing_step(float asked, const ox_box& bounds) {
     if (far + step > far && step - far > -far) {
         return step;
     }
-    return std::nextafter(far, std::numeric_limits<float>::infinity()) - far;
+    return next_above(far) - far;
 }
 
 bool is_finite(const ox_box& box) {

@@ -224,24 +224,6 @@ TEST(OxLoadshare, ClearedBeamsStartAgainAtIndex0) {
     EXPECT_EQ(vertical_beam(slab, 0, 0, 1), 0);
 }
 
-TEST(OxLoadshare, VerticesAndEdgesOnALineAreCountedOnce) {
-    // lines at whole heights run through every vertex, and along the steps' treads
-    ox_loadshare slab = slab_of(contour({{0, 0, 0},
-                                         {6, 0, 0},
-                                         {6, 1, 0},
-                                         {5, 1, 0},
-                                         {5, 2, 0},
-                                         {4, 2, 0},
-                                         {2, 4, 0},
-                                         {1, 3, 0},
-                                         {0, 3, 0}}));
-    vertical_beam(slab, 2, -1, 5);
-    slab.compute_weights(1);
-    // y = 0 touches only; y = 1: up to 6 or 5; y = 2: from 0; y = 3: to 3
-    EXPECT_GT(slab.get_weight(0), 10);
-    EXPECT_LT(slab.get_weight(0), 22);
-}
-
 TEST(OxLoadshare, FrameHasTheDirectionMadeSquareToTheNormalAsItsXAxis) {
     ox_loadshare slab;
     slab.set_slab_geometry(ox_3dvector(0, 5, 0), ox_3dvector(2, 9, 0)); // a wall seen from +y

@@ -17,14 +17,15 @@ public:
     struct interval {
         double low;
         double high;
-        int index; ///< 0 for the interval added first, 1 for the next, ...
+        int index;      ///< 0 for the interval added first, 1 for the next, ...
+        float at = 0.f; ///< for the user: where along the line it is met
     };
 
     /// Adds an interval. One with an end that is not a number is never met.
     void add(double low, double high) {
         const int index = added++;
         if (low <= high) {
-            waiting.push_back({low, high, index});
+            waiting.push_back({low, high, index, 0.f});
         }
     }
 
@@ -34,8 +35,9 @@ public:
                          [](const interval& a, const interval& b) { return a.low < b.low; });
     }
 
-    /// The intervals that meet [low, high]. Neither end may be below that of the move before.
-    const std::vector<interval>& move_to(double low, double high) {
+    /// The intervals that meet [low, high]. Neither end may be below that of the move before. They
+    /// stay in the order in which the user leaves them; new ones come in at the end.
+    std::vector<interval>& move_to(double low, double high) {
         met.erase(std::remove_if(met.begin(), met.end(),
                                  [low](const interval& i) { return i.high < low; }),
                   met.end());
@@ -47,7 +49,32 @@ public:
         return met;
     }
 
+    /// Orders what is met by `at`, equal ones by index: in linear time when they are nearly in that
+    /// order already, as after a small move.
+    void order_met() {
+        std::size_t moves_left = moves_per_interval * met.size();
+        for (std::size_t i = 1; i < met.size(); ++i) {
+            const interval moved = met[i];
+            std::size_t place = i;
+            while (place > 0 && moves_left > 0 && precedes(moved, met[place - 1])) {
+                met[place] = met[place - 1];
+                --place;
+                --moves_left;
+            }
+            met[place] = moved;
+        }
+        if (moves_left == 0) {
+            std::sort(met.begin(), met.end(), precedes);
+        }
+    }
+
 private:
+    static constexpr std::size_t moves_per_interval = 4;
+
+    static bool precedes(const interval& a, const interval& b) {
+        return a.at < b.at || (a.at == b.at && a.index < b.index);
+    }
+
     int added = 0;
     std::vector<interval> waiting; ///< by ascending lower end, from `next` on
     std::size_t next = 0;

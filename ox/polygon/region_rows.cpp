@@ -56,8 +56,7 @@ void region_rows::add_sides() {
             const ox_2dvector& a = vertices[i];
             const ox_2dvector& b = vertices[i + 1 < end ? i + 1 : first];
             sides.push_back({a, b});
-            window.add(static_cast<double>(std::min(a.y, b.y)),
-                       static_cast<double>(std::max(a.y, b.y)));
+            window.add(std::min(a.y, b.y), std::max(a.y, b.y));
         }
         first = end;
     }
@@ -77,7 +76,7 @@ region_rows::band region_rows::band_of(float w) const {
 
 const std::vector<column_range>& region_rows::find_inside(float w) {
     const band row = band_of(w);
-    met = &window.move_to(static_cast<double>(row.low), static_cast<double>(row.high));
+    met = &window.move_to(row.low, row.high);
     find_blurs(row);
     join_overlapping_blurs();
     walk(w);

@@ -50,6 +50,14 @@ double square_distance(const point& p, const side& s) {
     return away.x * away.x + away.y * away.y;
 }
 
+float float_below(double x) {
+    return std::nextafter(static_cast<float>(x), -std::numeric_limits<float>::infinity());
+}
+
+float float_above(double x) {
+    return std::nextafter(static_cast<float>(x), std::numeric_limits<float>::infinity());
+}
+
 /// The first cell whose centre lies right of x, in cells, of `count` cells.
 int first_cell_beyond(double x, int count) {
     if (!(x >= 0.5)) {
@@ -127,8 +135,9 @@ private:
         for (const side& s : cell_sides) {
             const double low = std::min(s.a.y, s.b.y);
             const double high = std::max(s.a.y, s.b.y);
-            crossed.add(low, high);
-            near.add(low - margin_rows - slack, high + margin_rows + slack);
+            crossed.add(float_below(low), float_above(high));
+            near.add(float_below(low - margin_rows - slack),
+                     float_above(high + margin_rows + slack));
         }
         crossed.sort();
         near.sort();
@@ -138,7 +147,7 @@ private:
     void fill_inside(bool* row, int j) {
         const double y = static_cast<double>(j) + 0.5;
         crossings.clear();
-        for (const sweep_window::interval& i : crossed.move_to(y, y)) {
+        for (const sweep_window::interval& i : crossed.move_to(float_below(y), float_above(y))) {
             const side& s = cell_sides[static_cast<std::size_t>(i.index)];
             double x = 0.0;
             if (find_crossing(s.a, s.b, y, x)) {
@@ -155,7 +164,7 @@ private:
 
     void clear_margin(bool* row, int j, double margin) {
         const double y = static_cast<double>(j) + 0.5;
-        for (const sweep_window::interval& i : near.move_to(y, y)) {
+        for (const sweep_window::interval& i : near.move_to(float_below(y), float_above(y))) {
             const std::size_t index = static_cast<std::size_t>(i.index);
             const point reach = columns_near(cell_sides[index], y);
             const int first = first_cell_beyond(reach.x, columns);

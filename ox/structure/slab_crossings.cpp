@@ -71,17 +71,15 @@ slab_crossings::slab_crossings(const ox_list<ox_list<ox_3dvector>>& contours) {
             const float y = contour[i].y;
             const float next_y = contour[i + 1 < contour.size() ? i + 1 : 0].y;
             edges.push_back({&contour, i});
-            window.add(static_cast<double>(std::min(y, next_y)),
-                       static_cast<double>(std::max(y, next_y)));
+            window.add(std::min(y, next_y), std::max(y, next_y));
         }
     }
     window.sort();
 }
 
 const std::vector<float>& slab_crossings::find(float y) {
-    const double line = static_cast<double>(y);
     std::size_t count = 0;
-    std::vector<sweep_window::interval>& met = window.move_to(line, line);
+    std::vector<sweep_window::interval>& met = window.move_to(y, y);
     for (sweep_window::interval& i : met) {
         const edge& e = edges[static_cast<std::size_t>(i.index)];
         const bool crossed = contour_line(*e.contour, y).find_crossing(e.start, i.at);

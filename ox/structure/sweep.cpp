@@ -23,6 +23,15 @@ constexpr float infinity = std::numeric_limits<float>::infinity();
 using beam_crossing = sweep_window::interval;
 using beam_crossings = std::vector<beam_crossing>;
 
+/// A beam: its first end, and the way from there to the other.
+struct beam_line {
+    float x;
+    float y;
+    float width;
+    float height;
+    float weight; ///< what the beam collected
+};
+
 float next_above(float y) {
     return std::nextafter(y, infinity);
 }
@@ -45,11 +54,12 @@ double printed(float number) {
 class sweep {
 public:
     sweep(oxp_loadshare& loads, float line_step)
-        : load(loads), step(line_step), outline(loads.contours) {
+        : load(loads), step(line_step), painted(loads.image.exists()), outline(loads.contours) {
         for (const oxp_beam& beam : load.beams) {
+            const ox_3dvector along = beam.end - beam.start;
+            lines.push_back({beam.start.x, beam.start.y, along.x, along.y, 0.f});
             const auto ends = std::minmax(beam.start.y, beam.end.y);
-            beams.add(static_cast<double>(next_above(ends.first)),
-                      static_cast<double>(next_below(ends.second)));
+            beams.add(next_above(ends.first), next_below(ends.second));
         }
         beams.sort();
     }
@@ -59,6 +69,9 @@ public:
         const float end = first + load.bounds.size.y;
         for (float y = first; end > y; y = y + step) {
             share_line(y);
+        }
+        for (int k = 0; k < load.beams.size(); ++k) {
+            load.beams[k].weight = lines[static_cast<std::size_t>(k)].weight;
         }
     }
 
@@ -80,12 +93,10 @@ private:
     /// The beams that cross the line, by ascending x. One whose crossing overflows comes last, at
     /// infinity, where it meets no slab.
     const beam_crossings& find_beam_crossings(float y) {
-        const double line = static_cast<double>(y);
-        beam_crossings& crossings = beams.move_to(line, line);
+        beam_crossings& crossings = beams.move_to(y, y);
         for (beam_crossing& crossing : crossings) {
-            const ox_3dvector& a = load.beams[crossing.index].start;
-            const ox_3dvector& b = load.beams[crossing.index].end;
-            const float x = a.x + (b.x - a.x) * (y - a.y) / (b.y - a.y);
+            const beam_line& b = lines[static_cast<std::size_t>(crossing.index)];
+            const float x = b.x + b.width * (y - b.y) / b.height;
             crossing.at = std::isfinite(x) ? x : infinity;
         }
         beams.order_met();
@@ -120,14 +131,14 @@ private:
     }
 
     void give(const beam_crossing& crossing, float y, float left, float right) {
-        oxp_beam& beam = load.beams[crossing.index];
         const float area = (right - left) * step;
-        beam.weight += area;
+        lines[static_cast<std::size_t>(crossing.index)].weight += area;
         if (load.log) {
             log_line("beam contrib %d : %f -> %f : %f", crossing.index, printed(left),
                      printed(right), printed(area));
         }
-        if (load.image.exists()) {
+        if (painted) {
+            oxp_beam& beam = load.beams[crossing.index];
             if (beam.color == 0) {
                 beam.color = share_color(colors_used++);
             }
@@ -137,9 +148,11 @@ private:
 
     oxp_loadshare& load;
     float step;
+    bool painted; ///< there is an image
     unsigned int colors_used = 0;
     slab_crossings outline;
-    sweep_window beams; ///< between their ends: a line through an end does not cross
+    std::vector<beam_line> lines; ///< of the beams
+    sweep_window beams;           ///< between their ends: a line through an end does not cross
 };
 
 /// The step between lines: at least the minimum, and enough to advance from either end of the slab.

@@ -15,14 +15,14 @@ namespace ox {
 class sweep_window {
 public:
     struct interval {
-        double low;
-        double high;
+        float low;
+        float high;
         int index;      ///< 0 for the interval added first, 1 for the next, ...
         float at = 0.f; ///< for the user: where along the line it is met
     };
 
     /// Adds an interval. One with an end that is not a number is never met.
-    void add(double low, double high) {
+    void add(float low, float high) {
         const int index = added++;
         if (low <= high) {
             waiting.push_back({low, high, index, 0.f});
@@ -37,7 +37,7 @@ public:
 
     /// The intervals that meet [low, high]. Neither end may be below that of the move before. They
     /// stay in the order in which the user leaves them; new ones come in at the end.
-    std::vector<interval>& move_to(double low, double high) {
+    std::vector<interval>& move_to(float low, float high) {
         met.erase(std::remove_if(met.begin(), met.end(),
                                  [low](const interval& i) { return i.high < low; }),
                   met.end());
@@ -54,14 +54,9 @@ public:
     void order_met() {
         std::size_t moves_left = moves_per_interval * met.size();
         for (std::size_t i = 1; i < met.size(); ++i) {
-            const interval moved = met[i];
-            std::size_t place = i;
-            while (place > 0 && moves_left > 0 && precedes(moved, met[place - 1])) {
-                met[place] = met[place - 1];
-                --place;
-                --moves_left;
+            if (!(met[i - 1].at < met[i].at) && precedes(met[i], met[i - 1])) {
+                move_back(i, moves_left);
             }
-            met[place] = moved;
         }
         if (moves_left == 0) {
             std::sort(met.begin(), met.end(), precedes);
@@ -73,6 +68,17 @@ private:
 
     static bool precedes(const interval& a, const interval& b) {
         return a.at < b.at || (a.at == b.at && a.index < b.index);
+    }
+
+    /// Moves the interval at `place` to where it belongs among those before, or until no move is
+    /// left.
+    void move_back(std::size_t place, std::size_t& moves_left) {
+        const interval moved = met[place];
+        for (; place > 0 && moves_left > 0 && precedes(moved, met[place - 1]); --place) {
+            met[place] = met[place - 1];
+            --moves_left;
+        }
+        met[place] = moved;
     }
 
     int added = 0;

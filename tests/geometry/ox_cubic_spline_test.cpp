@@ -1,11 +1,12 @@
 #include <cmath>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <initializer_list>
 #include <limits>
 #include <ox/geometry/ox_cubic_spline.h>
 #include <string>
 #include <tests/core/fresh_process.h>
+#include <tests/reference/plain_spline.h>
+#include <tests/support/generator.h>
 #include <vector>
 
 namespace {
@@ -14,7 +15,7 @@ using ox::ox_2dvector;
 using ox::ox_cubic_spline;
 using ox::ox_list;
 
-ox_list<ox_2dvector> list(std::initializer_list<ox_2dvector> points) {
+ox_list<ox_2dvector> list(const std::vector<ox_2dvector>& points) {
     ox_list<ox_2dvector> result;
     for (const ox_2dvector& point : points) {
         result.push_right(point);
@@ -47,12 +48,47 @@ TEST(OxCubicSpline, PassesThroughEverySamplePoint) {
     }
 }
 
+/// Two to nine random points of ascending x.
+std::vector<ox_2dvector> random_points(support::generator& random) {
+    std::vector<ox_2dvector> points;
+    const int n = random.between(2, 9);
+    float x = random.grid(-3, 3);
+    for (int i = 0; i < n; ++i) {
+        x += random.grid(0, 2) + 0.125f;
+        points.push_back(ox_2dvector(x, random.grid(-4, 4)));
+    }
+    return points;
+}
+
 TEST(OxCubicSpline, InnerPointBelongsToTheIntervalOnItsRight) {
-    // The damped curve has a corner at the middle point; the right interval gives its y exactly.
-    const ox_list<ox_2dvector> points = list({{0, 0}, {1, 0.1f}, {2, 0.7f}, {3, 0.3f}});
-    ox_cubic_spline spline(points);
-    EXPECT_NEAR(spline.compute(1), 0.1f, 1e-7f);
-    EXPECT_NEAR(spline.compute(2), 0.7f, 1e-7f);
+    // The intervals on its two sides agree there but for rounding, by which they are told apart.
+    support::generator random(31);
+    int told_apart = 0;
+    for (int round = 0; round < 300; ++round) {
+        const std::vector<ox_2dvector> points = random_points(random);
+        const reference::plain_spline plain(points);
+        ox_cubic_spline spline(list(points));
+        for (std::size_t k = 1; k + 1 < points.size(); ++k) {
+            const float x = points[k].x;
+            ASSERT_EQ(spline.compute(x), plain.compute(x, k));
+            ASSERT_NEAR(spline.compute(x), points[k].y, 1e-5f);
+            told_apart += plain.compute(x, k - 1) != plain.compute(x, k) ? 1 : 0;
+        }
+    }
+    EXPECT_GT(told_apart, 50);
+}
+
+TEST(OxCubicSpline, AgreesWithThePlainVersionBitForBit) {
+    support::generator random(32);
+    for (int round = 0; round < 2000; ++round) {
+        const std::vector<ox_2dvector> points = random_points(random);
+        const reference::plain_spline plain(points);
+        ox_cubic_spline spline(list(points));
+        for (int i = 0; i < 20; ++i) {
+            const float x = random.grid(-8, 20);
+            ASSERT_EQ(spline.compute(x), plain.compute(x));
+        }
+    }
 }
 
 std::vector<std::string> lines_of_self_check() {

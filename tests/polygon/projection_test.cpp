@@ -2,8 +2,11 @@
 #include <gtest/gtest.h>
 #include <limits>
 #include <ox/polygon/ox_polygon_projection.h>
+#include <tests/reference/contains.h>
+#include <tests/reference/raytrace.h>
 #include <tests/support/generator.h>
 #include <tests/support/random_shapes.h>
+#include <vector>
 
 namespace {
 
@@ -105,43 +108,174 @@ TEST(OxPolygonProjection, KeepsItsContoursWhenThePolygonIsEmptiedOrGrows) {
     EXPECT_TRUE(frame.contains(0.5f, 0.5f));
 }
 
-/// Crossings left and right of the point, edge by edge.
-bool plain_contains(ox_polygon& polygon, const ox_polygon_projection& frame, ox_2dvector q) {
-    int left = 0;
-    int right = 0;
-    int first = 0;
+/// The contours of a polygon in the frame of its projection.
+std::vector<std::vector<ox_2dvector>> contours_in(const ox_polygon_projection& frame,
+                                                  ox_polygon& polygon) {
+    std::vector<std::vector<ox_2dvector>> contours;
+    int next = 0;
     for (const unsigned int size : polygon.get_contour_sizes()) {
-        const int n = static_cast<int>(size);
-        for (int i = 0; i < n; ++i) {
-            const auto vertex = [&](int k) {
-                return frame.world_to_polygon(polygon.get_contour_vertices()[first + k % n]);
-            };
-            const ox_2dvector a = vertex(i);
-            const ox_2dvector b = vertex(i + 1);
-            if ((a.y <= q.y) == (b.y <= q.y)) {
-                continue;
-            }
-            const bool at_a = a.y == q.y;
-            const bool at_b = b.y == q.y;
-            const float x = at_a ? a.x : at_b ? b.x : a.x + (q.y - a.y) / (b.y - a.y) * (b.x - a.x);
-            (q.x > x ? left : right) += 1;
+        contours.emplace_back();
+        for (unsigned int i = 0; i < size; ++i) {
+            contours.back().push_back(
+                frame.world_to_polygon(polygon.get_contour_vertices()[next++]));
         }
-        first += n;
     }
-    return left % 2 == 1 && right % 2 == 1;
+    return contours;
 }
 
-TEST(OxPolygonProjection, ContainsAgreesWithThePlainVersionOnRandomTangles) {
-    support::generator random(21);
-    for (int round = 0; round < 200; ++round) {
-        ox_polygon polygon;
-        polygon.add_contour(support::random_tangle(random, random.between(3, 12), 4));
-        const ox_polygon_projection frame(&polygon, 0.25f);
-        for (int i = 0; i < 50; ++i) {
-            const float u = random.grid(-1, 9);
-            const float v = random.grid(-1, 9);
-            ASSERT_EQ(frame.contains(u, v), plain_contains(polygon, frame, ox_2dvector(u, v)));
+/// A tangle of several contours, or rectangles on a coarse grid whose sides lie on each other's
+/// lines, of any size.
+ox_polygon random_region(support::generator& random, float scale) {
+    ox_polygon polygon(ox_3dvector(0, 0, 0), ox_3dvector(0, 0, 1));
+    const bool coarse = random.one_in(2);
+    const int contours = random.between(1, 4);
+    for (int c = 0; c < contours; ++c) {
+        ox::ox_list<ox_3dvector> contour;
+        if (coarse) {
+            const float x = static_cast<float>(random.between(-4, 3));
+            const float y = static_cast<float>(random.between(-4, 3));
+            const float width = static_cast<float>(random.between(1, 4));
+            const float height = static_cast<float>(random.between(1, 4));
+            contour = support::rectangle(x, y, x + width, y + height);
+        } else {
+            contour = support::random_tangle(random, random.between(3, 9), 4);
         }
+        for (ox_3dvector& v : contour) {
+            v *= scale;
+        }
+        polygon.add_contour(contour);
+    }
+    return polygon;
+}
+
+/// A point of the frame: a vertex, a point level with one, or any other.
+ox_2dvector random_point(support::generator& random,
+                         const std::vector<std::vector<ox_2dvector>>& contours, float scale) {
+    ox_2dvector q(random.grid(-1, 9) * scale, random.grid(-1, 9) * scale);
+    if (!contours.empty()) {
+        const std::vector<ox_2dvector>& contour = contours[random.bits() % contours.size()];
+        const ox_2dvector v = contour[random.bits() % contour.size()];
+        q.x = random.one_in(3) ? v.x : q.x;
+        q.y = random.one_in(3) ? v.y : q.y;
+    }
+    return q;
+}
+
+constexpr float scales[] = {1.f, 1.f, 1e6f, 1e12f, 0.001f};
+
+TEST(OxPolygonProjection, ContainsAgreesWithThePlainVersionOnRandomAndDegenerateRegions) {
+    support::generator random(21);
+    for (int round = 0; round < 1000; ++round) {
+        const float scale = scales[random.between(0, 4)];
+        ox_polygon polygon = random_region(random, scale);
+        const ox_polygon_projection frame(&polygon, 0.25f);
+        const auto contours = contours_in(frame, polygon);
+        for (int i = 0; i < 30; ++i) {
+            const ox_2dvector q = random_point(random, contours, scale);
+            ASSERT_EQ(frame.contains(q), reference::contains(contours, q)) << "round " << round;
+        }
+    }
+}
+
+/// Along an axis, along an edge's direction, of no length, or any other.
+ox_2dvector random_direction(support::generator& random) {
+    const float x = random.grid(-2, 2);
+    const float y = random.grid(-2, 2);
+    switch (random.between(0, 5)) {
+    case 0:
+        return ox_2dvector(x, 0);
+    case 1:
+        return ox_2dvector(0, y);
+    case 2:
+        return ox_2dvector(static_cast<float>(random.between(-1, 1)),
+                           static_cast<float>(random.between(-1, 1)));
+    default:
+        return ox_2dvector(x, y);
+    }
+}
+
+TEST(OxPolygonProjection, RaysAgreeWithThePlainVersionOnRandomAndDegenerateRegions) {
+    support::generator random(22);
+    for (int round = 0; round < 1000; ++round) {
+        const float scale = scales[random.between(0, 4)];
+        ox_polygon polygon = random_region(random, scale);
+        const ox_polygon_projection frame(&polygon, 0.25f);
+        const auto contours = contours_in(frame, polygon);
+        for (int i = 0; i < 30; ++i) {
+            const ox_2dvector start = random_point(random, contours, scale);
+            const ox_2dvector direction = random_direction(random);
+            ox_2dvector hit;
+            ox_2dvector edge;
+            float distance = 0;
+            const int vertex = frame.raytrace(start, direction, hit, edge, distance);
+            const reference::ray_hit expected = reference::raytrace(contours, start, direction);
+            ASSERT_EQ(vertex, expected.vertex) << "round " << round;
+            ASSERT_EQ(hit, expected.point);
+            ASSERT_EQ(edge, expected.edge);
+            ASSERT_EQ(distance, expected.distance);
+        }
+    }
+}
+
+TEST(OxPolygonProjection, FirstEdgeFoundWinsATie) {
+    ox_polygon square = support::rectangle_polygon(0, 0, 1, 1);
+    const ox_polygon_projection frame(&square, 0);
+    const auto contours = contours_in(frame, square);
+    const ox_2dvector corner = contours[0][2]; // met by the edges from vertex 1 and from vertex 2
+    const ox_2dvector middle(0.5f, 0.5f);
+    ox_2dvector hit;
+    ox_2dvector edge;
+    float distance = 0;
+    EXPECT_EQ(frame.raytrace(middle, corner - middle, hit, edge, distance), 1);
+    EXPECT_EQ(hit, corner);
+}
+
+TEST(OxPolygonProjection, DistanceIsInUnitsOfTheDirectionsLengthSquared) {
+    ox_polygon square = support::rectangle_polygon(0, 0, 1, 1);
+    const ox_polygon_projection frame(&square, 0);
+    ox_2dvector hit;
+    ox_2dvector edge;
+    float distance = 0;
+    EXPECT_GE(frame.raytrace(ox_2dvector(0.5f, 0.5f), ox_2dvector(4, 0), hit, edge, distance), 0);
+    EXPECT_EQ(distance, 2); // the dot product of the way of 0.5 with the direction
+}
+
+TEST(OxPolygonProjection, EdgeOnTheRayIsSkipped) {
+    ox_polygon square = support::rectangle_polygon(0, 0, 1, 1);
+    const ox_polygon_projection frame(&square, 0);
+    ox_2dvector hit;
+    ox_2dvector edge;
+    float distance = 0;
+    const int vertex = frame.raytrace(ox_2dvector(0.5f, 0), ox_2dvector(1, 0), hit, edge, distance);
+    ASSERT_GE(vertex, 0);
+    EXPECT_EQ(hit, ox_2dvector(1, 0)); // at the corner, by the edge beyond it
+    EXPECT_EQ(edge.x, 0);
+}
+
+TEST(OxPolygonProjection, DirectionOfNoLengthHitsNothing) {
+    ox_polygon square = support::rectangle_polygon(0, 0, 1, 1);
+    const ox_polygon_projection frame(&square, 0);
+    ox_2dvector hit;
+    ox_2dvector edge;
+    float distance = 0;
+    EXPECT_EQ(frame.raytrace(ox_2dvector(0.5f, 0.5f), ox_2dvector(0, 0), hit, edge, distance), -1);
+}
+
+TEST(OxPolygonProjection, NumbersThatAreNotFiniteAreAnswered) {
+    ox_polygon square = support::rectangle_polygon(0, 0, 1, 1);
+    constexpr float nan_value = std::numeric_limits<float>::quiet_NaN();
+    constexpr float infinity = std::numeric_limits<float>::infinity();
+    for (const float bad : {nan_value, infinity, -infinity}) {
+        const ox_polygon_projection odd(&square, bad);
+        odd.contains(0.5f, 0.5f);
+        const ox_polygon_projection frame(&square, 0);
+        EXPECT_FALSE(frame.contains(bad, 0.5f));
+        EXPECT_FALSE(frame.contains(0.5f, bad));
+        ox_2dvector hit;
+        ox_2dvector edge;
+        float distance = 0;
+        frame.raytrace(ox_2dvector(bad, 0), ox_2dvector(1, 0), hit, edge, distance);
+        frame.raytrace(ox_2dvector(0, 0), ox_2dvector(bad, 1), hit, edge, distance);
     }
 }
 

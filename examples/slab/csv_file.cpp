@@ -6,28 +6,30 @@
 
 namespace slab {
 
-void csv_file::add_column(const std::string& header, const std::vector<std::string>& values) {
+void csv_file::add_column(const std::string& header, const ox::ox_list<std::string>& values) {
     const std::string separator = lines.empty() ? "" : ";";
-    lines.resize(values.size() + 1);
-    lines[0] += separator + header;
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        lines[i + 1] += separator + values[i];
+    lines.resize(static_cast<std::size_t>(values.size()) + 1);
+    auto line = lines.begin();
+    *line++ += separator + header;
+    for (const std::string& value : values) {
+        *line++ += separator + value;
     }
 }
 
-void csv_file::add_column(const std::string& header, const std::vector<double>& values,
+void csv_file::add_column(const std::string& header, const ox::ox_list<float>& values,
                           int precision) {
-    std::vector<std::string> cells;
-    for (const double value : values) {
-        char cell[64];
-        std::snprintf(cell, sizeof cell, "%.*f", precision, value);
-        cells.emplace_back(cell);
-        std::replace(cells.back().begin(), cells.back().end(), '.', ',');
+    ox::ox_list<std::string> cells;
+    for (const float value : values) {
+        char text[64];
+        std::snprintf(text, sizeof text, "%.*f", precision, double{value});
+        std::string cell = text;
+        std::replace(cell.begin(), cell.end(), '.', ',');
+        cells.push_right(cell);
     }
     add_column(header, cells);
 }
 
-bool csv_file::write(const std::string& path) const {
+bool csv_file::write_file(const std::string& path) const {
     std::ofstream file(path);
     for (const std::string& line : lines) {
         file << line << '\n';

@@ -1,6 +1,8 @@
 #ifndef OX_EXAMPLES_SLAB_CSV_FILE_H
 #define OX_EXAMPLES_SLAB_CSV_FILE_H
 
+#include <ox/core/ox_list.h>
+
 #include <string>
 #include <vector>
 
@@ -10,13 +12,13 @@ namespace slab {
 /// with semicolons between the cells and decimal commas, as spreadsheets in most of Europe read it.
 class csv_file {
 public:
-    void add_column(const std::string& header, const std::vector<std::string>& values);
+    void add_column(const std::string& header, const ox::ox_list<std::string>& values);
 
     /// A column of numbers with `precision` decimals.
-    void add_column(const std::string& header, const std::vector<double>& values, int precision);
+    void add_column(const std::string& header, const ox::ox_list<float>& values, int precision);
 
     /// False when the file cannot be written. All columns must be equally long.
-    bool write(const std::string& path) const;
+    bool write_file(const std::string& path) const;
 
 private:
     std::vector<std::string> lines;

@@ -119,21 +119,15 @@ void parser::read_beam(line_reader& line) {
 class checker {
 public:
     checker(const description& checked, const std::string& file_name)
-        : d(checked), file(file_name) {}
+        : d(checked), require(file_name) {}
 
     void check_completeness() const;
     void check_shares() const;
     void check_contours() const;
 
 private:
-    void require(bool condition, int line, const std::string& reason) const {
-        if (!condition) {
-            throw description_error(file, line, reason);
-        }
-    }
-
     const description& d;
-    const std::string& file;
+    const ox_examples::requirement require;
 };
 
 void checker::check_completeness() const {

@@ -35,8 +35,8 @@ struct span {
     double share = 0;     ///< of the weight, from 0 to 1
 };
 
-/// A floor slab as its text file describes it (README.md documents the file), except that places are
-/// counted from the first corner of the outline: single precision is finest near the origin.
+/// A floor slab as its text file describes it (README.md documents the file), except that places
+/// are counted from the first corner of the outline: single precision is finest near the origin.
 struct description {
     std::string name;
     double weight = 0; ///< kN/m2

@@ -45,18 +45,23 @@ bool report(const description& d, const sharing& shares) {
 }
 
 void write_table(const std::string& path, const description& d, const sharing& shares) {
-    std::vector<std::string> names;
-    std::vector<double> lengths;
-    for (const beam& b : d.beams) {
-        names.push_back(b.name);
-        lengths.push_back(b.length());
+    const std::vector<double> per_metre = line_loads(d, shares);
+    ox::ox_list<std::string> names;
+    ox::ox_list<float> lengths;
+    ox::ox_list<float> loads;
+    ox::ox_list<float> loads_per_metre;
+    for (std::size_t i = 0; i < d.beams.size(); ++i) {
+        names.push_right(d.beams[i].name);
+        lengths.push_right(static_cast<float>(d.beams[i].length()));
+        loads.push_right(static_cast<float>(shares.loads[i]));
+        loads_per_metre.push_right(static_cast<float>(per_metre[i]));
     }
     csv_file table;
     table.add_column("beam", names);
     table.add_column("length m", lengths, 2);
-    table.add_column("load kN", shares.loads, 2);
-    table.add_column("kN/m", line_loads(d, shares), 2);
-    if (!table.write(path)) {
+    table.add_column("load kN", loads, 2);
+    table.add_column("kN/m", loads_per_metre, 2);
+    if (!table.write_file(path)) {
         throw std::runtime_error(path + ": the table cannot be written");
     }
 }

@@ -14,6 +14,22 @@ public:
         : std::runtime_error(file + ":" + std::to_string(line) + ": " + reason) {}
 };
 
+/// Refuses a description unless a condition holds.
+class requirement {
+public:
+    explicit requirement(const std::string& file_name) : file(file_name) {}
+
+    /// Throws a `description_error` with the line and the reason unless the condition holds.
+    void operator()(bool condition, int line, const std::string& reason) const {
+        if (!condition) {
+            throw description_error(file, line, reason);
+        }
+    }
+
+private:
+    std::string file;
+};
+
 /// The lines of the file at `path`, which must be a plain one (a device has no end) of at most a
 /// megabyte. Throws `description_error`.
 std::vector<std::string> read_lines(const std::string& path);

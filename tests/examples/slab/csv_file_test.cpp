@@ -9,7 +9,7 @@ namespace {
 
 std::string written(const slab::csv_file& table) {
     const std::string path = testing::TempDir() + "ox_slab_table.csv";
-    EXPECT_TRUE(table.write(path));
+    EXPECT_TRUE(table.write_file(path));
     std::ifstream file(path);
     const std::string text((std::istreambuf_iterator<char>(file)), {});
     std::remove(path.c_str());
@@ -18,14 +18,20 @@ std::string written(const slab::csv_file& table) {
 
 TEST(SlabCsvFile, WritesColumnsUnderTheirHeaders) {
     slab::csv_file table;
-    table.add_column("beam", {"west", "east"});
-    table.add_column("load", {1.5, 20.126}, 2);
+    ox::ox_list<std::string> names;
+    names.push_right("west");
+    names.push_right("east");
+    ox::ox_list<float> loads;
+    loads.push_right(1.5f);
+    loads.push_right(20.126f);
+    table.add_column("beam", names);
+    table.add_column("load", loads, 2);
     EXPECT_EQ("beam;load\nwest;1,50\neast;20,13\n", written(table));
 }
 
 TEST(SlabCsvFile, TellsWhenTheFileCannotBeWritten) {
     slab::csv_file table;
-    EXPECT_FALSE(table.write(testing::TempDir() + "no_such_folder/table.csv"));
+    EXPECT_FALSE(table.write_file(testing::TempDir() + "no_such_folder/table.csv"));
 }
 
 } // namespace

@@ -113,6 +113,42 @@ TEST(OxCamera, TravellingBeforeTheFirstQueryMovesNothing) {
     EXPECT_EQ(camera.get_position(), ox_3dvector(0, 0, 0));
 }
 
+TEST(OxCamera, TravellingUsesTheStepsOfTheLastQueryNotOfLaterChanges) {
+    ox_camera before = along_x();
+    ox_camera after = along_x();
+    before.get_precompute_date();
+    after.get_precompute_date();
+    after.set_height(1000); // the steps would be a tenth
+    before.do_travelling(10, 0);
+    after.do_travelling(10, 0);
+    EXPECT_EQ(after.get_position(), before.get_position());
+}
+
+TEST(OxCamera, OrbitsTakeZAsVerticalWhateverTheUpAxisIs) {
+    ox_camera usual = along_x();
+    ox_camera lying = along_x();
+    lying.set_upaxis(ox_3dvector(0, 1, 0));
+    usual.turn_around_target(13, 7);
+    lying.turn_around_target(13, 7);
+    EXPECT_EQ(lying.get_position(), usual.get_position());
+    usual.turn_around_position(13, 7);
+    lying.turn_around_position(13, 7);
+    EXPECT_EQ(lying.get_target(), usual.get_target());
+}
+
+TEST(OxCamera, CopiesKeepTheDateAndWhetherItIsDue) {
+    ox_camera camera = along_x();
+    const unsigned int date = camera.get_precompute_date();
+    ox_camera copy(camera);
+    EXPECT_EQ(copy.get_precompute_date(), date);
+    camera.set_angle(30);
+    ox_camera assigned;
+    assigned = camera;
+    EXPECT_EQ(assigned.get_precompute_date(), date + 1);
+    EXPECT_EQ(camera.get_precompute_date(), date + 2);
+    EXPECT_EQ(copy.get_precompute_date(), date);
+}
+
 TEST(OxCamera, GoingTowardAPointByAFactorOf1MovesTheEyeOntoIt) {
     ox_camera camera = along_x();
     camera.go_toward(ox_3dvector(4, 5, 6), 1);

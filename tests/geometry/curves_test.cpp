@@ -82,6 +82,27 @@ TEST(OxBezier, CoefficientsFrom19PointsOnWrapAroundAndAreKeptSo) {
     }
 }
 
+TEST(OxBezier, AgreesWithThePlainFormulaBitForBit) {
+    support::generator random(4);
+    for (int round = 0; round < 2000; ++round) {
+        const int n = random.between(1, 24);
+        const float t = random.grid(-1, 2);
+        const float in_range = t < 0 ? 0 : t > 1 ? 1 : t;
+        std::vector<float> expected;
+        float power = 1;
+        for (int i = 0; i < n; ++i) {
+            expected.push_back(plain_coefficient(n, i) * power);
+            power = power * in_range;
+        }
+        power = 1;
+        for (std::size_t i = expected.size(); i-- > 0;) {
+            expected[i] = expected[i] * power;
+            power = power * (1 - in_range);
+        }
+        ASSERT_EQ(bezier(n, t), expected) << n << ' ' << t;
+    }
+}
+
 TEST(OxBezier, WithoutPointsWritesNothing) {
     float untouched = 7;
     for (const int n : {0, -1, (std::numeric_limits<int>::min)()}) {

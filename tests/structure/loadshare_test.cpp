@@ -203,6 +203,29 @@ TEST(OxLoadshare, ContourWithAPointThatIsNotFiniteIsDropped) {
     EXPECT_NEAR(slab.get_weight(0), 1, 0.003);
 }
 
+TEST(OxLoadshare, WithoutTheImageLogTheNextComputationLeavesNoImage) {
+    ox_loadshare slab = slab_of(rectangle(0, 0, 1, 1));
+    int width = 7;
+    int height = 7;
+    EXPECT_EQ(slab.get_image_log(width, height), nullptr);
+    slab.set_image_log(true);
+    slab.compute_weights(0.1f);
+    EXPECT_NE(slab.get_image_log(width, height), nullptr);
+    slab.set_image_log(false);
+    slab.compute_weights(0.1f);
+    EXPECT_EQ(slab.get_image_log(width, height), nullptr);
+    EXPECT_EQ(width, 0);
+}
+
+TEST(OxLoadshare, WeightPerAreaMayBeSetAfterTheSweep) {
+    ox_loadshare slab = slab_of(rectangle(0, 0, 10, 4));
+    vertical_beam(slab, 5, -1, 5);
+    slab.compute_weights(0.5f);
+    const float area = slab.get_weight(0);
+    slab.set_slab_weight(2.5f);
+    EXPECT_EQ(slab.get_weight(0), area * 2.5f);
+}
+
 TEST(OxLoadshare, ClearedContoursLeaveNoBoundsBehind) {
     ox_loadshare slab = slab_of(rectangle(-100, -100, -90, -90));
     slab.clear_slab_contours();

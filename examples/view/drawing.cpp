@@ -72,13 +72,16 @@ std::string coordinates(const char* what, const ox::ox_3dvector& p) {
     return text;
 }
 
-/// A tag beside a mark, joined to it by a line and kept inside the picture.
+/// A tag beside a mark, joined to it by a line; on the mark's other side where it would leave the
+/// picture.
 void draw_label(const std::string& text, const pixel_point& mark, const pixel_point& offset,
                 const colour& c) {
     const double half_width = ox_examples::text_width(text, letter_height) / 2 + letter_height;
+    const double y = mark.y + offset.y;
+    const bool fits = y >= 2 * letter_height && y <= picture_height - 2 * letter_height;
     const pixel_point centre = {
         std::clamp(mark.x + offset.x, half_width, picture_width - half_width),
-        std::clamp(mark.y + offset.y, 2 * letter_height, picture_height - 2 * letter_height)};
+        fits ? y : mark.y - offset.y};
     ox_examples::set_colour(c);
     ox_examples::draw_line({mark, centre}, 1.5);
     ox_examples::draw_tag(text, centre, letter_height, ink, paper);

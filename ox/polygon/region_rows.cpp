@@ -13,12 +13,6 @@ namespace {
 constexpr double half_unit_in_last_place = 1.0 / 16777216.0;
 constexpr float infinity = std::numeric_limits<float>::infinity();
 
-double exact_dot(const ox_3dvector& a, const ox_3dvector& b) {
-    return static_cast<double>(a.x) * static_cast<double>(b.x) +
-           static_cast<double>(a.y) * static_cast<double>(b.y) +
-           static_cast<double>(a.z) * static_cast<double>(b.z);
-}
-
 /// The largest magnitude in an ascending sequence.
 double largest(const std::vector<float>& ascending) {
     return static_cast<double>(std::max(std::fabs(ascending.front()), std::fabs(ascending.back())));

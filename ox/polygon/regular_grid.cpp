@@ -10,6 +10,7 @@
 #include <ox/geometry/internal/sweep_window.h>
 #include <ox/polygon/internal/crossing_count.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
+#include <ox/polygon/internal/plane_coordinates.h>
 #include <ox/polygon/internal/tolerances.h>
 #include <ox/polygon/ox_polygon.h>
 
@@ -25,12 +26,6 @@ struct side {
     point a;
     point b;
 };
-
-double exact_dot(const ox_3dvector& a, const ox_3dvector& b) {
-    return static_cast<double>(a.x) * static_cast<double>(b.x) +
-           static_cast<double>(a.y) * static_cast<double>(b.y) +
-           static_cast<double>(a.z) * static_cast<double>(b.z);
-}
 
 double cross(const point& a, const point& b) {
     return a.x * b.y - a.y * b.x;

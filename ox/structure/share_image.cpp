@@ -3,13 +3,11 @@
 #include <cstddef>
 #include <new>
 #include <ox/structure/internal/share_image.h>
+#include <ox/structure/internal/tolerances.h>
 
 namespace ox {
 
 namespace {
-
-/// A gibibyte of memory: larger pictures are not made.
-constexpr double most_pixels = 268435456.0;
 
 constexpr unsigned int white = 0xFFFFFFFFu;
 

@@ -8,15 +8,13 @@
 #include <ox/geometry/internal/sweep_window.h>
 #include <ox/structure/internal/oxp_loadshare.h>
 #include <ox/structure/internal/slab_crossings.h>
+#include <ox/structure/internal/tolerances.h>
 #include <ox/structure/ox_loadshare.h>
 #include <vector>
 
 namespace ox {
 
 namespace {
-
-/// Model units: keeps the number of lines finite.
-constexpr float smallest_step = 0.001f;
 
 constexpr float infinity = std::numeric_limits<float>::infinity();
 
@@ -157,7 +155,7 @@ private:
 
 /// The step between lines: at least the minimum, and enough to advance from either end of the slab.
 float advancing_step(float asked, const ox_box& bounds) {
-    const float step = asked > smallest_step ? asked : smallest_step;
+    const float step = asked > smallest_sweep_step ? asked : smallest_sweep_step;
     const float far =
         std::max(std::fabs(bounds.origin.y), std::fabs(bounds.origin.y + bounds.size.y));
     if (far + step > far && step - far > -far) {

@@ -50,8 +50,8 @@ float* ox_bezier::compute(float t, float* out) {
         power *= clamped;
     }
     power = 1.f;
-    for (int i = n - 1; i >= 0; --i) {
-        w[i] = w[i] * power;
+    for (int i = n; i > 0; --i) {
+        w[i - 1] = w[i - 1] * power;
         power *= rest;
     }
     return w;

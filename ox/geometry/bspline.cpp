@@ -30,8 +30,11 @@ ox_bspline::ox_bspline(int curve_degree, int intervals)
     : m(intervals), degree(curve_degree),
       knots(new_shared_floats(intervals < 0 ? 0 : static_cast<long long>(intervals) + 1)),
       weights(new_shared_floats(static_cast<long long>(intervals) + curve_degree)) {
-    for (int i = 0; i <= m && m > 0; ++i) {
+    for (int i = 0; i < m; ++i) {
         knots[i] = static_cast<float>(i) / static_cast<float>(m);
+    }
+    if (m > 0) {
+        knots[m] = 1.f;
     }
 }
 

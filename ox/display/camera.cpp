@@ -2,8 +2,8 @@
 #include <cmath>
 #include <ox/display/internal/tolerances.h>
 #include <ox/display/ox_camera.h>
-#include <ox/geometry/internal/angles.h>
 #include <ox/geometry/ox_polar.h>
+#include <ox/internal/angles.h>
 #include <ox/ox_functions.h>
 
 namespace ox {

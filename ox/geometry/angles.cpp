@@ -2,7 +2,7 @@
 
 #include <cmath>
 #include <limits>
-#include <ox/geometry/internal/angles.h>
+#include <ox/internal/angles.h>
 #include <ox/ox_functions.h>
 
 namespace ox {

@@ -1,6 +1,6 @@
 #include <ox/geometry/ox_polar.h>
 
-#include <ox/geometry/internal/angles.h>
+#include <ox/internal/angles.h>
 #include <ox/ox_functions.h>
 
 namespace ox {

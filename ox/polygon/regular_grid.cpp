@@ -7,7 +7,7 @@
 #include <limits>
 #include <vector>
 
-#include <ox/geometry/internal/sweep_window.h>
+#include <ox/internal/sweep_window.h>
 #include <ox/polygon/internal/crossing_count.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
 #include <ox/polygon/internal/plane_coordinates.h>

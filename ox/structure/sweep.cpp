@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <limits>
 #include <ox/core/ox_log.h>
-#include <ox/geometry/internal/sweep_window.h>
+#include <ox/internal/sweep_window.h>
 #include <ox/structure/internal/oxp_loadshare.h>
 #include <ox/structure/internal/slab_crossings.h>
 #include <ox/structure/internal/tolerances.h>

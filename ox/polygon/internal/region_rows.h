@@ -3,9 +3,9 @@
 
 #include <vector>
 
-#include <ox/geometry/internal/sweep_window.h>
 #include <ox/geometry/ox_2dvector.h>
 #include <ox/geometry/ox_3dvector.h>
+#include <ox/internal/sweep_window.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
 
 namespace ox {

@@ -2,8 +2,8 @@
 #define OX_STRUCTURE_INTERNAL_SLAB_CROSSINGS_H
 
 #include <ox/core/ox_list.h>
-#include <ox/geometry/internal/sweep_window.h>
 #include <ox/geometry/ox_3dvector.h>
+#include <ox/internal/sweep_window.h>
 #include <vector>
 
 namespace ox {

@@ -1,5 +1,5 @@
-#ifndef OX_GEOMETRY_INTERNAL_SWEEP_WINDOW_H
-#define OX_GEOMETRY_INTERNAL_SWEEP_WINDOW_H
+#ifndef OX_INTERNAL_SWEEP_WINDOW_H
+#define OX_INTERNAL_SWEEP_WINDOW_H
 
 #include <algorithm>
 #include <cstddef>

@@ -24,16 +24,17 @@ region_rows::region_rows(const ox_polygon_data& region, const std::vector<float>
                          const std::vector<float>& rows)
     : polygon(region), us(columns), row_slope(exact_dot(region.dx, region.dy)),
       row_scale(exact_dot(region.dy, region.dy)) {
-    double sum = grid_point_underflow;
+    rounding = grid_point_underflow;
     for (unsigned int i = 0; i < 3; ++i) {
         const double scale = std::fabs(static_cast<double>(polygon.dy.at(i)));
         const double origin = std::fabs(static_cast<double>(polygon.point.at(i)));
         const double across = std::fabs(static_cast<double>(polygon.dx.at(i))) * largest(columns);
         const double along = scale * largest(rows);
-        sum += scale * (roundings_of_origin * origin + roundings_of_offset * (across + along));
+        rounding += half_unit_in_last_place * scale *
+                    (roundings_of_origin * origin + roundings_of_offset * across);
         reach = std::max({reach, origin, across, along, (origin + across + along) * scale});
     }
-    rounding = half_unit_in_last_place * sum;
+    rounding_by_row = half_unit_in_last_place * roundings_of_offset * row_scale;
     add_sides();
 }
 
@@ -57,13 +58,15 @@ void region_rows::add_sides() {
     window.sort();
 }
 
-/// Where the row coordinates of the points of row w lie.
+/// Where the row coordinates of the points of row w lie. Both ends ascend with w: the share of w in
+/// the rounding is far smaller than in the coordinate.
 region_rows::band region_rows::band_of(float w) const {
     const double at_first = row_slope * static_cast<double>(us.front());
     const double at_last = row_slope * static_cast<double>(us.back());
     const double row = row_scale * static_cast<double>(w);
-    const double low = row + std::min(at_first, at_last) - rounding;
-    const double high = row + std::max(at_first, at_last) + rounding;
+    const double margin = rounding + rounding_by_row * std::fabs(static_cast<double>(w));
+    const double low = row + std::min(at_first, at_last) - margin;
+    const double high = row + std::max(at_first, at_last) + margin;
     return {std::nextafter(static_cast<float>(low), -infinity),
             std::nextafter(static_cast<float>(high), infinity)};
 }

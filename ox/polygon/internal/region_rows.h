@@ -77,10 +77,11 @@ private:
     std::vector<side> sides;
     sweep_window window;
     const std::vector<sweep_window::interval>* met = nullptr; ///< sides that reach the row
-    double reach = 0.0;    ///< the largest number on the way of a grid point
-    double rounding = 0.0; ///< model units between a point's own row coordinate and the exact one
-    double row_slope;      ///< of that coordinate along the columns: 0 for perpendicular axes
-    double row_scale;      ///< of that coordinate along the rows: 1 for axes of unit length
+    double reach = 0.0;     ///< the largest number on the way of a grid point
+    double rounding;        ///< model units between a point's own row coordinate and the exact one
+    double rounding_by_row; ///< what each unit of the row coordinate adds to that
+    double row_slope;       ///< of that coordinate along the columns: 0 for perpendicular axes
+    double row_scale;       ///< of that coordinate along the rows: 1 for axes of unit length
     std::vector<blur> blurs;
     std::vector<column_range> inside;
 };

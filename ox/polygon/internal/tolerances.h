@@ -63,8 +63,8 @@ constexpr float short_edge_share = 0.1f;
 constexpr double roundings_of_origin = 3.0;
 constexpr double roundings_of_offset = 9.0;
 
-/// What underflow can add to those sums, in squared model units; taken generously.
-constexpr double grid_point_underflow = 1e-30;
+/// Model units: what underflow can add to those roundings, taken generously.
+constexpr double grid_point_underflow = 1e-36;
 
 /// Model units: a grid whose sums could come near the largest float has no points.
 constexpr double farthest_grid_coordinate = 1e37;

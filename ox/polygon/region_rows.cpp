@@ -30,6 +30,7 @@ region_rows::region_rows(const ox_polygon_data& region, const std::vector<float>
         const double origin = std::fabs(static_cast<double>(polygon.point.at(i)));
         const double across = std::fabs(static_cast<double>(polygon.dx.at(i))) * largest(columns);
         const double along = scale * largest(rows);
+        rounding += grid_point_underflow * scale;
         rounding += half_unit_in_last_place * scale *
                     (roundings_of_origin * origin + roundings_of_offset * across);
         reach = std::max({reach, origin, across, along, (origin + across + along) * scale});

@@ -112,6 +112,7 @@ TEST(OxPolygonRegularDistribution, MorePointsThanAListHoldsAreAnAllocationFailur
     ox_polygon square = rectangle_polygon(0, 0, 100, 100);
     EXPECT_THROW(square.regular_distribution(1e-3f), std::bad_alloc);
     EXPECT_THROW(square.regular_distribution(1e-5f), std::bad_alloc);
+    EXPECT_THROW(square.regular_distribution(1e-30f), std::bad_alloc);
     EXPECT_EQ(square.regular_distribution(50).size(), 4); // the polygon is as it was
 }
 
@@ -204,6 +205,22 @@ TEST(OxPolygonRegularDistribution, AgreesWithThePlainVersionAfterATransformation
         const float step = 0.5f * polygon.get_bounding_box().size.size() / 8.0f;
         expect_same_elements(polygon.regular_distribution(step),
                              reference::regular_distribution(polygon, frame, step));
+        ASSERT_FALSE(HasFailure()) << "round " << round;
+    }
+}
+
+TEST(OxPolygonRegularDistribution, AgreesWithThePlainVersionOnTrianglesOfAnySize) {
+    support::generator random(458);
+    const float scales[] = {1e-44f, 1e-40f, 1e-30f, 1e-10f, 1e10f, 1e20f, 1e30f, 1e35f};
+    for (int round = 0; round < 2000; ++round) {
+        const float scale = scales[random.between(0, 7)];
+        ox_polygon polygon(ox_3dvector(0, 0, 0), ox_3dvector(0, 0.6f, 0.8f));
+        ox_list<ox_3dvector> corners; // a lone triangle stays off the integer grid
+        for (int i = 0; i < 3; ++i) {
+            corners.push_right(support::random_point(random, 8.0) * scale);
+        }
+        polygon.add_contour(corners);
+        expect_plain_grid(polygon, scale * (random.grid(0, 1) + 0.5f));
         ASSERT_FALSE(HasFailure()) << "round " << round;
     }
 }

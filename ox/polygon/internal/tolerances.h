@@ -63,8 +63,9 @@ constexpr float short_edge_share = 0.1f;
 constexpr double roundings_of_origin = 3.0;
 constexpr double roundings_of_offset = 9.0;
 
-/// Model units: what underflow can add to those roundings, taken generously.
-constexpr double grid_point_underflow = 1e-36;
+/// Model units: what underflow can add to those roundings (a few units of the smallest
+/// float, 1.4e-45, in space and in the frame), taken generously.
+constexpr double grid_point_underflow = 1e-43;
 
 /// Model units: a grid whose sums could come near the largest float has no points.
 constexpr double farthest_grid_coordinate = 1e37;

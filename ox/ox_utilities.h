@@ -24,12 +24,15 @@
 #include <ox/geometry/ox_cubic_spline.h>
 #include <ox/geometry/ox_matrix.h>
 #include <ox/geometry/ox_polar.h>
+#include <ox/io/ox_csv.h>
 #include <ox/mesh/ox_mesh.h>
 #include <ox/mesh/ox_triangle_set.h>
 #include <ox/mesh/ox_vertex_optimizer.h>
 #include <ox/ox_functions.h>
 #include <ox/polygon/ox_polygon.h>
 #include <ox/polygon/ox_polygon_projection.h>
+#include <ox/progress/ox_progress_manager.h>
+#include <ox/progress/ox_thread.h>
 #include <ox/solid/ox_solid.h>
 #include <ox/structure/ox_loadshare.h>
 

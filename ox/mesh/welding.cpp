@@ -2,12 +2,13 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <vector>
+#include <memory>
 
 #include <ox/core/ox_log.h>
 #include <ox/mesh/internal/tolerances.h>
 #include <ox/mesh/internal/vertex_octree.h>
 #include <ox/mesh/internal/vertex_welder.h>
+#include <ox/mesh/internal/welded_leaves.h>
 
 namespace ox {
 
@@ -33,6 +34,41 @@ ox_3dvector unit_normal(const ox_3dvector& a, const ox_3dvector& b, const ox_3dv
     return normal;
 }
 
+/// Tells whether normals can keep the corners of a set apart. Otherwise they need no computing.
+bool tells_normals_apart(float normal_tolerance, const oxp_octree_cell& root) {
+    return !(normal_tolerance >= indifferent_normal_tolerance) ||
+           root.edge > max_root_edge_of_finite_normals;
+}
+
+/// The corners of triangles on their way into a welder.
+class corner_block {
+public:
+    corner_block(const ox_3dvector* set_vertices, const oxp_vertex_welder& target,
+                 bool needs_normals)
+        : vertices(set_vertices), welder(target), with_normals(needs_normals) {}
+
+    /// Fills the block with `count` corners, of whole triangles.
+    void fill(const unsigned int* corners, std::size_t count) {
+        for (std::size_t i = 0; i < count; ++i) {
+            block[i].position = vertices[corners[i]];
+            block[i].cell = welder.cell_of(block[i].position);
+        }
+        for (std::size_t i = 0; with_normals && i < count; i += 3) {
+            const ox_3dvector normal =
+                unit_normal(block[i].position, block[i + 1].position, block[i + 2].position);
+            block[i].normal = block[i + 1].normal = block[i + 2].normal = normal;
+        }
+    }
+
+    const oxp_vertex_welder::candidate* data() const { return block; }
+
+private:
+    const ox_3dvector* vertices;
+    const oxp_vertex_welder& welder;
+    bool with_normals;
+    oxp_vertex_welder::candidate block[welding_block];
+};
+
 } // namespace
 
 void ox_triangle_set::optimize(float position_tolerance, float normal_tolerance) {
@@ -44,22 +80,23 @@ void ox_triangle_set::optimize(float position_tolerance, float normal_tolerance)
         ox_log("too many octrees");
         return;
     }
+    const oxp_octree_cell root = octree.get_root();
+    const float leaf_size = root.edge / set_root_in_leaf_parents;
+    const double crowding_edge = oxp_search_grid(position_tolerance).cell_edge();
+    oxp_vertex_welder welder(position_tolerance, normal_tolerance,
+                             oxp_welded_leaves(octree, leaf_size, crowding_edge));
     // The indices are rewritten last, so that memory that runs out midway leaves them whole.
     const std::size_t nb_corners = std::size_t{3} * nb_triangles;
-    std::vector<unsigned int> welded_corners(nb_corners);
-    oxp_vertex_welder welder(position_tolerance, normal_tolerance);
-    for (std::size_t first = 0; first < nb_corners; first += 3) {
-        const unsigned int* const corners = triangles.get() + first;
-        const ox_3dvector normal =
-            unit_normal(vertices[corners[0]], vertices[corners[1]], vertices[corners[2]]);
-        for (std::size_t i = 0; i < 3; ++i) {
-            const ox_3dvector& p = vertices[corners[i]];
-            const std::uint32_t leaf = octree.leaf_at_depth(p, set_octree_depth);
-            welded_corners[first + i] = welder.weld(leaf, p, normal);
-        }
+    const std::unique_ptr<unsigned int[]> welded_corners(new unsigned int[nb_corners]);
+    welder.expect(nb_corners);
+    corner_block block(vertices.get(), welder, tells_normals_apart(normal_tolerance, root));
+    for (std::size_t first = 0; first < nb_corners; first += welding_block) {
+        const std::size_t count = std::min(welding_block, nb_corners - first);
+        block.fill(triangles.get() + first, count);
+        welder.weld(block.data(), count, welded_corners.get() + first);
     }
     replace_vertices(welder.get_positions());
-    std::copy(welded_corners.begin(), welded_corners.end(), triangles.get());
+    std::copy(welded_corners.get(), welded_corners.get() + nb_corners, triangles.get());
 }
 
 void ox_triangle_set::replace_vertices(const ox_list<ox_3dvector>& replacements) {

@@ -9,15 +9,21 @@ namespace ox {
 
 namespace {
 
-/// The largest range of whole numbers that single precision holds without a gap.
-constexpr double exact_wholes = 16777216.0; // 2^24
+/// The range of whole numbers that single precision holds without a gap.
+constexpr float exact_wholes = 16777216.f; // 2^24
 
 } // namespace
 
 oxp_leaf_grid::oxp_leaf_grid(const oxp_octree_cell& root, float leaf_edge)
-    : root_origin(root.origin), edge(leaf_edge),
-      unit(root.origin == ox_3dvector() ? leaf_edge : std::min(leaf_edge, first_root_edge)),
-      exact(static_cast<double>(root.edge) <= exact_wholes * unit) {}
+    : root_origin(root.origin), edge(leaf_edge) {
+    const bool starts_at_0 = root.origin == ox_3dvector();
+    const float step = starts_at_0 ? leaf_edge : std::min(leaf_edge, first_root_edge);
+    unit = step;
+    // Two units of margin: what lies within 1 of the vertex has to be exact as well.
+    limit = (exact_wholes - 2.f) * step;
+    exact = starts_at_0 || root.edge <= exact_wholes;
+    covers_root = root.edge <= limit;
+}
 
 bool oxp_leaf_grid::same_leaf(const ox_3dvector& p, const ox_3dvector& q) const {
     return cell_of(p.x, root_origin.x) == cell_of(q.x, root_origin.x) &&

@@ -1,43 +1,36 @@
 #include <ox/mesh/internal/search_grid.h>
 
 #include <algorithm>
-#include <cstring>
 #include <limits>
 
 #include <ox/mesh/internal/tolerances.h>
 
 namespace ox {
 
-namespace {
-
-/// Added to a double below 2^51, it leaves no bits for fractions: the sum is rounded to a whole.
-constexpr double rounding_to_whole = 6755399441055744.0; // 1.5 * 2^52
-
-std::uint64_t bits_of(double value) {
-    std::uint64_t bits = 0;
-    std::memcpy(&bits, &value, sizeof bits);
-    return bits;
-}
-
-/// A multiplicative hash of three numbers; its high bits are the best ones.
-std::uint64_t key_of_cell(double x, double y, double z) {
-    const std::uint64_t sum = bits_of(x) * 0x9E3779B97F4A7C15u + bits_of(y) * 0xC2B2AE3D27D4EB4Fu +
-                              bits_of(z) * 0x165667B19E3779F9u;
-    return (sum ^ (sum >> 32)) * 0xD6E8FEB86659FD93u;
-}
-
-} // namespace
-
 oxp_search_grid::oxp_search_grid(float tolerance) {
     // An infinite tolerance joins the two farthest floats, whose difference is still finite in
     // double precision.
     const double finite_tolerance = std::min(tolerance, (std::numeric_limits<float>::max)());
     reach = search_reach_in_tolerances * finite_tolerance;
-    cells_per_unit = 1.0 / std::max(search_cell_in_reaches * reach, min_search_cell);
+    cell_in_reaches = widest_search_cell_in_reaches;
+    set_cell_edge(cell_in_reaches * reach);
 }
 
-std::uint64_t oxp_search_grid::key_of(const ox_3dvector& p) const {
-    return key_of_cell(coordinate(p.x), coordinate(p.y), coordinate(p.z));
+bool oxp_search_grid::halve_cells() {
+    if (cell_in_reaches <= narrowest_search_cell_in_reaches) {
+        return false;
+    }
+    cell_in_reaches *= 0.5;
+    set_cell_edge(cell_in_reaches * reach);
+    return true;
+}
+
+double oxp_search_grid::narrowest_cell_edge() const {
+    return narrowest_search_cell_in_reaches * reach;
+}
+
+void oxp_search_grid::set_cell_edge(double edge) {
+    cells_per_unit = 1.0 / std::max(edge, min_search_cell);
 }
 
 int oxp_search_grid::keys_near(const ox_3dvector& p, std::uint64_t (&keys)[max_near]) const {
@@ -56,15 +49,9 @@ int oxp_search_grid::keys_near(const ox_3dvector& p, std::uint64_t (&keys)[max_n
     return nb_found;
 }
 
-/// The nearest whole number of cells, moved by a constant. It never decreases with the position,
-/// whatever the rounding, and is the same for 0 and -0.
-double oxp_search_grid::coordinate(double position) const {
-    return position * cells_per_unit + rounding_to_whole;
-}
-
-/// The coordinates of everything within the tolerance, each once. The reach is a quarter of a cell
-/// to both sides together, so its two ends name all cells there are; where the position is so
-/// large that whole cells are lost in rounding, only equal positions weld, and the middle is
+/// The coordinates of everything within the tolerance, each once. The reach is half a cell, or
+/// less, to both sides together, so its two ends name all cells there are; where the position is
+/// so large that whole cells are lost in rounding, only equal positions weld, and the middle is
 /// theirs.
 int oxp_search_grid::coordinates_near(float position, double (&found)[3]) const {
     const double middle = position;

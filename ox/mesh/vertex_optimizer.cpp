@@ -1,9 +1,11 @@
 #include <ox/mesh/ox_vertex_optimizer.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <limits>
 #include <new>
 
+#include <ox/mesh/internal/large_array.h>
 #include <ox/mesh/internal/tolerances.h>
 #include <ox/mesh/internal/vertex_welder.h>
 #include <ox/mesh/internal/welded_leaves.h>
@@ -44,6 +46,8 @@ void make_room(ox_list<unsigned int>& list, int count) {
         list.set_size(
             std::max(size + count, capacity + std::min(capacity / 2, largest - capacity)));
         list.set_size(size);
+        oxp_prefer_large_pages(list.get_data() + size,
+                               sizeof(unsigned int) * static_cast<std::size_t>(count));
     }
 }
 
@@ -82,6 +86,7 @@ void ox_vertex_optimizer::add_vertices(const ox_list<ox_3dvector>& vertices,
         welder.weld(block, static_cast<std::size_t>(count), mapping.get_data() + nb_before);
         mapping.set_size(nb_before + count);
     }
+    welder.list_normals();
 }
 
 const ox_list<unsigned int>& ox_vertex_optimizer::get_mapping() const {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <limits>
 
 #include <ox/mesh/internal/tolerances.h>
@@ -12,6 +13,10 @@ namespace {
 
 bool is_nan(const ox_3dvector& v) {
     return std::isnan(v.x) || std::isnan(v.y) || std::isnan(v.z);
+}
+
+bool has_same_bits(const ox_3dvector& a, const ox_3dvector& b) {
+    return std::memcmp(&a, &b, sizeof a) == 0;
 }
 
 /// Raises the capacity of a list to at least `capacity`, where that is possible.
@@ -27,56 +32,63 @@ void reserve(ox_list<ox_3dvector>& list, std::size_t capacity) {
 oxp_vertex_welder::oxp_vertex_welder(float weld_distance, float weld_normal_distance,
                                      const oxp_welded_leaves& leaves_of_octree)
     : position_tolerance(weld_distance), normal_tolerance(weld_normal_distance),
+      welds_nothing(!(weld_distance >= 0.f) || !(weld_normal_distance >= 0.f)),
       search_grid(weld_distance), leaves(leaves_of_octree) {}
 
 void oxp_vertex_welder::expect(std::size_t nb_vertices) {
-    const std::size_t expected = chains.size() + nb_vertices / expected_vertices_at_a_place;
-    if (expected > chains.get_room()) {
+    const std::size_t expected = places.size() + nb_vertices / expected_vertices_at_a_place;
+    if (expected > places.get_room()) {
         make_room(expected);
     }
 }
 
 void oxp_vertex_welder::weld(const candidate* vertices, std::size_t count, unsigned int* indices) {
     for (std::size_t i = 0; i < count; ++i) {
-        chains.prefetch(vertices[i].cell);
-    }
-    for (std::size_t i = 0; i < count; ++i) {
-        const std::uint32_t newest = chains.newest(vertices[i].cell);
-        if (newest != none) {
-            oxp_prefetch(&positions.at(static_cast<int>(newest)));
-        }
+        places.prefetch(vertices[i].cell);
     }
     for (std::size_t i = 0; i < count; ++i) {
         indices[i] = weld_one(vertices[i]);
     }
+    narrow_crowded_cells();
 }
 
 std::uint32_t oxp_vertex_welder::weld_one(const candidate& v) {
-    // What can join nothing is kept out of the chains: thousands of broken normals at one place
-    // would make every search there a long one.
-    if (!(position_tolerance >= 0.f) || !(normal_tolerance >= 0.f) || is_nan(v.normal) ||
-        !leaves.reach(v.position, positions)) {
+    if (welds_nothing || !leaves.reach(v.position, positions)) {
         return add_alone(v);
     }
     const leaf reached = leaves.leaf_of(v.position);
-    const std::uint32_t known = lone_vertex_at(v, reached);
-    if (known != none) {
-        return known;
+    const std::uint32_t lone = find_lone(v, reached);
+    if (lone != none) {
+        return lone;
     }
     const neighbours found = find_neighbours(v, reached);
-    return found.first != none ? found.first : add(v, reached, !found.any);
+    ++nb_searches;
+    nb_candidates += found.nb_candidates;
+    if (found.first != none) {
+        return found.first;
+    }
+    // What can join nothing is kept out of the chains: thousands of broken normals at one place
+    // would make every search there a long one.
+    return is_nan(v.normal) ? add_alone(v) : add(v, reached, !found.any);
 }
 
-std::uint32_t oxp_vertex_welder::lone_vertex_at(const candidate& v, const leaf& reached) const {
-    std::uint32_t welded = chains.newest(v.cell + reached.key);
-    for (; welded != none; welded = chains.older(welded)) {
-        const ox_3dvector& position = positions.at(static_cast<int>(welded));
-        if (position == v.position && lone[welded] && agrees(welded, v.normal) &&
-            leaves.shares(reached, v.position, welded, position)) {
-            break;
-        }
+/// The lone vertex at the place of v, if its normal agrees and it is found at once.
+std::uint32_t oxp_vertex_welder::find_lone(const candidate& v, const leaf& reached) const {
+    const oxp_place_table::place& newest = places.newest(v.cell + reached.key);
+    if (newest.marked && newest.position == v.position && agrees(newest.number, v.normal) &&
+        leaves.shares(reached, v.position, newest.number, newest.position)) {
+        return newest.number;
     }
-    return welded;
+    std::uint32_t welded = newest.number;
+    for (int i = 0; i < candidates_for_repetition && welded != none; ++i) {
+        const ox_3dvector& position = positions.at(static_cast<int>(welded));
+        if (position == v.position && places.is_marked(welded) && agrees(welded, v.normal) &&
+            leaves.shares(reached, v.position, welded, position)) {
+            return welded;
+        }
+        welded = places.older(welded);
+    }
+    return none;
 }
 
 oxp_vertex_welder::neighbours oxp_vertex_welder::find_neighbours(const candidate& v,
@@ -85,10 +97,11 @@ oxp_vertex_welder::neighbours oxp_vertex_welder::find_neighbours(const candidate
     const int nb_cells = search_grid.keys_near(v.position, cells);
     neighbours found;
     for (int i = 0; i < nb_cells; ++i) {
-        std::uint32_t welded = chains.newest(cells[i] + reached.key);
-        for (; welded != none; welded = chains.older(welded)) {
+        std::uint32_t welded = places.newest(cells[i] + reached.key).number;
+        for (; welded != none; welded = places.older(welded)) {
+            ++found.nb_candidates;
             const ox_3dvector& position = positions.at(static_cast<int>(welded));
-            if (is_close(welded, v.position) &&
+            if (is_close(position, v.position) &&
                 leaves.shares(reached, v.position, welded, position)) {
                 found.any = true;
                 if (welded < found.first && agrees(welded, v.normal)) {
@@ -100,61 +113,86 @@ oxp_vertex_welder::neighbours oxp_vertex_welder::find_neighbours(const candidate
     return found;
 }
 
-bool oxp_vertex_welder::is_close(std::uint32_t welded, const ox_3dvector& p) const {
-    const ox_3dvector& position = positions.at(static_cast<int>(welded));
+bool oxp_vertex_welder::is_close(const ox_3dvector& position, const ox_3dvector& p) const {
     return std::fabs(p.x - position.x) <= position_tolerance &&
            std::fabs(p.y - position.y) <= position_tolerance &&
            std::fabs(p.z - position.z) <= position_tolerance;
 }
 
-/// While all normals are equal, none has to be looked up.
 bool oxp_vertex_welder::agrees(std::uint32_t welded, const ox_3dvector& n) const {
-    const ox_3dvector& normal = normals.at(has_one_normal ? 0 : static_cast<int>(welded));
+    const ox_3dvector& normal =
+        has_one_normal ? first_normal : normals.at(static_cast<int>(welded));
     return std::fabs(n.x - normal.x) + std::fabs(n.y - normal.y) + std::fabs(n.z - normal.z) <=
            normal_tolerance;
 }
 
 /// Makes a welded vertex that no other ever joins.
 std::uint32_t oxp_vertex_welder::add_alone(const candidate& v) {
-    if (chains.size() == chains.get_room()) {
-        make_room(chains.size() + 1);
-    }
+    append(v);
     leaves.add_outside();
-    const std::uint32_t welded = append(v, false);
-    chains.add_unchained();
-    return welded;
-}
-
-std::uint32_t oxp_vertex_welder::add(const candidate& v, const leaf& reached, bool is_lone) {
-    if (chains.size() == chains.get_room()) {
-        make_room(chains.size() + 1);
-    }
-    leaves.add(reached);
-    const std::uint32_t welded = append(v, is_lone);
-    chains.add(v.cell + reached.key);
-    return welded;
-}
-
-std::uint32_t oxp_vertex_welder::append(const candidate& v, bool is_lone) {
-    has_one_normal = has_one_normal && (normals.size() == 0 || v.normal == normals.at(0));
-    positions.push_right(v.position);
-    normals.push_right(v.normal);
-    lone.push_back(is_lone);
+    places.add_unchained();
     return static_cast<std::uint32_t>(positions.size() - 1);
 }
 
-/// Room is made everywhere before anything is added, so that memory that runs out leaves the
-/// welded vertices as they were.
+std::uint32_t oxp_vertex_welder::add(const candidate& v, const leaf& reached, bool is_lone) {
+    append(v);
+    leaves.add(reached);
+    places.add(v.cell + reached.key, v.position, is_lone);
+    return static_cast<std::uint32_t>(positions.size() - 1);
+}
+
+/// Makes room for one more welded vertex everywhere before it adds anything, so that memory that
+/// runs out leaves the welded vertices as they were.
+void oxp_vertex_welder::append(const candidate& v) {
+    if (places.size() == places.get_room()) {
+        make_room(places.size() + 1);
+    }
+    leaves.make_room_for_one();
+    if (positions.size() == 0) {
+        first_normal = v.normal;
+    } else if (has_one_normal && !has_same_bits(v.normal, first_normal)) {
+        list_normals();
+        has_one_normal = false;
+    }
+    positions.push_right(v.position);
+    if (!has_one_normal) {
+        normals.push_right(v.normal);
+    }
+}
+
+void oxp_vertex_welder::list_normals() {
+    reserve(normals, places.get_room());
+    while (normals.size() < positions.size()) {
+        normals.push_right(first_normal);
+    }
+}
+
 void oxp_vertex_welder::make_room(std::size_t at_least) {
-    const std::size_t grown = chains.get_room() + chains.get_room() / 2;
+    const std::size_t grown = places.get_room() + places.get_room() / 2;
     const std::size_t room = std::max({at_least, grown, first_welding_room});
     reserve(positions, room);
-    reserve(normals, room);
-    lone.reserve(room);
-    chains.make_room(room, [this](std::uint32_t welded) {
+    if (!has_one_normal) {
+        reserve(normals, room);
+    }
+    rebuild(room);
+}
+
+void oxp_vertex_welder::rebuild(std::size_t room) {
+    places.make_room(room, positions.get_data(), [this](std::uint32_t welded) {
         const ox_3dvector& position = positions.at(static_cast<int>(welded));
         return search_grid.key_of(position) + leaves.key_of(welded, position);
     });
+}
+
+void oxp_vertex_welder::narrow_crowded_cells() {
+    if (nb_searches < searches_to_average) {
+        return;
+    }
+    if (nb_candidates > crowded_candidates * nb_searches && search_grid.halve_cells()) {
+        rebuild(places.get_room());
+    }
+    nb_searches = 0;
+    nb_candidates = 0;
 }
 
 } // namespace ox

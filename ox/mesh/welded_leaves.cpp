@@ -26,7 +26,7 @@ oxp_welded_leaves::oxp_welded_leaves(float largest_leaf_size)
 oxp_welded_leaves::oxp_welded_leaves(const oxp_vertex_octree& finished_octree,
                                      float largest_leaf_size, double crowding_edge)
     : octree(finished_octree), leaf_size(largest_leaf_size),
-      grid(grid_below(octree.get_root(), leaf_size)), is_grid(grid.is_exact()),
+      grid(grid_below(octree.get_root(), leaf_size)), is_grid(grid.is_exact()), is_finished(true),
       has_keys(grid.leaf_edge() < crowding_edge) {}
 
 std::uint64_t oxp_welded_leaves::key_of(std::uint32_t number, const ox_3dvector& position) const {
@@ -45,6 +45,9 @@ bool oxp_welded_leaves::grow_over(const ox_3dvector& p, const ox_list<ox_3dvecto
             prepare_growth(octree.get_root().grown_towards(p), welded);
         }
         octree.grow_towards(p);
+    }
+    if (is_grid && !grid.covers(p)) {
+        number_leaves(welded);
     }
     return true;
 }

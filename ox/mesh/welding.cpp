@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <memory>
 
 #include <ox/core/ox_log.h>
+#include <ox/mesh/internal/large_array.h>
 #include <ox/mesh/internal/tolerances.h>
 #include <ox/mesh/internal/vertex_octree.h>
 #include <ox/mesh/internal/vertex_welder.h>
@@ -14,15 +14,44 @@ namespace ox {
 
 namespace {
 
-/// Grows the root over all vertices; false when that takes too many doublings.
-bool grow_over(oxp_vertex_octree& octree, const ox_3dvector* vertices, std::size_t nb_vertices) {
-    int nb_doublings = 0;
-    for (std::size_t i = 0; i < nb_vertices; ++i) {
+/// Tells whether a cell contains all of some vertices. Without a branch for each, it is as fast as
+/// memory is read.
+bool contains_all(const oxp_octree_cell& cell, const ox_3dvector* vertices, std::size_t count) {
+    const ox_3dvector low = cell.origin;
+    const ox_3dvector high = low + ox_3dvector(cell.edge, cell.edge, cell.edge);
+    bool all = true;
+    for (std::size_t i = 0; i < count; ++i) {
+        const ox_3dvector& p = vertices[i];
+        all &= (low.x <= p.x) & (p.x < high.x) & (low.y <= p.y) & (p.y < high.y) & (low.z <= p.z) &
+               (p.z < high.z);
+    }
+    return all;
+}
+
+/// Grows the root over some vertices in order; false when that takes too many doublings, which are
+/// counted on from `nb_doublings`.
+bool grow_over(oxp_vertex_octree& octree, const ox_3dvector* vertices, std::size_t count,
+               int& nb_doublings) {
+    for (std::size_t i = 0; i < count; ++i) {
         while (!octree.contains(vertices[i])) {
             if (++nb_doublings > max_root_doublings) {
                 return false;
             }
             octree.grow_towards(vertices[i]);
+        }
+    }
+    return true;
+}
+
+/// Grows the root over all vertices in order; false when that takes too many doublings.
+bool grow_over_all(oxp_vertex_octree& octree, const ox_3dvector* vertices,
+                   std::size_t nb_vertices) {
+    int nb_doublings = 0;
+    for (std::size_t first = 0; first < nb_vertices; first += welding_block) {
+        const std::size_t count = std::min(welding_block, nb_vertices - first);
+        if (!contains_all(octree.get_root(), vertices + first, count) &&
+            !grow_over(octree, vertices + first, count, nb_doublings)) {
+            return false;
         }
     }
     return true;
@@ -76,18 +105,18 @@ void ox_triangle_set::optimize(float position_tolerance, float normal_tolerance)
     if (!has_valid_triangles()) {
         return;
     }
-    if (!grow_over(octree, vertices.get(), nb_vertices)) {
+    if (!grow_over_all(octree, vertices.get(), nb_vertices)) {
         ox_log("too many octrees");
         return;
     }
     const oxp_octree_cell root = octree.get_root();
     const float leaf_size = root.edge / set_root_in_leaf_parents;
-    const double crowding_edge = oxp_search_grid(position_tolerance).cell_edge();
+    const double crowding_edge = oxp_search_grid(position_tolerance).narrowest_cell_edge();
     oxp_vertex_welder welder(position_tolerance, normal_tolerance,
                              oxp_welded_leaves(octree, leaf_size, crowding_edge));
     // The indices are rewritten last, so that memory that runs out midway leaves them whole.
     const std::size_t nb_corners = std::size_t{3} * nb_triangles;
-    const std::unique_ptr<unsigned int[]> welded_corners(new unsigned int[nb_corners]);
+    const auto welded_corners = oxp_make_large_array<unsigned int>(nb_corners);
     welder.expect(nb_corners);
     corner_block block(vertices.get(), welder, tells_normals_apart(normal_tolerance, root));
     for (std::size_t first = 0; first < nb_corners; first += welding_block) {
@@ -101,7 +130,7 @@ void ox_triangle_set::optimize(float position_tolerance, float normal_tolerance)
 
 void ox_triangle_set::replace_vertices(const ox_list<ox_3dvector>& replacements) {
     const std::size_t count = static_cast<std::size_t>(replacements.size());
-    std::shared_ptr<ox_3dvector[]> replaced(count == 0 ? nullptr : new ox_3dvector[count]);
+    std::shared_ptr<ox_3dvector[]> replaced = oxp_make_large_array<ox_3dvector>(count);
     std::copy(replacements.begin(), replacements.end(), replaced.get());
     vertices.swap(replaced);
     nb_vertices = static_cast<unsigned int>(count);

@@ -30,9 +30,22 @@ constexpr float min_leaf_size = 1.f;
 /// by more than the rounding of a single-precision difference.
 constexpr double search_reach_in_tolerances = 1.001;
 
-/// Edge of the cells that candidates are hashed by, in search reaches: most searches stay in one
-/// cell, and a cell still holds few vertices.
-constexpr double search_cell_in_reaches = 8.0;
+/// Edge of the cells that candidates are hashed by, in search reaches. Wide cells keep most
+/// searches in one cell; where vertices lie so close that many share a cell, it is halved down to
+/// the narrowest, which holds few whose distance is beyond the tolerance.
+constexpr double widest_search_cell_in_reaches = 64.0;
+constexpr double narrowest_search_cell_in_reaches = 4.0;
+
+/// Candidates that a search looks at on average before the cells are too wide: some share a bucket
+/// by chance.
+constexpr std::size_t crowded_candidates = 3;
+
+/// Candidates that are looked at for a repetition of a vertex before all within the tolerance are
+/// searched: in crowded cells few vertices are repetitions.
+constexpr int candidates_for_repetition = 4;
+
+/// Searches over which that average is taken.
+constexpr std::size_t searches_to_average = 4096;
 
 /// Smallest edge, in model units, of the cells that candidates are hashed by: below the smallest
 /// single-precision number, so that a tolerance of 0 keeps different coordinates apart.

@@ -3,11 +3,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <vector>
 
 #include <ox/core/ox_list.h>
 #include <ox/geometry/ox_3dvector.h>
-#include <ox/mesh/internal/keyed_chains.h>
+#include <ox/mesh/internal/place_table.h>
 #include <ox/mesh/internal/search_grid.h>
 #include <ox/mesh/internal/welded_leaves.h>
 
@@ -51,46 +50,55 @@ public:
     /// different normals.
     void weld(const candidate* vertices, std::size_t count, unsigned int* indices);
 
-    /// The cell that a position is looked for in.
+    /// The cell that a position is looked for in, until the next call of `weld`.
     std::uint64_t cell_of(const ox_3dvector& p) const { return search_grid.key_of(p); }
 
     /// The welded positions, in order of creation.
     const ox_list<ox_3dvector>& get_positions() const { return positions; }
 
-    /// The normal of the vertex that made each welded position.
+    /// The normal of the vertex that made each welded position, as many as `list_normals` listed.
     const ox_list<ox_3dvector>& get_normals() const { return normals; }
 
+    /// Lists the normals of all welded vertices. While all are equal, they are not written down.
+    void list_normals();
+
 private:
-    static constexpr std::uint32_t none = oxp_keyed_chains::none;
+    static constexpr std::uint32_t none = oxp_place_table::none;
 
     /// What a search of all cells within the tolerance finds.
     struct neighbours {
         bool any = false;           // within the position tolerance, in the same leaf
         std::uint32_t first = none; // of these the first one whose normal agrees
+        std::size_t nb_candidates = 0;
     };
 
     using leaf = oxp_welded_leaves::leaf;
 
     std::uint32_t weld_one(const candidate& v);
-    std::uint32_t lone_vertex_at(const candidate& v, const leaf& reached) const;
+    std::uint32_t find_lone(const candidate& v, const leaf& reached) const;
     neighbours find_neighbours(const candidate& v, const leaf& reached) const;
-    bool is_close(std::uint32_t welded, const ox_3dvector& p) const;
+    bool is_close(const ox_3dvector& position, const ox_3dvector& p) const;
     bool agrees(std::uint32_t welded, const ox_3dvector& n) const;
 
     std::uint32_t add_alone(const candidate& v);
     std::uint32_t add(const candidate& v, const leaf& reached, bool is_lone);
-    std::uint32_t append(const candidate& v, bool is_lone);
+    void append(const candidate& v);
     void make_room(std::size_t at_least);
+    void rebuild(std::size_t room);
+    void narrow_crowded_cells();
 
     float position_tolerance;
     float normal_tolerance;
+    bool welds_nothing;
     oxp_search_grid search_grid;
     oxp_welded_leaves leaves;
-    oxp_keyed_chains chains;
+    oxp_place_table places; // the lone ones are marked
     ox_list<ox_3dvector> positions;
-    ox_list<ox_3dvector> normals;
-    std::vector<bool> lone;
-    bool has_one_normal = true; // all that were given are equal
+    ox_list<ox_3dvector> normals; // complete as soon as they are not all equal
+    ox_3dvector first_normal;
+    bool has_one_normal = true;
+    std::size_t nb_searches = 0;   // since the last look at how crowded the cells are
+    std::size_t nb_candidates = 0; // that these searches looked at
 };
 
 } // namespace ox

@@ -34,7 +34,8 @@ public:
     /// Grows the octree over p. False, and nothing happens, when it cannot be grown so far.
     /// `welded` are the positions of all welded vertices. O(1), O(number of welded vertices) once.
     bool reach(const ox_3dvector& p, const ox_list<ox_3dvector>& welded) {
-        return octree.contains(p) || grow_over(p, welded);
+        return is_finished || (octree.contains(p) && (!is_grid || grid.covers(p))) ||
+               grow_over(p, welded);
     }
 
     /// The leaf of a vertex that the octree contains. O(1) while the leaves are a grid.
@@ -51,6 +52,13 @@ public:
 
     /// The key of the leaf of a welded vertex.
     std::uint64_t key_of(std::uint32_t number, const ox_3dvector& position) const;
+
+    /// Makes room for the leaf of one more welded vertex, so that adding it cannot fail.
+    void make_room_for_one() {
+        if (!is_grid && leaf_numbers.size() == leaf_numbers.capacity()) {
+            leaf_numbers.reserve(2 * leaf_numbers.size() + 1);
+        }
+    }
 
     /// Adds the leaf of the next welded vertex.
     void add(const leaf& reached) {
@@ -75,6 +83,7 @@ private:
     float leaf_size;
     oxp_leaf_grid grid;
     bool is_grid;
+    bool is_finished = false; // the octree contains all vertices to come
     bool has_keys = false;
     std::uint32_t nb_abandoned = 0; // the first ones, in a leaf that no walk reaches any more
     std::vector<std::uint32_t> leaf_numbers; // of each welded vertex, once the leaves are no grid

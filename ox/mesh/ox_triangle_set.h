@@ -131,6 +131,7 @@ public:
     void subdivide();
 
 private:
+    void allocate_uninitialised(unsigned int nb_vertices, unsigned int nb_triangles);
     bool read_raw_arrays(oxp_mesh_file& file, unsigned int new_nb_vertices,
                          unsigned int new_nb_triangles);
     bool read_stl_records(oxp_mesh_file& file, unsigned int nb_records, std::uint64_t& nb_read);

@@ -2,7 +2,6 @@
 #define OX_MESH_INTERNAL_TOLERANCES_H
 
 #include <cstddef>
-#include <cstdint>
 
 namespace ox {
 
@@ -69,10 +68,6 @@ constexpr float indifferent_normal_tolerance = 8.f;
 /// Root edge up to which the normal of every triangle in the octree is finite: products of two
 /// differences stay below 2^124.
 constexpr float max_root_edge_of_finite_normals = 1152921504606846976.f; // 2^60
-
-/// Bytes taken to be in a file whose size cannot be asked for, such as a pipe: an endless device
-/// must not fill the memory.
-constexpr std::uint64_t unmeasured_file_bytes = std::uint64_t{64} << 20;
 
 } // namespace ox
 

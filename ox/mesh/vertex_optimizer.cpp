@@ -25,7 +25,9 @@ class ox_vertex_optimizer_state {
 public:
     ox_vertex_optimizer_state(float position_tolerance, float normal_tolerance)
         : welder(position_tolerance, normal_tolerance,
-                 oxp_welded_leaves(leaf_size_for(position_tolerance))) {}
+                 oxp_welded_leaves(leaf_size_for(position_tolerance))) {
+        welder.keep_normals();
+    }
 
     oxp_vertex_welder welder;
     ox_list<unsigned int> mapping;
@@ -86,7 +88,6 @@ void ox_vertex_optimizer::add_vertices(const ox_list<ox_3dvector>& vertices,
         welder.weld(block, static_cast<std::size_t>(count), mapping.get_data() + nb_before);
         mapping.set_size(nb_before + count);
     }
-    welder.list_normals();
 }
 
 const ox_list<unsigned int>& ox_vertex_optimizer::get_mapping() const {

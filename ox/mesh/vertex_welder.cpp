@@ -75,20 +75,25 @@ std::uint32_t oxp_vertex_welder::weld_one(const candidate& v) {
 /// The lone vertex at the place of v, if its normal agrees and it is found at once.
 std::uint32_t oxp_vertex_welder::find_lone(const candidate& v, const leaf& reached) const {
     const oxp_place_table::place& newest = places.newest(v.cell + reached.key);
-    if (newest.marked && newest.position == v.position && agrees(newest.number, v.normal) &&
-        leaves.shares(reached, v.position, newest.number, newest.position)) {
+    if (newest.marked && is_repeated(newest.number, newest.position, v, reached)) {
         return newest.number;
     }
     std::uint32_t welded = newest.number;
     for (int i = 0; i < candidates_for_repetition && welded != none; ++i) {
         const ox_3dvector& position = positions.at(static_cast<int>(welded));
-        if (position == v.position && places.is_marked(welded) && agrees(welded, v.normal) &&
-            leaves.shares(reached, v.position, welded, position)) {
+        if (places.is_marked(welded) && is_repeated(welded, position, v, reached)) {
             return welded;
         }
         welded = places.older(welded);
     }
     return none;
+}
+
+/// Tells whether v lies at the place of a welded vertex, in the same leaf, and the normals agree.
+bool oxp_vertex_welder::is_repeated(std::uint32_t welded, const ox_3dvector& position,
+                                    const candidate& v, const leaf& reached) const {
+    return position == v.position && agrees(welded, v.normal) &&
+           leaves.shares(reached, v.position, welded, position);
 }
 
 oxp_vertex_welder::neighbours oxp_vertex_welder::find_neighbours(const candidate& v,
@@ -151,27 +156,28 @@ void oxp_vertex_welder::append(const candidate& v) {
     if (positions.size() == 0) {
         first_normal = v.normal;
     } else if (has_one_normal && !has_same_bits(v.normal, first_normal)) {
-        list_normals();
+        keep_normals();
         has_one_normal = false;
     }
     positions.push_right(v.position);
-    if (!has_one_normal) {
+    if (keeps_normals) {
         normals.push_right(v.normal);
     }
 }
 
-void oxp_vertex_welder::list_normals() {
+void oxp_vertex_welder::keep_normals() {
     reserve(normals, places.get_room());
     while (normals.size() < positions.size()) {
         normals.push_right(first_normal);
     }
+    keeps_normals = true;
 }
 
 void oxp_vertex_welder::make_room(std::size_t at_least) {
     const std::size_t grown = places.get_room() + places.get_room() / 2;
     const std::size_t room = std::max({at_least, grown, first_welding_room});
     reserve(positions, room);
-    if (!has_one_normal) {
+    if (keeps_normals) {
         reserve(normals, room);
     }
     rebuild(room);

@@ -87,7 +87,8 @@ private:
         bucket = {position, number & none, links[number].marked};
     }
 
-    /// Replaces the buckets by empty ones, a power of two not below `at_least`.
+    /// Empties the buckets, and replaces them by a power of two not below `at_least`. Where that is
+    /// the number there are, nothing is allocated, and so nothing can fail.
     void empty_buckets(std::size_t at_least) {
         std::size_t count = 2;
         int bits = 1;
@@ -95,12 +96,16 @@ private:
             count *= 2;
             ++bits;
         }
-        buckets = oxp_make_large_array<place>(count);
+        if (count != nb_buckets) {
+            buckets = oxp_make_large_array<place>(count);
+            nb_buckets = count;
+            shift = 64 - bits;
+        }
         std::fill(buckets.get(), buckets.get() + count, place{ox_3dvector(), none, 0});
-        shift = 64 - bits;
     }
 
     oxp_large_array<place> buckets;
+    std::size_t nb_buckets = 0;
     std::vector<link> links; // one for each number
     int shift = 63;          // from a key to its bucket: the high bits
     std::size_t room = 0;

@@ -56,11 +56,12 @@ public:
     /// The welded positions, in order of creation.
     const ox_list<ox_3dvector>& get_positions() const { return positions; }
 
-    /// The normal of the vertex that made each welded position, as many as `list_normals` listed.
-    const ox_list<ox_3dvector>& get_normals() const { return normals; }
+    /// Lists the normal of the vertex that made each welded position from now on. Otherwise they
+    /// are not written down while all are equal.
+    void keep_normals();
 
-    /// Lists the normals of all welded vertices. While all are equal, they are not written down.
-    void list_normals();
+    /// These normals, none unless they are kept.
+    const ox_list<ox_3dvector>& get_normals() const { return normals; }
 
 private:
     static constexpr std::uint32_t none = oxp_place_table::none;
@@ -76,6 +77,8 @@ private:
 
     std::uint32_t weld_one(const candidate& v);
     std::uint32_t find_lone(const candidate& v, const leaf& reached) const;
+    bool is_repeated(std::uint32_t welded, const ox_3dvector& position, const candidate& v,
+                     const leaf& reached) const;
     neighbours find_neighbours(const candidate& v, const leaf& reached) const;
     bool is_close(const ox_3dvector& position, const ox_3dvector& p) const;
     bool agrees(std::uint32_t welded, const ox_3dvector& n) const;
@@ -94,9 +97,10 @@ private:
     oxp_welded_leaves leaves;
     oxp_place_table places; // the lone ones are marked
     ox_list<ox_3dvector> positions;
-    ox_list<ox_3dvector> normals; // complete as soon as they are not all equal
-    ox_3dvector first_normal;
+    ox_list<ox_3dvector> normals;
+    bool keeps_normals = false; // set as soon as they are not all equal
     bool has_one_normal = true;
+    ox_3dvector first_normal;
     std::size_t nb_searches = 0;   // since the last look at how crowded the cells are
     std::size_t nb_candidates = 0; // that these searches looked at
 };

@@ -89,13 +89,6 @@ std::uint32_t oxp_vertex_welder::find_lone(const candidate& v, const leaf& reach
     return none;
 }
 
-/// Tells whether v lies at the place of a welded vertex, in the same leaf, and the normals agree.
-bool oxp_vertex_welder::is_repeated(std::uint32_t welded, const ox_3dvector& position,
-                                    const candidate& v, const leaf& reached) const {
-    return position == v.position && agrees(welded, v.normal) &&
-           leaves.shares(reached, v.position, welded, position);
-}
-
 oxp_vertex_welder::neighbours oxp_vertex_welder::find_neighbours(const candidate& v,
                                                                  const leaf& reached) const {
     std::uint64_t cells[oxp_search_grid::max_near];
@@ -122,13 +115,6 @@ bool oxp_vertex_welder::is_close(const ox_3dvector& position, const ox_3dvector&
     return std::fabs(p.x - position.x) <= position_tolerance &&
            std::fabs(p.y - position.y) <= position_tolerance &&
            std::fabs(p.z - position.z) <= position_tolerance;
-}
-
-bool oxp_vertex_welder::agrees(std::uint32_t welded, const ox_3dvector& n) const {
-    const ox_3dvector& normal =
-        has_one_normal ? first_normal : normals.at(static_cast<int>(welded));
-    return std::fabs(n.x - normal.x) + std::fabs(n.y - normal.y) + std::fabs(n.z - normal.z) <=
-           normal_tolerance;
 }
 
 /// Makes a welded vertex that no other ever joins.

@@ -14,18 +14,26 @@ namespace ox {
 
 namespace {
 
-/// Tells whether a cell contains all of some vertices. Without a branch for each, it is as fast as
-/// memory is read.
+/// Tells whether a cell contains all of some vertices. The bounds of four vertices are laid out as
+/// their coordinates are: in that form a processor compares several at once.
 bool contains_all(const oxp_octree_cell& cell, const ox_3dvector* vertices, std::size_t count) {
-    const ox_3dvector low = cell.origin;
-    const ox_3dvector high = low + ox_3dvector(cell.edge, cell.edge, cell.edge);
-    bool all = true;
-    for (std::size_t i = 0; i < count; ++i) {
-        const ox_3dvector& p = vertices[i];
-        all &= (low.x <= p.x) & (p.x < high.x) & (low.y <= p.y) & (p.y < high.y) & (low.z <= p.z) &
-               (p.z < high.z);
+    constexpr std::size_t lanes = 12;
+    const ox_3dvector o = cell.origin;
+    const float low[lanes] = {o.x, o.y, o.z, o.x, o.y, o.z, o.x, o.y, o.z, o.x, o.y, o.z};
+    float high[lanes];
+    std::transform(low, low + lanes, high, [&](float origin) { return origin + cell.edge; });
+    unsigned int outside[lanes] = {};
+    std::size_t i = 0;
+    for (; i + 4 <= count; i += 4) {
+        const float* const coordinates = &vertices[i].x;
+        for (std::size_t lane = 0; lane < lanes; ++lane) {
+            outside[lane] |= static_cast<unsigned int>(!(low[lane] <= coordinates[lane])) |
+                             static_cast<unsigned int>(!(coordinates[lane] < high[lane]));
+        }
     }
-    return all;
+    const auto is_inside = [&](const ox_3dvector& p) { return cell.contains(p); };
+    return std::all_of(vertices + i, vertices + count, is_inside) &&
+           std::count(outside, outside + lanes, 0u) == static_cast<std::ptrdiff_t>(lanes);
 }
 
 /// Grows the root over some vertices in order; false when that takes too many doublings, which are

@@ -1,6 +1,7 @@
 #ifndef OX_MESH_INTERNAL_VERTEX_WELDER_H
 #define OX_MESH_INTERNAL_VERTEX_WELDER_H
 
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 
@@ -77,11 +78,23 @@ private:
 
     std::uint32_t weld_one(const candidate& v);
     std::uint32_t find_lone(const candidate& v, const leaf& reached) const;
-    bool is_repeated(std::uint32_t welded, const ox_3dvector& position, const candidate& v,
-                     const leaf& reached) const;
     neighbours find_neighbours(const candidate& v, const leaf& reached) const;
     bool is_close(const ox_3dvector& position, const ox_3dvector& p) const;
-    bool agrees(std::uint32_t welded, const ox_3dvector& n) const;
+
+    /// Tells whether the normal of a welded vertex agrees with n.
+    bool agrees(std::uint32_t welded, const ox_3dvector& n) const {
+        const ox_3dvector& normal =
+            has_one_normal ? first_normal : normals.at(static_cast<int>(welded));
+        return std::fabs(n.x - normal.x) + std::fabs(n.y - normal.y) + std::fabs(n.z - normal.z) <=
+               normal_tolerance;
+    }
+
+    /// Tells whether v lies at the place of a welded vertex, in its leaf, and the normals agree.
+    bool is_repeated(std::uint32_t welded, const ox_3dvector& position, const candidate& v,
+                     const leaf& reached) const {
+        return position == v.position && agrees(welded, v.normal) &&
+               leaves.shares(reached, v.position, welded, position);
+    }
 
     std::uint32_t add_alone(const candidate& v);
     std::uint32_t add(const candidate& v, const leaf& reached, bool is_lone);

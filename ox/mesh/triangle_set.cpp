@@ -46,9 +46,10 @@ void ox_triangle_set::allocate_uninitialised(unsigned int new_nb_vertices,
 
 bool ox_triangle_set::has_valid_triangles() const {
     // Without a branch for each index, several are compared at once.
+    const unsigned int* const indices = triangles.get();
     unsigned int largest = 0;
     for (std::size_t i = 0; i < std::size_t{3} * nb_triangles; ++i) {
-        largest = std::max(largest, triangles[i]);
+        largest = std::max(largest, indices[i]);
     }
     const bool valid = nb_triangles == 0 || largest < nb_vertices;
     if (!valid) {

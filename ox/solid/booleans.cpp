@@ -44,7 +44,7 @@ void ox_solid::unites(ox_solid& other) {
     if (get_bounding_box().is_empty()) {
         *this = other;
     } else if (grown_by(get_bounding_box(), union_box_margin).intersects(other_box)) {
-        combine(*state, other, solid_operation::unite);
+        combine(*state, *other.state, solid_operation::unite);
     } else {
         append_solid(*state, other);
     }
@@ -59,7 +59,7 @@ void ox_solid::substracts(ox_solid& other) {
     const ox_box box = get_bounding_box();
     const ox_box other_box = other.get_bounding_box();
     if (!box.is_empty() && !other_box.is_empty() && box.intersects(other_box)) {
-        combine(*state, other, solid_operation::substract);
+        combine(*state, *other.state, solid_operation::substract);
     }
 }
 
@@ -75,7 +75,7 @@ void ox_solid::intersects(ox_solid& other) {
     }
     const ox_box other_box = other.get_bounding_box();
     if (!other_box.is_empty() && box.intersects(other_box)) {
-        combine(*state, other, solid_operation::intersect);
+        combine(*state, *other.state, solid_operation::intersect);
     } else {
         clear();
     }

@@ -4,27 +4,6 @@
 
 namespace ox {
 
-oxp_owned_polygons& oxp_owned_polygons::operator=(oxp_owned_polygons&& other) noexcept {
-    if (this != &other) {
-        const oxp_owned_polygons retired(std::move(*this));
-        list = std::move(other.list);
-    }
-    return *this;
-}
-
-oxp_owned_polygons::~oxp_owned_polygons() {
-    for (ox_polygon* polygon : list) {
-        delete polygon;
-    }
-}
-
-ox_polygon& oxp_owned_polygons::add() {
-    list.push_right(nullptr); // the place first: a polygon never lives without an owner
-    const int last = list.size() - 1;
-    list[last] = new ox_polygon;
-    return *list[last];
-}
-
 ox_solid_state::ox_solid_state(ox_solid* solid) : owner(solid) {}
 
 ox_solid_state::ox_solid_state(ox_solid* solid, const ox_solid_state& source)
@@ -38,8 +17,8 @@ ox_solid_state::~ox_solid_state() {
     manifold_status = -1;
 }
 
-oxp_owned_polygons ox_solid_state::invalidate() {
-    oxp_owned_polygons retired(std::move(faces));
+face_cache ox_solid_state::invalidate() {
+    face_cache retired(std::move(faces));
     bounding_box.clear();
     tesselation_vertices.clear();
     tesselation_triangles.clear();

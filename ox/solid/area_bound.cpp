@@ -3,46 +3,23 @@
 
 #include <ox/core/ox_list.h>
 #include <ox/solid/internal/area_bound.h>
+#include <ox/solid/internal/facade.h>
 #include <ox/solid/internal/face_bounds.h>
+#include <ox/solid/internal/kept_axes.h>
 #include <ox/solid/internal/tolerances.h>
 
 namespace ox {
 
 namespace {
 
-/// Whether another contour stays clear of the first one on an axis that the tessellator keeps: it
-/// drops the one on which the normal is longest.
-bool is_clear_of(const face_bounds& first, const face_bounds& other, const ox_3dvector& normal) {
-    const float longest =
-        std::max({std::fabs(normal.x), std::fabs(normal.y), std::fabs(normal.z)});
-    for (unsigned int axis = 0; axis < 3; ++axis) {
-        const bool is_kept = std::fabs(normal.at(axis)) < kept_axis_share * longest;
-        if (is_kept &&
-            (first.high.at(axis) < other.low.at(axis) || other.high.at(axis) < first.low.at(axis))) {
-            return true;
-        }
-    }
-    return false;
-}
-
-/// The largest magnitude of a coordinate within bounds.
-double find_reach(const face_bounds& bounds) {
-    double reach = 0.0;
-    for (unsigned int axis = 0; axis < 3; ++axis) {
-        reach = std::max({reach, std::fabs(static_cast<double>(bounds.low.at(axis))),
-                          std::fabs(static_cast<double>(bounds.high.at(axis)))});
-    }
-    return reach;
-}
-
 /// Whether no other contour meets the bounds of the first one, or spoils the sum of the areas.
 bool is_first_contour_alone(ox_polygon& polygon, const face_bounds& first) {
     const ox_list<unsigned int>& sizes = polygon.get_contour_sizes();
+    const kept_axes axes(polygon.get_normal());
     const ox_3dvector* vertex = polygon.get_contour_vertices().get_data() + sizes[0];
     for (int i = 1; i < sizes.size(); ++i) {
         const face_bounds other(vertex, sizes[i]);
-        if (!is_clear_of(first, other, polygon.get_normal()) ||
-            !(find_reach(other) < largest_heron_reach)) {
+        if (!axes.are_apart(first, other, 0.0) || !(other.get_reach() < largest_heron_reach)) {
             return false;
         }
         vertex += sizes[i];
@@ -81,17 +58,18 @@ double measure_square_diagonal(const face_bounds& bounds) {
     return square;
 }
 
-} // namespace
-
-bool is_area_surely_above(ox_polygon& polygon, float area) {
+/// Whether the first contour alone has more area than that, as it has few vertices and no other
+/// contour near it. Its triangles are then so few that one of them is too large to be flat: flat
+/// triangles may lose all of their area in Heron's formula.
+bool is_first_contour_above(ox_polygon& polygon, float area) {
     const ox_list<unsigned int>& sizes = polygon.get_contour_sizes();
-    if (sizes.size() == 0 || sizes[0] > largest_bounded_contour) {
+    if (sizes[0] > largest_bounded_contour) {
         return false;
     }
     const unsigned int n = sizes[0];
     const ox_3dvector* const vertices = polygon.get_contour_vertices().get_data();
     const face_bounds bounds(vertices, n);
-    const double reach = find_reach(bounds);
+    const double reach = bounds.get_reach();
     const double square_diagonal = measure_square_diagonal(bounds);
     // Where rounding lets the outline overlap itself, that much is filled evenly, so not at all.
     const double overlap = n * std::sqrt(square_diagonal) * overlap_rounding * reach;
@@ -102,6 +80,16 @@ bool is_area_surely_above(ox_polygon& polygon, float area) {
     return reach < largest_heron_reach && largest > flat_triangle_share * square_diagonal &&
            largest > smallest_heron_share * static_cast<double>(area) &&
            is_first_contour_alone(polygon, bounds);
+}
+
+} // namespace
+
+bool is_area_surely_above(ox_polygon& polygon, float area) {
+    if (polygon.get_contour_sizes().size() == 0) {
+        return false;
+    }
+    return is_first_contour_above(polygon, area) ||
+           (area <= largest_facade_limit && is_facade_with_area(polygon));
 }
 
 } // namespace ox

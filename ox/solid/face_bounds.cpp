@@ -47,6 +47,15 @@ void face_bounds::enlarge(const face_bounds& other) {
     }
 }
 
+double face_bounds::get_reach() const {
+    double reach = 0.0;
+    for (unsigned int axis = 0; axis < 3; ++axis) {
+        reach = std::max(reach, largest_magnitude(static_cast<double>(low.at(axis)),
+                                                  static_cast<double>(high.at(axis))));
+    }
+    return reach;
+}
+
 bool face_bounds::surely_apart_from(const ox_box& box, int vertex_count) const {
     if (is_empty()) {
         return false;
@@ -60,8 +69,7 @@ bool face_bounds::surely_apart_from(const ox_box& box, int vertex_count) const {
         const double box_end = box_start + static_cast<double>(box.size.at(axis));
         const double magnitude = largest_magnitude(start, end) + std::fabs(box_start) +
                                  std::fabs(static_cast<double>(box.size.at(axis)));
-        const double margin =
-            box_rejection_margin + roundings * rounding_allowance * magnitude;
+        const double margin = box_rejection_margin + roundings * rounding_allowance * magnitude;
         if (magnitude < largest_safe_magnitude &&
             (start > box_end + margin || box_start > end + margin)) {
             return true;

@@ -147,7 +147,8 @@ std::unique_ptr<ox_polygon> face_cache::release(int face) {
 
 bool face_cache::is_settled(const ox_solid_state& storage, int face) const {
     const origin& place = origins[static_cast<std::size_t>(face)];
-    return place.had_contours_of_storage && have_same_bits(list[face]->get_normal(), place.normal) &&
+    return place.had_contours_of_storage &&
+           have_same_bits(list[face]->get_normal(), place.normal) &&
            have_same_bits(list[face]->get_point(), list[face]->get_contour_vertices()[0]) &&
            has_contours_of_storage(storage, face);
 }

@@ -79,8 +79,8 @@ ox_list<ox_polygon*> split_section(ox_solid_state& state, const ox_3dvector& poi
                                    const ox_3dvector& normal) {
     const ox_list<ox_polygon*>& faces = state.faces.get_list(state);
     state.faces.refresh_bounds();
-    std::unique_ptr<ox_polygon> section = plane_section(faces, state.faces.get_tree(), point,
-                                                        normal, face_list_section_tolerance);
+    std::unique_ptr<ox_polygon> section =
+        plane_section(faces, state.faces.get_tree(), point, normal, face_list_section_tolerance);
     if (!section) {
         return {};
     }

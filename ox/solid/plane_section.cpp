@@ -116,9 +116,9 @@ void segment_finder::sort_crossings() {
     }
     for (auto added = crossings.begin(); added != crossings.end(); ++added) {
         const float parameter = added->parameter;
-        const auto place =
-            std::find_if(crossings.begin(), added,
-                         [&](const crossing& stored) { return stored.parameter > parameter; });
+        const auto place = std::find_if(crossings.begin(), added, [&](const crossing& stored) {
+            return stored.parameter > parameter;
+        });
         std::rotate(place, added, added + 1);
     }
 }

@@ -32,8 +32,7 @@ std::size_t find_continuation(const std::vector<ox_solid_contour>& chains, const
             return;
         }
         const float distance = first_point(chains[i]).manhattan_distance_to(end);
-        if (distance < nearest ||
-            (distance == nearest && (found == chains.size() || i > found))) {
+        if (distance < nearest || (distance == nearest && (found == chains.size() || i > found))) {
             nearest = distance;
             found = i;
         }

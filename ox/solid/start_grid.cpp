@@ -71,8 +71,8 @@ start_grid::cell_hashes start_grid::cells_around(const ox_3dvector& p, double di
     }
     // Two cells with one hash would be visited twice.
     std::sort(hashes.items, hashes.items + hashes.count);
-    hashes.count = static_cast<int>(std::unique(hashes.items, hashes.items + hashes.count) -
-                                    hashes.items);
+    hashes.count =
+        static_cast<int>(std::unique(hashes.items, hashes.items + hashes.count) - hashes.items);
     return hashes;
 }
 

@@ -5,14 +5,11 @@
 
 namespace ox {
 
-/// True only if `polygon.get_area()` is above `area` (squared model units), told from the first
-/// contour alone, without triangles; false tells nothing. It is false for a first contour of more
-/// than a few vertices, for one that has others inside or beside it without a gap, and for a
-/// sliver. O(n) for n vertices.
-///
-/// The area is the sum of the areas of triangles, each rounded by Heron's formula: of a flat
-/// triangle nothing may be left. But the triangles of the first contour are so few that one of them
-/// is too large to be flat.
+/// True only if `polygon.get_area()` is above `area` (squared model units), told from the contours
+/// without making triangles; false tells nothing. It is true for the common cases: a first
+/// contour of a few vertices with nothing inside or close to it, unless it is a sliver, and a
+/// facade, that is an outline of a few sides with rectangular holes, all of them some distance
+/// apart. O(n log n) for n vertices.
 bool is_area_surely_above(ox_polygon& polygon, float area);
 
 } // namespace ox

@@ -35,6 +35,9 @@ struct face_bounds {
     /// Grows to include other bounds.
     void enlarge(const face_bounds& other);
 
+    /// The largest magnitude of a coordinate of a point in the bounds.
+    double get_reach() const;
+
     /// True only if a face of `vertex_count` vertices within these bounds is too far from the box
     /// for `ox_polygon::may_intersect`.
     bool surely_apart_from(const ox_box& box, int vertex_count) const;

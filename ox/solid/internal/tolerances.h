@@ -54,6 +54,8 @@ constexpr double smallest_margin = 1e-40;
 /// Model units: beyond it single precision may overflow, and nothing is rejected.
 constexpr double largest_safe_magnitude = 1e37;
 
+// Bounds of areas (area_bound.cpp explains where the values come from)
+
 /// A contour of more vertices has too many triangles for a useful bound of its area.
 constexpr unsigned int largest_bounded_contour = 16;
 
@@ -74,6 +76,27 @@ constexpr double overlap_rounding = 1e-6;
 /// An axis counts as kept by the tessellator when the normal's component is below this part of the
 /// largest one: with two nearly as large it may drop either.
 constexpr float kept_axis_share = 0.99f;
+
+/// Model units: smallest distance between any two vertices for which a triangle of them that is
+/// not flat has an area above `largest_facade_limit`.
+constexpr double smallest_facade_gap = 0.1;
+
+/// Squared model units, see there.
+constexpr float largest_facade_limit = 2e-6f;
+
+/// Squared sine of the largest slant of a corner that counts as right: ten degrees.
+constexpr double largest_square_slant = 0.03;
+
+/// Radians, the angle that flat triangles at a right corner of a hole must fill with their sharp
+/// corners: 90 degrees less ten of slant, and one for roundings.
+constexpr double sharp_filled_angle = 1.37;
+
+/// The squared sharp corners of a flat triangle are smaller than this, times its longest side over
+/// its shortest (128 * 6e-8, and a tenth more).
+constexpr double square_sharp_angle = 8.5e-6;
+
+/// Comparisons for each hole of a facade after which the look for gaps is given up.
+constexpr int facade_comparisons = 64;
 
 /// Distance within which the starts of chains are looked up, in tolerances: the distance measured
 /// in single precision may be a rounding below the true one.

@@ -14,12 +14,15 @@ ox_box grown_by(const ox_box& box, float margin) {
     return grown;
 }
 
-/// Appends the primary storage of another solid as it is.
+/// Appends the primary storage of another solid as it is. The box of the target, which must have
+/// been found, grows by the new vertices: from all vertices it would come out the same.
 void append_solid(ox_solid_state& target, const ox_solid& other) {
+    ox_box box = target.bounding_box;
     target.invalidate();
     const unsigned int base = target.count_vertices();
     for (const ox_3dvector& vertex : other.get_vertices()) {
         target.vertices.push_right(vertex);
+        box.enlarge(vertex);
     }
     for (const int size : other.get_contour_sizes()) {
         target.contour_sizes.push_right(size);
@@ -27,6 +30,7 @@ void append_solid(ox_solid_state& target, const ox_solid& other) {
     for (const unsigned int index : other.get_contours()) {
         target.contours.push_right(index + base);
     }
+    target.bounding_box = box;
 }
 
 } // namespace

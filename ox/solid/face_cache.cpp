@@ -1,22 +1,13 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
-#include <cstring>
 #include <utility>
 
 #include <ox/solid/internal/face_cache.h>
 #include <ox/solid/internal/ox_solid_state.h>
+#include <ox/solid/internal/same_bits.h>
 
 namespace ox {
-
-namespace {
-
-bool have_same_bits(const ox_3dvector& a, const ox_3dvector& b) {
-    static_assert(sizeof(ox_3dvector) == 3 * sizeof(float), "nothing but its coordinates");
-    return std::memcmp(&a, &b, sizeof(ox_3dvector)) == 0;
-}
-
-} // namespace
 
 /// Reads the faces of a primary storage one after another.
 class face_cache::storage_reader {
@@ -24,15 +15,17 @@ public:
     explicit storage_reader(const ox_solid_state& primary_storage) : storage(primary_storage) {}
 
     /// False behind the last face, and behind the first index that is missing or out of range.
-    bool has_more() const { return !is_inconsistent && next_size < storage.contour_sizes.size(); }
+    bool has_more() const {
+        return !is_inconsistent && next.size_index < storage.contour_sizes.size();
+    }
 
     /// Where the next face begins.
-    origin get_place() const { return {next_size, next_index, ox_3dvector(), false}; }
+    origin get_place() const { return {next, ox_3dvector(), false}; }
 
     /// Passes over a face that is known to be there.
     void skip_face() {
         do {
-            next_index += std::abs(storage.contour_sizes[next_size++]);
+            next.index += std::abs(storage.contour_sizes[next.size_index++]);
         } while (has_more_contours());
     }
 
@@ -52,31 +45,31 @@ public:
 
 private:
     bool has_more_contours() const {
-        return next_size < storage.contour_sizes.size() && storage.contour_sizes[next_size] < 1;
+        return next.size_index < storage.contour_sizes.size() &&
+               storage.contour_sizes[next.size_index] < 1;
     }
 
     bool gather_contour() {
         contour.clear();
         is_inconsistent = true;
-        for (std::int64_t left = std::abs(std::int64_t{storage.contour_sizes[next_size]}); left > 0;
-             --left) {
-            if (next_index >= storage.contours.size()) {
+        for (std::int64_t left = std::abs(std::int64_t{storage.contour_sizes[next.size_index]});
+             left > 0; --left) {
+            if (next.index >= storage.contours.size()) {
                 return false;
             }
-            const unsigned int index = storage.contours[next_index++];
+            const unsigned int index = storage.contours[next.index++];
             if (index >= storage.count_vertices()) {
                 return false;
             }
             contour.push_right(storage.vertices[static_cast<int>(index)]);
         }
-        ++next_size;
+        ++next.size_index;
         is_inconsistent = false;
         return true;
     }
 
     const ox_solid_state& storage;
-    int next_size = 0;
-    int next_index = 0;
+    storage_place next;
     bool is_inconsistent = false;
     ox_list<ox_3dvector> contour;
 };
@@ -119,21 +112,21 @@ void face_cache::make_missing_faces(const ox_solid_state& storage) {
     origins.clear();
     storage_reader reader(storage);
     for (int face = 0; reader.has_more(); ++face) {
-        origin place = reader.get_place();
+        origin made = reader.get_place();
         if (face < list.size() && list[face] != nullptr) {
             reader.skip_face();
         } else {
-            std::unique_ptr<ox_polygon> made = reader.read_face();
-            if (!made) {
+            std::unique_ptr<ox_polygon> polygon = reader.read_face();
+            if (!polygon) {
                 break;
             }
             if (face == list.size()) {
                 list.push_right(nullptr); // the place first: a polygon never lives without an owner
             }
-            list[face] = made.release();
+            list[face] = polygon.release();
         }
-        place.normal = list[face]->get_normal();
-        origins.push_back(place);
+        made.normal = list[face]->get_normal();
+        origins.push_back(made);
         origins.back().had_contours_of_storage = has_contours_of_storage(storage, face);
     }
     is_complete = true;
@@ -146,45 +139,15 @@ std::unique_ptr<ox_polygon> face_cache::release(int face) {
 // Settled faces
 
 bool face_cache::is_settled(const ox_solid_state& storage, int face) const {
-    const origin& place = origins[static_cast<std::size_t>(face)];
-    return place.had_contours_of_storage &&
-           have_same_bits(list[face]->get_normal(), place.normal) &&
+    const origin& made = origins[static_cast<std::size_t>(face)];
+    return made.had_contours_of_storage && have_same_bits(list[face]->get_normal(), made.normal) &&
            have_same_bits(list[face]->get_point(), list[face]->get_contour_vertices()[0]) &&
            has_contours_of_storage(storage, face);
 }
 
-/// Whether the face has the contours of its part of the storage: an outer one, then its holes.
 bool face_cache::has_contours_of_storage(const ox_solid_state& storage, int face) const {
-    const origin& place = origins[static_cast<std::size_t>(face)];
-    ox_polygon& polygon = *list[face];
-    const ox_list<unsigned int>& sizes = polygon.get_contour_sizes();
-    const ox_list<ox_3dvector>& vertices = polygon.get_contour_vertices();
-    int next_size = place.first_size;
-    int next_index = place.first_index;
-    if (sizes.size() == 0 || vertices.size() > storage.contours.size() - next_index) {
-        return false;
-    }
-    for (int i = 0; i < sizes.size(); ++i, ++next_size) {
-        const bool is_outer = i == 0;
-        const int size = static_cast<int>(sizes[i]);
-        if (next_size >= storage.contour_sizes.size() ||
-            storage.contour_sizes[next_size] != (is_outer ? size : -size) ||
-            polygon.get_contour_orientations()[i] != is_outer ||
-            polygon.get_contour_parents()[i] != (is_outer ? -1 : 0)) {
-            return false;
-        }
-    }
-    if (next_size < storage.contour_sizes.size() && storage.contour_sizes[next_size] < 1) {
-        return false;
-    }
-    for (const ox_3dvector& vertex : vertices) {
-        const unsigned int index = storage.contours[next_index++];
-        if (index >= storage.count_vertices() ||
-            !have_same_bits(vertex, storage.vertices[static_cast<int>(index)])) {
-            return false;
-        }
-    }
-    return true;
+    storage_place place = origins[static_cast<std::size_t>(face)].place;
+    return storage.holds_face(*list[face], place);
 }
 
 // Searching
@@ -204,6 +167,9 @@ const std::vector<face_bounds>& face_cache::refresh_bounds() {
 
 const face_tree& face_cache::get_tree() {
     if (!tree) {
+        if (bounds.empty()) {
+            refresh_bounds();
+        }
         tree = std::make_unique<face_tree>(bounds);
     }
     return *tree;

@@ -3,7 +3,6 @@
 #include <memory>
 
 #include <ox/solid/internal/ox_solid_state.h>
-#include <ox/solid/internal/plane_section.h>
 #include <ox/solid/ox_solid.h>
 
 namespace ox {
@@ -72,49 +71,7 @@ void build_clipping_brick(const ox_solid_state& state, const ox_3dvector& point,
                 w * (along_w.highest - along_w.lowest), normal * height);
 }
 
-// Section
-
-/// The section of a solid as separate polygons, which are the caller's.
-ox_list<ox_polygon*> split_section(ox_solid_state& state, const ox_3dvector& point,
-                                   const ox_3dvector& normal) {
-    const ox_list<ox_polygon*>& faces = state.faces.get_list(state);
-    state.faces.refresh_bounds();
-    std::unique_ptr<ox_polygon> section =
-        plane_section(faces, state.faces.get_tree(), point, normal, face_list_section_tolerance);
-    if (!section) {
-        return {};
-    }
-    ox_list<ox_polygon*> pieces = section->split_to_polygons();
-    if (std::find(pieces.begin(), pieces.end(), section.get()) != pieces.end()) {
-        section.release(); // a section of one piece is that piece: it is the caller's now
-    }
-    return pieces;
-}
-
 } // namespace
-
-ox_list<ox_polygon*> ox_solid::intersect_by_plane(const ox_3dvector& point,
-                                                  const ox_3dvector& normal) {
-    const ox_list<ox_polygon*>& faces = get_faces();
-    for (int i = 0; i < faces.size(); ++i) {
-        if (!state->faces.is_settled(*state, i)) {
-            return intersect_by_plane(point, normal, faces);
-        }
-    }
-    return split_section(*state, point, normal); // faces added to a solid would be these again
-}
-
-ox_list<ox_polygon*> ox_solid::intersect_by_plane(const ox_3dvector& point,
-                                                  const ox_3dvector& normal,
-                                                  const ox_list<ox_polygon*>& faces) {
-    ox_solid solid;
-    for (ox_polygon* face : faces) {
-        if (face != nullptr) {
-            solid.add_face(*face);
-        }
-    }
-    return split_section(*solid.state, point, normal);
-}
 
 void ox_solid::clip(const ox_3dvector& point, const ox_3dvector& normal) {
     const side_counts counts = count_sides(*state, point, normal);

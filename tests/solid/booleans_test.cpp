@@ -67,6 +67,7 @@ TEST(Uniting, IntoAnEmptySolidCopiesTheOther) {
 
 TEST(Uniting, WithAnEmptySolidChangesNothing) {
     ox_solid solid = unit_brick();
+    ox_polygon* face = solid.get_faces()[0];
     ox_solid empty;
     solid.unites(empty);
     EXPECT_EQ(solid.get_faces()[0], face);
@@ -101,6 +102,7 @@ TEST(Uniting, LeavesTheStorageOfTheOtherAlone) {
 
 TEST(Substracting, ASolidWhoseBoxOnlyTouchesChangesNothing) {
     ox_solid solid = unit_brick();
+    ox_polygon* face = solid.get_faces()[0];
     ox_solid touching = brick_at(1, 0, 0);
     solid.substracts(touching);
     EXPECT_EQ(solid.get_faces()[0], face);

@@ -14,6 +14,12 @@ namespace ox {
 
 struct ox_solid_state;
 
+/// A place in a primary storage.
+struct storage_place {
+    int size_index = 0; ///< of a contour among the sizes
+    int index = 0;      ///< of its first vertex index
+};
+
 /// The faces of a solid as polygons, made from its primary storage when they are asked for, with
 /// the bounds and the tree that searches among them.
 ///
@@ -43,7 +49,8 @@ public:
     /// Finds the bounds of the listed faces anew. O(n).
     const std::vector<face_bounds>& refresh_bounds();
 
-    /// The tree over the bounds as last refreshed, built at the first call. O(n log n) then.
+    /// The tree over the bounds as last refreshed, or as they are now when they never were. Built
+    /// at the first call after a change, in O(n log n).
     const face_tree& get_tree();
 
     /// Whether a face of the list is settled, and was changed by nobody since. O(n) for its n
@@ -56,8 +63,7 @@ public:
 private:
     /// Where a face begins in the storage, and what it was when it was made.
     struct origin {
-        int first_size;  ///< place of its outer contour among the sizes
-        int first_index; ///< place of its first vertex index
+        storage_place place;
         ox_3dvector normal;
         bool had_contours_of_storage;
     };

@@ -1,6 +1,8 @@
 #ifndef OX_SOLID_INTERNAL_OX_SOLID_STATE_H
 #define OX_SOLID_INTERNAL_OX_SOLID_STATE_H
 
+#include <memory>
+
 #include <ox/core/ox_chrono.h>
 #include <ox/core/ox_list.h>
 #include <ox/geometry/ox_3dvector.h>
@@ -37,6 +39,10 @@ struct ox_solid_state {
     /// faces. O(n + c) for n vertices in c contours.
     int append_polygon(ox_polygon& polygon);
 
+    /// Whether the primary storage has a face at this place that is the only outer contour of
+    /// `polygon`, then its holes, with the same bits; moves the place behind them then. O(n).
+    bool holds_face(ox_polygon& polygon, storage_place& place) const;
+
     /// Empties the primary storage and frees its memory; the caches are the caller's business.
     void clear_primary_storage();
 
@@ -52,6 +58,7 @@ struct ox_solid_state {
     face_cache faces;
     ox_list<ox_3dvector> tesselation_vertices;
     ox_list<unsigned int> tesselation_triangles;
+    std::unique_ptr<ox_solid_state> readded; ///< the solid made by adding the faces, for sections
 
     float tolerance = solid_tolerance;
 

@@ -11,11 +11,6 @@ using ox::ox_3dvector;
 using ox::ox_list;
 using ox::ox_polygon;
 
-struct chain {
-    std::vector<ox_3dvector> points;
-    bool closed = false;
-};
-
 int side_of(float distance, float tolerance) {
     if (distance < -tolerance) {
         return -1;
@@ -109,6 +104,11 @@ bool join_once(std::vector<chain>& chains, float tolerance) {
 
 } // namespace
 
+void chain_segments(std::vector<chain>& chains, float tolerance) {
+    while (join_once(chains, tolerance)) {
+    }
+}
+
 std::unique_ptr<ox_polygon> plane_section(ox::ox_solid& solid, const ox_3dvector& point,
                                           const ox_3dvector& normal, float tolerance) {
     std::vector<chain> chains;
@@ -121,8 +121,7 @@ std::unique_ptr<ox_polygon> plane_section(ox::ox_solid& solid, const ox_3dvector
     if (chains.empty()) {
         return nullptr;
     }
-    while (join_once(chains, tolerance)) {
-    }
+    chain_segments(chains, tolerance);
     auto section = std::make_unique<ox_polygon>(point, normal);
     for (const chain& contour : chains) {
         ox_list<ox_3dvector> points;

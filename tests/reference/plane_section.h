@@ -2,10 +2,20 @@
 #define OX_TESTS_REFERENCE_PLANE_SECTION_H
 
 #include <memory>
+#include <vector>
 
 #include <ox/solid/ox_solid.h>
 
 namespace reference {
+
+/// A working contour of a section.
+struct chain {
+    std::vector<ox::ox_3dvector> points;
+    bool closed = false;
+};
+
+/// Plain version of the joining of segments into chains.
+void chain_segments(std::vector<chain>& chains, float tolerance);
 
 /// Plain version of the cross-section of a solid by a plane, as one polygon; none when the plane
 /// meets no face.

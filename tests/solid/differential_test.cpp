@@ -21,7 +21,7 @@ using ox::ox_solid;
 using support::generator;
 
 using boolean = void (ox_solid::*)(ox_solid&);
-using plain_boolean = void (*)(ox_solid&, ox_solid&);
+using plain_boolean = std::string (*)(ox_solid&, ox_solid&);
 
 struct boolean_pair {
     boolean fast;

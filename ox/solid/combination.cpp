@@ -17,6 +17,7 @@
 
 #include <ox/solid/internal/area_bound.h>
 #include <ox/solid/internal/combination.h>
+#include <ox/solid/internal/plane_index.h>
 #include <ox/solid/internal/plane_section.h>
 #include <ox/solid/ox_solid.h>
 
@@ -123,7 +124,8 @@ private:
 
     void rebuild();
     void merge_faces();
-    void merge_into(std::size_t i);
+    void merge_into(std::size_t i, const std::vector<std::size_t>& later);
+    std::vector<face_plane> list_planes() const;
     ox_polygon& make_changeable(kept_piece& piece) const;
     bool are_coplanar(const ox_polygon& a, const ox_polygon& b) const;
     void replace_faces();
@@ -257,18 +259,30 @@ void combination::rebuild() {
 }
 
 void combination::merge_faces() {
+    const plane_index planes(list_planes(), tolerance);
     for (std::size_t i = 0; i < kept.size(); ++i) {
         print_progress("merge", static_cast<int>(i), static_cast<int>(kept.size()));
         if (!kept[i].is_taken) {
-            merge_into(i);
+            merge_into(i, planes.find_later(i));
         }
     }
 }
 
-/// Unites piece `i` with each later piece in its plane. A union with more vertices than both had
-/// is a sign that they overlapped instead of touching: merging into this piece ends there.
-void combination::merge_into(std::size_t i) {
-    for (std::size_t j = i + 1; j < kept.size(); ++j) {
+/// The planes of the pieces. Merging leaves them as they are.
+std::vector<face_plane> combination::list_planes() const {
+    std::vector<face_plane> planes;
+    planes.reserve(kept.size());
+    for (const kept_piece& piece : kept) {
+        const ox_polygon& polygon = polygon_of(piece);
+        planes.push_back({polygon.get_point(), polygon.get_normal()});
+    }
+    return planes;
+}
+
+/// Unites piece `i` with each of the `later` pieces in its plane. A union with more vertices than
+/// both had is a sign that they overlapped instead of touching: merging into this piece ends there.
+void combination::merge_into(std::size_t i, const std::vector<std::size_t>& later) {
+    for (const std::size_t j : later) {
         if (kept[j].is_taken || !are_coplanar(polygon_of(kept[i]), polygon_of(kept[j]))) {
             continue;
         }

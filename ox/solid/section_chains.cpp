@@ -1,7 +1,7 @@
 #include <cstddef>
 
+#include <ox/solid/internal/point_grid.h>
 #include <ox/solid/internal/section_chains.h>
-#include <ox/solid/internal/start_grid.h>
 #include <ox/solid/internal/tolerances.h>
 
 namespace ox {
@@ -22,7 +22,7 @@ const ox_3dvector& last_point(const ox_solid_contour& chain) {
 
 /// The open chain after `chain` that begins nearest to its end, within the tolerance; of equally
 /// near ones the last. The number of chains when there is none.
-std::size_t find_continuation(const std::vector<ox_solid_contour>& chains, const start_grid& starts,
+std::size_t find_continuation(const std::vector<ox_solid_contour>& chains, const point_grid& starts,
                               std::size_t chain, float tolerance) {
     const ox_3dvector end = last_point(chains[chain]);
     std::size_t found = chains.size();
@@ -55,7 +55,7 @@ void join(ox_solid_contour& chain, ox_solid_contour& continuation, float toleran
 /// Chains only leave the search, by closing or by being taken: one that found no continuation
 /// never will, and is not searched for again. So all passes together search at most twice per
 /// segment.
-void join_pass(std::vector<ox_solid_contour>& chains, const start_grid& starts,
+void join_pass(std::vector<ox_solid_contour>& chains, const point_grid& starts,
                std::vector<std::size_t>& searching, float tolerance) {
     std::size_t still_searching = 0;
     for (const std::size_t chain : searching) {
@@ -74,11 +74,15 @@ void join_pass(std::vector<ox_solid_contour>& chains, const start_grid& starts,
 } // namespace
 
 void chain_segments(std::vector<ox_solid_contour>& chains, float tolerance) {
-    const start_grid starts(chains, tolerance * start_grid_reach);
-    std::vector<std::size_t> searching(chains.size());
-    for (std::size_t i = 0; i < chains.size(); ++i) {
-        searching[i] = i;
+    std::vector<ox_3dvector> first_points;
+    std::vector<std::size_t> searching;
+    first_points.reserve(chains.size());
+    searching.reserve(chains.size());
+    for (const ox_solid_contour& chain : chains) {
+        searching.push_back(first_points.size());
+        first_points.push_back(first_point(chain));
     }
+    const point_grid starts(first_points, tolerance * point_grid_reach);
     while (!searching.empty()) {
         join_pass(chains, starts, searching, tolerance);
     }

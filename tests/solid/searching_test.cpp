@@ -3,10 +3,12 @@
 
 #include <ox/solid/internal/face_bounds.h>
 #include <ox/solid/internal/face_tree.h>
+#include <ox/solid/internal/plane_index.h>
 #include <ox/solid/internal/section_chains.h>
 
 #include <algorithm>
-#include <memory>
+#include <cmath>
+#include <limits>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -132,6 +134,55 @@ TEST(FaceBounds, ThatAreApartFromABoxBelongToAFaceThatMayNotIntersectIt) {
         }
     }
     EXPECT_GT(apart, 1000);
+}
+
+bool are_coplanar(const ox::face_plane& a, const ox::face_plane& b) {
+    const ox_3dvector difference = a.point - b.point;
+    return a.normal.distance_to(b.normal) < tolerance &&
+           std::fabs(ox::ox_dot(difference, a.normal)) <= tolerance &&
+           std::fabs(ox::ox_dot(difference, b.normal)) <= tolerance;
+}
+
+/// Planes that are often the same but for a slight turn or shift.
+std::vector<ox::face_plane> any_planes(generator& random) {
+    const float scale = any_scale(random);
+    std::vector<ox::face_plane> planes;
+    for (int i = random.between(1, 40); i > 0; --i) {
+        ox_3dvector normal(0.0f, 0.0f, 1.0f);
+        ox_3dvector point = support::random_point(random, 1.0) * scale;
+        point.z = static_cast<float>(random.between(0, 2));
+        if (random.one_in(3)) {
+            normal += support::random_point(random, 0.0008);
+        } else if (random.one_in(5)) {
+            normal = support::random_frame(random).x;
+        }
+        if (random.one_in(3)) {
+            point.z += static_cast<float>(random.real(-0.002, 0.002));
+        }
+        planes.push_back({point, normal});
+    }
+    return planes;
+}
+
+TEST(PlaneIndex, FindsEveryLaterPlaneThatIsTheSameWithinTheTolerance) {
+    generator random(4);
+    int coplanar = 0;
+    for (int round = 0; round < 2000; ++round) {
+        const std::vector<ox::face_plane> planes = any_planes(random);
+        const ox::plane_index index(planes, tolerance);
+        for (std::size_t i = 0; i < planes.size(); ++i) {
+            const std::vector<std::size_t> found = index.find_later(i);
+            EXPECT_TRUE(std::is_sorted(found.begin(), found.end()));
+            EXPECT_TRUE(found.empty() || found.front() > i);
+            for (std::size_t j = i + 1; j < planes.size(); ++j) {
+                if (are_coplanar(planes[i], planes[j])) {
+                    ++coplanar;
+                    EXPECT_TRUE(std::binary_search(found.begin(), found.end(), j)) << round;
+                }
+            }
+        }
+    }
+    EXPECT_GT(coplanar, 10000);
 }
 
 /// Segments between points that are often within the tolerance of each other.

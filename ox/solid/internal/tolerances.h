@@ -98,16 +98,16 @@ constexpr double square_sharp_angle = 8.5e-6;
 /// Comparisons for each hole of a facade after which the look for gaps is given up.
 constexpr int facade_comparisons = 64;
 
-/// Distance within which the starts of chains are looked up, in tolerances: the distance measured
-/// in single precision may be a rounding below the true one.
-constexpr float start_grid_reach = 1.01f;
+/// Distance within which points are looked up, in tolerances: the distance measured in single
+/// precision may be a rounding below the true one.
+constexpr float point_grid_reach = 1.01f;
 
-/// Side of a cell of the grid that holds the starts of chains, in reaches: wide enough for most
-/// look-ups to touch one cell only.
-constexpr double start_grid_cell = 8.0;
+/// Side of a cell of a grid of points, in reaches: wide enough for most look-ups to touch one cell
+/// only.
+constexpr double point_grid_cell = 8.0;
 
 /// Shift of that grid, in cells, so that round coordinates do not lie on the border of two cells.
-constexpr double start_grid_shift = 0.37;
+constexpr double point_grid_shift = 0.37;
 
 } // namespace ox
 

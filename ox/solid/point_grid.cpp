@@ -2,7 +2,7 @@
 #include <cmath>
 #include <cstring>
 
-#include <ox/solid/internal/start_grid.h>
+#include <ox/solid/internal/point_grid.h>
 #include <ox/solid/internal/tolerances.h>
 
 namespace ox {
@@ -16,8 +16,8 @@ struct cell_range {
 };
 
 cell_range cells_between(double first, double last, double cell_size) {
-    const double low = std::floor(first / cell_size + start_grid_shift);
-    const double high = std::floor(last / cell_size + start_grid_shift);
+    const double low = std::floor(first / cell_size + point_grid_shift);
+    const double high = std::floor(last / cell_size + point_grid_shift);
     return {{low, high}, low == high ? 1 : 2};
 }
 
@@ -36,11 +36,11 @@ bool is_finite(const ox_3dvector& p) {
 
 } // namespace
 
-start_grid::start_grid(const std::vector<ox_solid_contour>& chains, float reach_of_points)
+point_grid::point_grid(const std::vector<ox_3dvector>& points, float reach_of_points)
     : reach(static_cast<double>(reach_of_points)) {
-    entries.reserve(chains.size());
-    for (std::size_t i = 0; i < chains.size(); ++i) {
-        const cell_hashes own = cells_around(chains[i].points[0], 0.0);
+    entries.reserve(points.size());
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const cell_hashes own = cells_around(points[i], 0.0);
         if (own.count > 0) {
             entries.push_back({own.items[0], i});
         }
@@ -49,12 +49,12 @@ start_grid::start_grid(const std::vector<ox_solid_contour>& chains, float reach_
               [](const entry& a, const entry& b) { return a.cell < b.cell; });
 }
 
-start_grid::cell_hashes start_grid::cells_around(const ox_3dvector& p, double distance) const {
+point_grid::cell_hashes point_grid::cells_around(const ox_3dvector& p, double distance) const {
     cell_hashes hashes = {};
     if (!is_finite(p)) {
         return hashes;
     }
-    const double cell_size = reach * start_grid_cell;
+    const double cell_size = reach * point_grid_cell;
     cell_range ranges[3];
     for (unsigned int axis = 0; axis < 3; ++axis) {
         const double place = static_cast<double>(p.at(axis));
@@ -76,7 +76,7 @@ start_grid::cell_hashes start_grid::cells_around(const ox_3dvector& p, double di
     return hashes;
 }
 
-const start_grid::entry* start_grid::find_cell(cell_hash cell) const {
+const point_grid::entry* point_grid::find_cell(cell_hash cell) const {
     const auto found =
         std::lower_bound(entries.begin(), entries.end(), cell,
                          [](const entry& e, cell_hash searched) { return e.cell < searched; });

@@ -19,6 +19,7 @@
 #include <ox/solid/internal/combination.h>
 #include <ox/solid/internal/plane_index.h>
 #include <ox/solid/internal/plane_section.h>
+#include <ox/solid/internal/same_bits.h>
 #include <ox/solid/ox_solid.h>
 
 namespace ox {
@@ -111,9 +112,11 @@ private:
 
     void cut_own_faces();
     void cut_own_face(int i);
-    void keep_own_face(int i, polygon_pointer piece);
     void cut_other_faces();
     void cut_other_face(int i);
+    void keep_other_face(polygon_pointer piece, bool is_settled);
+    polygon_pointer cut_away(ox_polygon& face, const operand& solid) const;
+    polygon_pointer keep_inside(polygon_pointer piece, const operand& solid) const;
     polygon_pointer find_cut(ox_polygon& piece, const operand& solid) const;
     bool is_large_enough(ox_polygon& piece) const;
     bool has_changed_area() const;
@@ -150,17 +153,42 @@ private:
 
 // Cutting
 
-/// The section of `solid` in the plane of a piece, or none where it is too small to cut anything.
-/// For a union it is made with the opposite normal: of a face that both solids have, facing the
-/// same way, it is then empty, and both copies stay to be merged into one.
+/// The section of `solid` in the plane of a piece, or none where the piece is too far away. For a
+/// union it is made with the opposite normal: of a face that both solids have, facing the same way,
+/// it is then empty, and both copies stay to be merged into one.
 std::unique_ptr<ox_polygon> combination::find_cut(ox_polygon& piece, const operand& solid) const {
     if (!piece.may_intersect(solid.get_box())) {
         return nullptr;
     }
     const ox_3dvector& normal = piece.get_normal();
     const bool is_union = operation == solid_operation::unite;
-    polygon_pointer cut = solid.cut(piece.get_point(), is_union ? -normal : normal, tolerance);
-    return cut && is_large_enough(*cut) ? std::move(cut) : nullptr;
+    return solid.cut(piece.get_point(), is_union ? -normal : normal, tolerance);
+}
+
+/// What is left of a face outside the solid; null when that is the whole face. A cut that is too
+/// small to count cuts nothing, but its size, which takes triangles to find, only matters where it
+/// has cut something.
+std::unique_ptr<ox_polygon> combination::cut_away(ox_polygon& face, const operand& solid) const {
+    auto piece = std::make_unique<ox_polygon>(face);
+    const polygon_pointer cut = find_cut(*piece, solid);
+    if (!cut) {
+        return nullptr;
+    }
+    piece->substracts(*cut);
+    const bool is_cut = !have_same_contours(*piece, face) && is_large_enough(*cut);
+    return is_cut ? std::move(piece) : nullptr;
+}
+
+/// What is left of a piece inside the solid; null when that is too small, or the cut is.
+std::unique_ptr<ox_polygon> combination::keep_inside(polygon_pointer piece,
+                                                     const operand& solid) const {
+    const polygon_pointer cut = find_cut(*piece, solid);
+    if (!cut) {
+        return nullptr;
+    }
+    piece->intersects(*cut);
+    const bool is_kept = is_large_enough(*piece) && is_large_enough(*cut);
+    return is_kept ? std::move(piece) : nullptr;
 }
 
 bool combination::is_large_enough(ox_polygon& piece) const {
@@ -176,25 +204,19 @@ void combination::cut_own_faces() {
 }
 
 void combination::cut_own_face(int i) {
-    polygon_pointer piece;
-    polygon_pointer cut;
-    if (!own.is_far_from(i, other.get_box())) {
-        piece = std::make_unique<ox_polygon>(own.get_face(i));
-        cut = find_cut(*piece, other);
+    const bool is_far = own.is_far_from(i, other.get_box());
+    ox_polygon& face = own.get_face(i);
+    if (operation == solid_operation::intersect) {
+        polygon_pointer piece =
+            is_far ? nullptr : keep_inside(std::make_unique<ox_polygon>(face), other);
+        is_changed = is_changed || !piece;
+        if (piece) {
+            kept.push_back({std::move(piece), i, false, false});
+        }
+        return;
     }
-    if (cut) {
-        operation == solid_operation::intersect ? piece->intersects(*cut) : piece->substracts(*cut);
-        keep_own_face(i, std::move(piece));
-    } else if (operation == solid_operation::intersect) {
-        is_changed = true;
-    } else {
-        keep_own_face(i, nullptr);
-    }
-}
-
-/// Keeps an own face, or what is left of it, if it is large enough.
-void combination::keep_own_face(int i, polygon_pointer piece) {
-    if (is_large_enough(piece ? *piece : own.get_face(i))) {
+    polygon_pointer piece = is_far ? nullptr : cut_away(face, other);
+    if (is_large_enough(piece ? *piece : face)) {
         kept.push_back({std::move(piece), i, false, false});
     } else {
         is_changed = true;
@@ -210,25 +232,33 @@ void combination::cut_other_faces() {
 }
 
 void combination::cut_other_face(int i) {
-    const bool is_union = operation == solid_operation::unite;
     const bool is_far = other.is_far_from(i, own.get_box());
-    if (is_far && !is_union) {
+    ox_polygon& face = other.get_face(i);
+    if (operation != solid_operation::unite) {
+        if (is_far) {
+            return;
+        }
+        auto piece = std::make_unique<ox_polygon>(face);
+        if (operation == solid_operation::substract) {
+            piece->reverse();
+        }
+        piece = keep_inside(std::move(piece), own);
+        if (piece) {
+            keep_other_face(std::move(piece), false);
+        }
         return;
     }
-    auto piece = std::make_unique<ox_polygon>(other.get_face(i));
-    if (operation == solid_operation::substract) {
-        piece->reverse();
+    polygon_pointer piece = is_far ? nullptr : cut_away(face, own);
+    if (is_large_enough(piece ? *piece : face)) {
+        const bool is_whole = !piece;
+        keep_other_face(is_whole ? std::make_unique<ox_polygon>(face) : std::move(piece),
+                        is_whole && other.is_settled(i));
     }
-    const polygon_pointer cut = is_far ? nullptr : find_cut(*piece, own);
-    if (cut) {
-        is_union ? piece->substracts(*cut) : piece->intersects(*cut);
-    } else if (!is_union) {
-        return;
-    }
-    if (is_large_enough(*piece)) {
-        is_changed = true;
-        kept.push_back({std::move(piece), kept_piece::no_face, !cut && other.is_settled(i), false});
-    }
+}
+
+void combination::keep_other_face(polygon_pointer piece, bool is_settled) {
+    is_changed = true;
+    kept.push_back({std::move(piece), kept_piece::no_face, is_settled, false});
 }
 
 /// Whether some own face lost or gained more than a small part of its area.

@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
-#include <utility>
 #include <vector>
 
 #include <ox/solid/internal/plane_section.h>
@@ -74,10 +73,10 @@ class segment_finder {
 public:
     explicit segment_finder(const section_plane& cutting_plane) : plane(cutting_plane) {}
 
-    /// Makes a working contour of each pair of crossings along the cut line. An odd last one,
+    /// Makes a segment of each pair of crossings along the cut line. An odd last one,
     /// which vertices within the tolerance of the plane can leave, bounds no segment and is
     /// dropped.
-    void append_segments(ox_polygon& face, std::vector<ox_solid_contour>& segments);
+    void append_segments(ox_polygon& face, std::vector<section_segment>& segments);
 
 private:
     void add_crossings();
@@ -123,7 +122,7 @@ void segment_finder::sort_crossings() {
     }
 }
 
-void segment_finder::append_segments(ox_polygon& face, std::vector<ox_solid_contour>& segments) {
+void segment_finder::append_segments(ox_polygon& face, std::vector<section_segment>& segments) {
     line = ox_cross(plane.normal, face.get_normal());
     crossings.clear();
     const ox_3dvector* vertex = face.get_contour_vertices().get_data();
@@ -136,11 +135,7 @@ void segment_finder::append_segments(ox_polygon& face, std::vector<ox_solid_cont
     }
     sort_crossings();
     for (std::size_t i = 0; i + 1 < crossings.size(); i += 2) {
-        ox_solid_contour segment;
-        segment.points.set_size(2);
-        segment.points[0] = crossings[i].point;
-        segment.points[1] = crossings[i + 1].point;
-        segments.push_back(std::move(segment));
+        segments.emplace_back(crossings[i].point, crossings[i + 1].point);
     }
 }
 
@@ -150,17 +145,19 @@ std::unique_ptr<ox_polygon> plane_section(const ox_list<ox_polygon*>& faces, con
                                           const ox_3dvector& point, const ox_3dvector& normal,
                                           float tolerance) {
     segment_finder finder({point, normal, tolerance});
-    std::vector<ox_solid_contour> contours;
+    std::vector<section_segment> segments;
     for (const int face : tree.find_faces_at(point, normal, tolerance)) {
-        finder.append_segments(*faces[face], contours);
+        finder.append_segments(*faces[face], segments);
     }
-    if (contours.empty()) {
+    if (segments.empty()) {
         return nullptr;
     }
-    chain_segments(contours, tolerance);
+    chain_segments(segments, tolerance);
     auto section = std::make_unique<ox_polygon>(point, normal);
-    for (const ox_solid_contour& contour : contours) {
-        section->add_contour(contour.points); // one that was taken is empty, and ignored
+    for (std::size_t i = 0; i < segments.size(); ++i) {
+        if (!segments[i].is_taken) {
+            section->add_contour(list_points(segments, i));
+        }
     }
     return section;
 }

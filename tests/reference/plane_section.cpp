@@ -133,4 +133,21 @@ std::unique_ptr<ox_polygon> plane_section(ox::ox_solid& solid, const ox_3dvector
     return section;
 }
 
+std::vector<std::unique_ptr<ox_polygon>> section_pieces(const ox_list<ox_polygon*>& faces,
+                                                        const ox_3dvector& point,
+                                                        const ox_3dvector& normal) {
+    ox::ox_solid solid;
+    for (ox_polygon* face : faces) {
+        solid.add_face(*face);
+    }
+    auto section = plane_section(solid, point, normal, 0.001f);
+    std::vector<std::unique_ptr<ox_polygon>> pieces;
+    if (section) {
+        for (ox_polygon* piece : section->split_to_polygons()) {
+            pieces.emplace_back(piece == section.get() ? section.release() : piece);
+        }
+    }
+    return pieces;
+}
+
 } // namespace reference

@@ -22,6 +22,11 @@ void chain_segments(std::vector<chain>& chains, float tolerance);
 std::unique_ptr<ox::ox_polygon> plane_section(ox::ox_solid& solid, const ox::ox_3dvector& point,
                                               const ox::ox_3dvector& normal, float tolerance);
 
+/// Plain version of the section of a list of faces, as separate polygons.
+std::vector<std::unique_ptr<ox::ox_polygon>>
+section_pieces(const ox::ox_list<ox::ox_polygon*>& faces, const ox::ox_3dvector& point,
+               const ox::ox_3dvector& normal);
+
 } // namespace reference
 
 #endif

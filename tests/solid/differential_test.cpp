@@ -100,27 +100,9 @@ void compare_booleans(shape make_shape, int rounds, std::uint64_t seed) {
     }
 }
 
-/// The plain section of a list of faces, as separate polygons.
-std::vector<std::unique_ptr<ox_polygon>> plain_section(const ox_3dvector& point,
-                                                       const ox_3dvector& normal,
-                                                       const ox_list<ox_polygon*>& faces) {
-    ox_solid solid;
-    for (ox_polygon* face : faces) {
-        solid.add_face(*face);
-    }
-    auto section = reference::plane_section(solid, point, normal, 0.001f);
-    std::vector<std::unique_ptr<ox_polygon>> pieces;
-    if (section) {
-        for (ox_polygon* piece : section->split_to_polygons()) {
-            pieces.emplace_back(piece == section.get() ? section.release() : piece);
-        }
-    }
-    return pieces;
-}
-
 void compare_section(ox_solid& solid, const ox_3dvector& point, const ox_3dvector& normal) {
     const ox_list<ox_polygon*> pieces = solid.intersect_by_plane(point, normal);
-    const auto expected = plain_section(point, normal, solid.get_faces());
+    const auto expected = reference::section_pieces(solid.get_faces(), point, normal);
     EXPECT_EQ(pieces.size(), static_cast<int>(expected.size()));
     for (int i = 0; i < pieces.size(); ++i) {
         const std::unique_ptr<ox_polygon> piece(pieces[i]);

@@ -55,27 +55,10 @@ void expect_faces_of_a_copy(ox_solid& solid) {
     }
 }
 
-/// The section of the faces of a solid, made plainly.
-std::vector<std::unique_ptr<ox_polygon>> plain_section(ox_solid& solid, const ox_3dvector& point,
-                                                       const ox_3dvector& normal) {
-    ox_solid added;
-    for (ox_polygon* face : solid.get_faces()) {
-        added.add_face(*face);
-    }
-    auto section = reference::plane_section(added, point, normal, 0.001f);
-    std::vector<std::unique_ptr<ox_polygon>> pieces;
-    if (section) {
-        for (ox_polygon* piece : section->split_to_polygons()) {
-            pieces.emplace_back(piece == section.get() ? section.release() : piece);
-        }
-    }
-    return pieces;
-}
-
 void compare_section(ox_solid& fast, ox_solid& plain, const ox_3dvector& point,
                      const ox_3dvector& normal) {
     const ox_list<ox_polygon*> pieces = fast.intersect_by_plane(point, normal);
-    const auto expected = plain_section(plain, point, normal);
+    const auto expected = reference::section_pieces(plain.get_faces(), point, normal);
     EXPECT_EQ(pieces.size(), static_cast<int>(expected.size()));
     for (int i = 0; i < pieces.size(); ++i) {
         const std::unique_ptr<ox_polygon> piece(pieces[i]);

@@ -1,6 +1,7 @@
 #ifndef OX_SOLID_INTERNAL_SECTION_CHAINS_H
 #define OX_SOLID_INTERNAL_SECTION_CHAINS_H
 
+#include <cstddef>
 #include <vector>
 
 #include <ox/core/ox_list.h>
@@ -8,10 +9,19 @@
 
 namespace ox {
 
-/// A working contour of a section: a chain of segments. One that was joined to another is empty.
-struct ox_solid_contour {
-    ox_list<ox_3dvector> points;
-    bool closed = false;
+/// A segment of a section and, unless it was taken by another, the chain that begins with it:
+/// segments that follow one another.
+struct section_segment {
+    static constexpr int none = -1;
+
+    ox_3dvector start;
+    ox_3dvector end;
+    int next = none;       ///< the segment behind it in its chain
+    int last = none;       ///< the last one of the chain that begins here, none while it is alone
+    bool is_taken = false; ///< stands behind another
+    bool is_closed = false;
+
+    section_segment(const ox_3dvector& from, const ox_3dvector& to) : start(from), end(to) {}
 };
 
 /// Joins segments end to start into chains. Pass after pass each open chain, in order, takes the
@@ -19,7 +29,10 @@ struct ox_solid_contour {
 /// distance; of equally near ones the last), until a pass joins nothing. A chain whose end comes
 /// within the tolerance of its start by a join is closed. O(n log n) for n segments of which few
 /// begin at the same place.
-void chain_segments(std::vector<ox_solid_contour>& chains, float tolerance);
+void chain_segments(std::vector<section_segment>& segments, float tolerance);
+
+/// The points of the chain that begins with a segment: both of each of its segments. O(n).
+ox_list<ox_3dvector> list_points(const std::vector<section_segment>& segments, std::size_t first);
 
 } // namespace ox
 

@@ -1,14 +1,13 @@
 // The booleans, sections and clips of random solids are compared with plain versions, bit for bit.
 
-#include <memory>
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 
 #include <ox/solid/ox_solid.h>
 #include <tests/reference/combine.h>
 #include <tests/reference/plane_section.h>
+#include <tests/solid/same_polygons.h>
 #include <tests/solid/solid_lists.h>
 #include <tests/support/random_shapes.h>
 
@@ -101,19 +100,8 @@ void compare_booleans(shape make_shape, int rounds, std::uint64_t seed) {
 }
 
 void compare_section(ox_solid& solid, const ox_3dvector& point, const ox_3dvector& normal) {
-    const ox_list<ox_polygon*> pieces = solid.intersect_by_plane(point, normal);
-    const auto expected = reference::section_pieces(solid.get_faces(), point, normal);
-    EXPECT_EQ(pieces.size(), static_cast<int>(expected.size()));
-    for (int i = 0; i < pieces.size(); ++i) {
-        const std::unique_ptr<ox_polygon> piece(pieces[i]);
-        if (i < static_cast<int>(expected.size())) {
-            ox_polygon& plain = *expected[static_cast<std::size_t>(i)];
-            EXPECT_TRUE(ox_test::have_same_bits(piece->get_contour_vertices(),
-                                                plain.get_contour_vertices()));
-            EXPECT_EQ(ox_test::to_vector(piece->get_contour_sizes()),
-                      ox_test::to_vector(plain.get_contour_sizes()));
-        }
-    }
+    ox_test::expect_same_pieces(solid.intersect_by_plane(point, normal),
+                                reference::section_pieces(solid.get_faces(), point, normal));
 }
 
 /// A plane of random direction through a random point, or along an axis through whole numbers, or

@@ -1,15 +1,14 @@
 // Booleans keep the polygons of faces that would come out as they are, and sections those of the
 // last one: chains of both are compared with plain versions that make every face anew.
 
-#include <memory>
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 
 #include <ox/solid/ox_solid.h>
 #include <tests/reference/combine.h>
 #include <tests/reference/plane_section.h>
+#include <tests/solid/same_polygons.h>
 #include <tests/solid/solid_lists.h>
 #include <tests/support/random_shapes.h>
 
@@ -21,29 +20,6 @@ using ox::ox_polygon;
 using ox::ox_solid;
 using support::generator;
 
-bool have_same_bits(const ox_3dvector& a, const ox_3dvector& b) {
-    return std::memcmp(&a, &b, sizeof(ox_3dvector)) == 0;
-}
-
-/// Expects two polygons to be the same in everything that can be asked of them.
-void expect_same_polygon(ox_polygon& a, ox_polygon& b) {
-    EXPECT_TRUE(have_same_bits(a.get_normal(), b.get_normal()));
-    EXPECT_TRUE(have_same_bits(a.get_point(), b.get_point()));
-    EXPECT_TRUE(ox_test::have_same_bits(a.get_contour_vertices(), b.get_contour_vertices()));
-    EXPECT_EQ(ox_test::to_vector(a.get_contour_sizes()), ox_test::to_vector(b.get_contour_sizes()));
-    EXPECT_EQ(ox_test::to_vector(a.get_contour_orientations()),
-              ox_test::to_vector(b.get_contour_orientations()));
-    EXPECT_EQ(ox_test::to_vector(a.get_contour_parents()),
-              ox_test::to_vector(b.get_contour_parents()));
-    EXPECT_TRUE(have_same_bits(a.get_bounding_box().origin, b.get_bounding_box().origin));
-    EXPECT_TRUE(have_same_bits(a.get_bounding_box().size, b.get_bounding_box().size));
-    EXPECT_EQ(a.get_area(), b.get_area());
-    EXPECT_TRUE(
-        ox_test::have_same_bits(a.get_tesselation_vertices(), b.get_tesselation_vertices()));
-    EXPECT_EQ(ox_test::to_vector(a.get_tesselation_triangles()),
-              ox_test::to_vector(b.get_tesselation_triangles()));
-}
-
 /// Expects the faces of a solid to be those of a copy, which makes them all anew.
 void expect_faces_of_a_copy(ox_solid& solid) {
     ox_solid copy(solid);
@@ -51,21 +27,14 @@ void expect_faces_of_a_copy(ox_solid& solid) {
     const ox_list<ox_polygon*>& expected = copy.get_faces();
     ASSERT_EQ(faces.size(), expected.size());
     for (int i = 0; i < faces.size(); ++i) {
-        expect_same_polygon(*faces[i], *expected[i]);
+        ox_test::expect_same_polygon(*faces[i], *expected[i]);
     }
 }
 
 void compare_section(ox_solid& fast, ox_solid& plain, const ox_3dvector& point,
                      const ox_3dvector& normal) {
-    const ox_list<ox_polygon*> pieces = fast.intersect_by_plane(point, normal);
-    const auto expected = reference::section_pieces(plain.get_faces(), point, normal);
-    EXPECT_EQ(pieces.size(), static_cast<int>(expected.size()));
-    for (int i = 0; i < pieces.size(); ++i) {
-        const std::unique_ptr<ox_polygon> piece(pieces[i]);
-        if (i < static_cast<int>(expected.size())) {
-            expect_same_polygon(*piece, *expected[static_cast<std::size_t>(i)]);
-        }
-    }
+    ox_test::expect_same_pieces(fast.intersect_by_plane(point, normal),
+                                reference::section_pieces(plain.get_faces(), point, normal));
 }
 
 /// What random walls are made of.
@@ -195,9 +164,10 @@ TEST(KeptFaces, OfASolidThatOthersAreAppendedToGiveThePlainResults) {
                                                ox_3dvector(2.0f * static_cast<float>(i) + 1, 1, 1));
         fast.unites(tool);
         reference::unites(plain, tool);
+        EXPECT_TRUE(ox_test::have_same_bits(fast.get_bounding_box().origin,
+                                            plain.get_bounding_box().origin));
         EXPECT_TRUE(
-            have_same_bits(fast.get_bounding_box().origin, plain.get_bounding_box().origin));
-        EXPECT_TRUE(have_same_bits(fast.get_bounding_box().size, plain.get_bounding_box().size));
+            ox_test::have_same_bits(fast.get_bounding_box().size, plain.get_bounding_box().size));
     }
     ox_test::expect_same_storage(fast, plain);
     expect_faces_of_a_copy(fast);

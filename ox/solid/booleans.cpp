@@ -14,12 +14,15 @@ ox_box grown_by(const ox_box& box, float margin) {
     return grown;
 }
 
-/// Appends the primary storage of another solid as it is.
+/// Appends the primary storage of another solid as it is. The box of the target, which must have
+/// been found, grows by the new vertices: from all vertices it would come out the same.
 void append_solid(ox_solid_state& target, const ox_solid& other) {
+    ox_box box = target.bounding_box;
     target.invalidate();
     const unsigned int base = target.count_vertices();
     for (const ox_3dvector& vertex : other.get_vertices()) {
         target.vertices.push_right(vertex);
+        box.enlarge(vertex);
     }
     for (const int size : other.get_contour_sizes()) {
         target.contour_sizes.push_right(size);
@@ -27,6 +30,7 @@ void append_solid(ox_solid_state& target, const ox_solid& other) {
     for (const unsigned int index : other.get_contours()) {
         target.contours.push_right(index + base);
     }
+    target.bounding_box = box;
 }
 
 } // namespace
@@ -44,7 +48,7 @@ void ox_solid::unites(ox_solid& other) {
     if (get_bounding_box().is_empty()) {
         *this = other;
     } else if (grown_by(get_bounding_box(), union_box_margin).intersects(other_box)) {
-        combine(*state, other, solid_operation::unite);
+        combine(*state, *other.state, solid_operation::unite);
     } else {
         append_solid(*state, other);
     }
@@ -59,7 +63,7 @@ void ox_solid::substracts(ox_solid& other) {
     const ox_box box = get_bounding_box();
     const ox_box other_box = other.get_bounding_box();
     if (!box.is_empty() && !other_box.is_empty() && box.intersects(other_box)) {
-        combine(*state, other, solid_operation::substract);
+        combine(*state, *other.state, solid_operation::substract);
     }
 }
 
@@ -75,7 +79,7 @@ void ox_solid::intersects(ox_solid& other) {
     }
     const ox_box other_box = other.get_bounding_box();
     if (!other_box.is_empty() && box.intersects(other_box)) {
-        combine(*state, other, solid_operation::intersect);
+        combine(*state, *other.state, solid_operation::intersect);
     } else {
         clear();
     }

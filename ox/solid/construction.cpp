@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cstddef>
 #include <vector>
 
 #include <ox/solid/internal/ox_solid_state.h>
@@ -18,6 +19,33 @@ void append_contour(ox_solid_state& state, const ox_list<ox_3dvector>& vertices,
     }
     state.contour_sizes.push_right(is_outer ? size : -size);
 }
+
+/// The holes directly inside each outer contour of a polygon, in order, as chained lists.
+class hole_lists {
+public:
+    hole_lists(const ox_list<bool>& orientations, const ox_list<int>& parents)
+        : first(static_cast<std::size_t>(parents.size()), -1),
+          next(static_cast<std::size_t>(parents.size()), -1) {
+        for (int hole = parents.size() - 1; hole >= 0; --hole) {
+            const int outer = parents[hole];
+            // A hole split off with its outline keeps the number that it had before.
+            if (!orientations[hole] && outer >= 0 && outer < parents.size()) {
+                next[static_cast<std::size_t>(hole)] = first_of(outer);
+                first[static_cast<std::size_t>(outer)] = hole;
+            }
+        }
+    }
+
+    /// The first hole of an outer contour, -1 for none.
+    int first_of(int outer) const { return first[static_cast<std::size_t>(outer)]; }
+
+    /// The hole after another of the same outer contour, -1 behind the last.
+    int next_of(int hole) const { return next[static_cast<std::size_t>(hole)]; }
+
+private:
+    std::vector<int> first;
+    std::vector<int> next;
+};
 
 /// The contours of a polygon, one list each.
 std::vector<ox_list<ox_3dvector>> copy_contours(ox_polygon& polygon) {
@@ -106,13 +134,11 @@ void add_sides(ox_solid& solid, const ox_list<ox_3dvector>& contour, const ox_3d
 
 } // namespace
 
-void ox_solid::add_face(ox_polygon& polygon) {
-    const ox_list<ox_3dvector>& vertices = polygon.get_contour_vertices();
+int ox_solid_state::append_polygon(ox_polygon& polygon) {
+    const ox_list<ox_3dvector>& corners = polygon.get_contour_vertices();
     const ox_list<unsigned int>& sizes = polygon.get_contour_sizes();
     const ox_list<bool>& orientations = polygon.get_contour_orientations();
-    const ox_list<int>& parents = polygon.get_contour_parents();
-    // The polygon may be a cached face of this solid: it lives until it has been read.
-    const oxp_owned_polygons retired = state->invalidate();
+    const hole_lists holes(orientations, polygon.get_contour_parents());
 
     std::vector<int> starts;
     int start = 0;
@@ -121,20 +147,28 @@ void ox_solid::add_face(ox_polygon& polygon) {
         start += static_cast<int>(size);
     }
     const auto append = [&](int contour) {
-        append_contour(*state, vertices, starts[static_cast<std::size_t>(contour)],
+        append_contour(*this, corners, starts[static_cast<std::size_t>(contour)],
                        static_cast<int>(sizes[contour]), orientations[contour]);
     };
+    int face_count = 0;
     for (int outer = 0; outer < sizes.size(); ++outer) {
         if (!orientations[outer]) {
             continue;
         }
+        ++face_count;
         append(outer);
-        for (int hole = 0; hole < sizes.size(); ++hole) {
-            if (!orientations[hole] && parents[hole] == outer) {
-                append(hole);
-            }
+        for (int hole = holes.first_of(outer); hole >= 0; hole = holes.next_of(hole)) {
+            append(hole);
         }
     }
+    return face_count;
+}
+
+void ox_solid::add_face(ox_polygon& polygon) {
+    polygon.get_contour_vertices(); // merged while the solid is still as it was
+    // The polygon may be a cached face of this solid: it lives until it has been read.
+    const face_cache retired = state->invalidate();
+    state->append_polygon(polygon);
 }
 
 void ox_solid::brick(const ox_3dvector& origin, const ox_3dvector& a, const ox_3dvector& b,

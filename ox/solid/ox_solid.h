@@ -99,7 +99,7 @@ public:
 
     /// Appends a polygon as faces, one per outer boundary, each followed by the holes directly
     /// inside it. Vertices are copied, never shared with faces already there. A polygon without
-    /// contours adds nothing. O(n + c²) for n vertices in c contours.
+    /// contours adds nothing. O(n) for n vertices.
     void add_face(ox_polygon& polygon);
 
     /// Becomes the parallelepiped spanned from `origin` by the edge vectors `a`, `b` and `c`, with
@@ -148,13 +148,15 @@ public:
     // pieces that bound the result are kept. Pieces whose area is not above 0.000001 square model
     // units (the squared tolerance) are dropped. The primary storage of `other` is never changed;
     // its caches are filled. Where nothing of a face would change by more than a thousandth of its
-    // area, the solid is left exactly as it was. Cost: for m and n faces, one section (O(n) in the
-    // other's faces) for each face whose box reaches the other's box.
+    // area, the solid is left exactly as it was. Cost: one test of boxes for each face, and one
+    // section of the other solid for each face whose box reaches the other's box: for n faces there
+    // O(log n + s log s), by a tree over their boxes, when s of them meet the face's plane. Faces
+    // that would be made again as they are stay in the cache.
 
-    /// Adds the volume of `other`; coplanar faces of equal normal are merged afterwards, in O(k²)
-    /// for k kept faces. An empty `other` changes nothing, an empty solid becomes a copy of
-    /// `other`. When the boxes, this one grown by 0.01 model units, do not overlap, the faces of
-    /// `other` are appended as they are.
+    /// Adds the volume of `other`; coplanar faces of equal normal are merged afterwards, found
+    /// in O(k log k) for k kept faces. An empty `other` changes nothing, an empty solid becomes a
+    /// copy of `other`. When the boxes, this one grown by 0.01 model units, do not overlap, the
+    /// faces of `other` are appended as they are.
     ///
     /// When merging two coplanar faces makes more vertices than both had, they overlapped instead
     /// of touching; `Merge divergence for <face>` is then printed to standard output.
@@ -183,12 +185,13 @@ public:
     ///
     /// In the plane of a face the section is the face when `normal` is the face's normal, and
     /// empty when it is the opposite one. Of an open shell the section depends on the order of the
-    /// faces: a cut is only continued by the cut of a later face. Complexity: as below.
+    /// faces: a cut is only continued by the cut of a later face. O(n) for n faces to see that they
+    /// are those of the last section, O(s log s) to join s crossing segments.
     ox_list<ox_polygon*> intersect_by_plane(const ox_3dvector& point, const ox_3dvector& normal);
 
     /// The cross-section of the solid bounded by `faces`, as above. The faces stay the caller's and
-    /// keep their contours; null pointers are skipped. O(n) for the crossings of n vertices,
-    /// O(s²) to join s crossing segments.
+    /// keep their contours; null pointers are skipped. The faces are copied, so O(n log n) for
+    /// n vertices, and O(s log s) to join s crossing segments.
     static ox_list<ox_polygon*> intersect_by_plane(const ox_3dvector& point,
                                                    const ox_3dvector& normal,
                                                    const ox_list<ox_polygon*>& faces);

@@ -3,7 +3,6 @@
 #include <memory>
 
 #include <ox/solid/internal/ox_solid_state.h>
-#include <ox/solid/internal/plane_section.h>
 #include <ox/solid/ox_solid.h>
 
 namespace ox {
@@ -73,32 +72,6 @@ void build_clipping_brick(const ox_solid_state& state, const ox_3dvector& point,
 }
 
 } // namespace
-
-ox_list<ox_polygon*> ox_solid::intersect_by_plane(const ox_3dvector& point,
-                                                  const ox_3dvector& normal) {
-    return intersect_by_plane(point, normal, get_faces());
-}
-
-ox_list<ox_polygon*> ox_solid::intersect_by_plane(const ox_3dvector& point,
-                                                  const ox_3dvector& normal,
-                                                  const ox_list<ox_polygon*>& faces) {
-    ox_solid solid;
-    for (ox_polygon* face : faces) {
-        if (face != nullptr) {
-            solid.add_face(*face);
-        }
-    }
-    std::unique_ptr<ox_polygon> section =
-        plane_section(solid, point, normal, face_list_section_tolerance);
-    if (!section) {
-        return {};
-    }
-    ox_list<ox_polygon*> pieces = section->split_to_polygons();
-    if (std::find(pieces.begin(), pieces.end(), section.get()) != pieces.end()) {
-        section.release(); // a section of one piece is that piece: it is the caller's now
-    }
-    return pieces;
-}
 
 void ox_solid::clip(const ox_3dvector& point, const ox_3dvector& normal) {
     const side_counts counts = count_sides(*state, point, normal);

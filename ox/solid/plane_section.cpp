@@ -9,11 +9,12 @@
 // 4. The chains, closed or not, are the contours of the section.
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
-#include <utility>
 #include <vector>
 
 #include <ox/solid/internal/plane_section.h>
+#include <ox/solid/internal/section_chains.h>
 
 namespace ox {
 
@@ -37,13 +38,6 @@ struct sided_vertex {
 struct crossing {
     ox_3dvector point;
     float parameter;
-};
-
-/// A working contour of the section: a chain of segments.
-struct ox_solid_contour {
-    ox_list<ox_3dvector> points;
-    bool closed = false;
-    bool is_dead_end = false; // no later chain begins where this one ends
 };
 
 sided_vertex see_from_plane(const ox_3dvector& position, const section_plane& plane) {
@@ -74,145 +68,96 @@ ox_3dvector crossing_point(const sided_vertex& a, const sided_vertex& b,
     return t * a.position + (1.0f - t) * b.position;
 }
 
-/// Keeps the crossings sorted by parameter; equal ones stay in the order of their arrival.
-void insert_sorted(std::vector<crossing>& crossings, const crossing& added) {
-    const auto greater = [&](const crossing& stored) { return stored.parameter > added.parameter; };
-    crossings.insert(std::find_if(crossings.begin(), crossings.end(), greater), added);
-}
+/// Finds the segments in which a plane cuts faces. Its lists are used again for each face.
+class segment_finder {
+public:
+    explicit segment_finder(const section_plane& cutting_plane) : plane(cutting_plane) {}
+
+    /// Makes a segment of each pair of crossings along the cut line. An odd last one,
+    /// which vertices within the tolerance of the plane can leave, bounds no segment and is
+    /// dropped.
+    void append_segments(ox_polygon& face, std::vector<section_segment>& segments);
+
+private:
+    void add_crossings();
+    void sort_crossings();
+
+    const section_plane plane;
+    ox_3dvector line; // the cut line's direction
+    std::vector<sided_vertex> contour;
+    std::vector<crossing> crossings;
+};
 
 /// Adds the crossings of one contour, given by its vertices in order.
-void add_crossings(const std::vector<sided_vertex>& contour, const section_plane& plane,
-                   const ox_3dvector& line, std::vector<crossing>& crossings) {
-    for (std::size_t i = 0; i < contour.size(); ++i) {
+void segment_finder::add_crossings() {
+    const std::size_t n = contour.size();
+    for (std::size_t i = 0; i < n; ++i) {
         const sided_vertex& a = contour[i];
-        const sided_vertex& b = contour[(i + 1) % contour.size()];
-        const sided_vertex& c = contour[(i + 2) % contour.size()];
+        const sided_vertex& b = contour[(i + 1) % n];
+        const sided_vertex& c = contour[(i + 2) % n];
         if (is_crossing(a, b, c)) {
             const ox_3dvector point = crossing_point(a, b, plane);
-            insert_sorted(crossings, {point, ox_dot(point - plane.point, line)});
+            crossings.push_back({point, ox_dot(point - plane.point, line)});
         }
     }
 }
 
-/// The crossings of all contours of a face, sorted along the cut line.
-std::vector<crossing> find_crossings(ox_polygon& face, const section_plane& plane) {
-    const ox_3dvector line = ox_cross(plane.normal, face.get_normal());
-    const ox_list<ox_3dvector>& vertices = face.get_contour_vertices();
-    std::vector<crossing> crossings;
-    std::vector<sided_vertex> contour;
-    int next = 0;
+/// Sorts the crossings by parameter; equal ones stay in the order of their arrival. A parameter
+/// that is not a number has no place among the others: then each crossing in turn goes before the
+/// first one that is greater.
+void segment_finder::sort_crossings() {
+    const auto is_number = [](const crossing& c) { return !std::isnan(c.parameter); };
+    if (std::all_of(crossings.begin(), crossings.end(), is_number)) {
+        std::stable_sort(
+            crossings.begin(), crossings.end(),
+            [](const crossing& a, const crossing& b) { return a.parameter < b.parameter; });
+        return;
+    }
+    for (auto added = crossings.begin(); added != crossings.end(); ++added) {
+        const float parameter = added->parameter;
+        const auto place = std::find_if(crossings.begin(), added, [&](const crossing& stored) {
+            return stored.parameter > parameter;
+        });
+        std::rotate(place, added, added + 1);
+    }
+}
+
+void segment_finder::append_segments(ox_polygon& face, std::vector<section_segment>& segments) {
+    line = ox_cross(plane.normal, face.get_normal());
+    crossings.clear();
+    const ox_3dvector* vertex = face.get_contour_vertices().get_data();
     for (const unsigned int size : face.get_contour_sizes()) {
         contour.clear();
-        for (unsigned int i = 0; i < size; ++i) {
-            contour.push_back(see_from_plane(vertices[next++], plane));
+        for (const ox_3dvector* const end = vertex + size; vertex != end; ++vertex) {
+            contour.push_back(see_from_plane(*vertex, plane));
         }
-        add_crossings(contour, plane, line, crossings);
+        add_crossings();
     }
-    return crossings;
-}
-
-/// Makes a working contour of each pair of crossings. An odd last one, which vertices within the
-/// tolerance of the plane can leave, bounds no segment and is dropped.
-void append_segments(const std::vector<crossing>& crossings,
-                     std::vector<ox_solid_contour>& contours) {
+    sort_crossings();
     for (std::size_t i = 0; i + 1 < crossings.size(); i += 2) {
-        ox_solid_contour segment;
-        segment.points.push_right(crossings[i].point);
-        segment.points.push_right(crossings[i + 1].point);
-        contours.push_back(std::move(segment));
-    }
-}
-
-std::vector<ox_solid_contour> find_segments(ox_solid& solid, const section_plane& plane) {
-    std::vector<ox_solid_contour> contours;
-    for (ox_polygon* face : solid.get_faces()) {
-        append_segments(find_crossings(*face, plane), contours);
-    }
-    return contours;
-}
-
-// Chaining
-
-bool is_open(const ox_solid_contour& contour) {
-    return !contour.closed && contour.points.size() > 0;
-}
-
-const ox_3dvector& first_point(const ox_solid_contour& contour) {
-    return contour.points[0];
-}
-
-const ox_3dvector& last_point(const ox_solid_contour& contour) {
-    return contour.points[contour.points.size() - 1];
-}
-
-/// The open chain after `chain` that begins nearest to its end, within the tolerance; of equally
-/// near ones the last. The number of chains when there is none.
-std::size_t find_continuation(const std::vector<ox_solid_contour>& contours, std::size_t chain,
-                              float tolerance) {
-    std::size_t found = contours.size();
-    float nearest = tolerance;
-    for (std::size_t i = chain + 1; i < contours.size(); ++i) {
-        if (!is_open(contours[i])) {
-            continue;
-        }
-        const float distance =
-            first_point(contours[i]).manhattan_distance_to(last_point(contours[chain]));
-        if (distance <= nearest) {
-            nearest = distance;
-            found = i;
-        }
-    }
-    return found;
-}
-
-/// Moves the points of `continuation` to the end of `chain`.
-void join(ox_solid_contour& chain, ox_solid_contour& continuation, float tolerance) {
-    for (const ox_3dvector& point : continuation.points) {
-        chain.points.push_right(point);
-    }
-    continuation.points.clear();
-    chain.closed = last_point(chain).manhattan_distance_to(first_point(chain)) <= tolerance;
-}
-
-/// Lets each open chain take one continuation. False when none found any.
-///
-/// Chains only leave the search, by closing or by being taken: one that found no continuation
-/// never will, and is not searched for again. So all passes together search at most twice per
-/// segment.
-bool join_pass(std::vector<ox_solid_contour>& contours, float tolerance) {
-    bool has_joined = false;
-    for (std::size_t chain = 0; chain < contours.size(); ++chain) {
-        if (!is_open(contours[chain]) || contours[chain].is_dead_end) {
-            continue;
-        }
-        const std::size_t continuation = find_continuation(contours, chain, tolerance);
-        if (continuation == contours.size()) {
-            contours[chain].is_dead_end = true;
-            continue;
-        }
-        join(contours[chain], contours[continuation], tolerance);
-        has_joined = true;
-    }
-    return has_joined;
-}
-
-void chain_segments(std::vector<ox_solid_contour>& contours, float tolerance) {
-    while (join_pass(contours, tolerance)) {
+        segments.emplace_back(crossings[i].point, crossings[i + 1].point);
     }
 }
 
 } // namespace
 
-std::unique_ptr<ox_polygon> plane_section(ox_solid& solid, const ox_3dvector& point,
-                                          const ox_3dvector& normal, float tolerance) {
-    std::vector<ox_solid_contour> contours = find_segments(solid, {point, normal, tolerance});
-    if (contours.empty()) {
+std::unique_ptr<ox_polygon> plane_section(const ox_list<ox_polygon*>& faces, const face_tree& tree,
+                                          const ox_3dvector& point, const ox_3dvector& normal,
+                                          float tolerance) {
+    segment_finder finder({point, normal, tolerance});
+    std::vector<section_segment> segments;
+    for (const int face : tree.find_faces_at(point, normal, tolerance)) {
+        finder.append_segments(*faces[face], segments);
+    }
+    if (segments.empty()) {
         return nullptr;
     }
-    chain_segments(contours, tolerance);
+    chain_segments(segments, tolerance);
     auto section = std::make_unique<ox_polygon>(point, normal);
-    for (const ox_solid_contour& contour : contours) {
-        section->add_contour(contour.points); // one that was taken is empty, and ignored
+    for (std::size_t i = 0; i < segments.size(); ++i) {
+        if (!segments[i].is_taken) {
+            section->add_contour(list_points(segments, i));
+        }
     }
     return section;
 }

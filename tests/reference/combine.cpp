@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstddef>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include <tests/reference/plane_section.h>
@@ -52,9 +53,17 @@ std::unique_ptr<ox_polygon> cut_for(ox_polygon& piece, ox_solid& solid, int kind
     return cut;
 }
 
-bool cut_own_faces(ox_solid& solid, ox_solid& other, int kind, polygons& kept) {
+std::string progress(const std::string& phase, std::size_t done, std::size_t count) {
+    return phase + " faces (" + std::to_string(done) + " / " + std::to_string(count) + ")\n";
+}
+
+bool cut_own_faces(ox_solid& solid, ox_solid& other, int kind, polygons& kept,
+                   std::string& printed) {
     bool changed = false;
+    std::size_t done = 0;
+    const std::size_t count = static_cast<std::size_t>(solid.get_faces().size());
     for (ox_polygon* face : solid.get_faces()) {
+        printed += progress("this", done++, count);
         const float a0 = face->get_area();
         auto piece = std::make_unique<ox_polygon>(*face);
         auto cut = cut_for(*piece, other, kind);
@@ -81,9 +90,13 @@ bool cut_own_faces(ox_solid& solid, ox_solid& other, int kind, polygons& kept) {
     return changed;
 }
 
-bool cut_other_faces(ox_solid& solid, ox_solid& other, int kind, polygons& kept) {
+bool cut_other_faces(ox_solid& solid, ox_solid& other, int kind, polygons& kept,
+                     std::string& printed) {
     bool changed = false;
+    std::size_t done = 0;
+    const std::size_t count = static_cast<std::size_t>(other.get_faces().size());
     for (ox_polygon* face : other.get_faces()) {
+        printed += progress("other", done++, count);
         auto piece = std::make_unique<ox_polygon>(*face);
         if (kind == mode_difference) {
             piece->reverse();
@@ -114,8 +127,9 @@ bool lie_in_one_plane(const ox_polygon& a, const ox_polygon& b) {
            std::fabs(ox::ox_dot(d, nb)) <= tolerance;
 }
 
-void merge(polygons& kept) {
+void merge(polygons& kept, std::string& printed) {
     for (std::size_t i = 0; i < kept.size(); ++i) {
+        printed += progress("merge", i, kept.size());
         for (std::size_t j = i + 1; kept[i] && j < kept.size(); ++j) {
             if (!kept[j] || !lie_in_one_plane(*kept[i], *kept[j])) {
                 continue;
@@ -124,6 +138,7 @@ void merge(polygons& kept) {
                 kept[i]->get_contour_vertices().size() + kept[j]->get_contour_vertices().size();
             kept[i]->unites(*kept[j]);
             if (kept[i]->get_contour_vertices().size() > before) {
+                printed += "Merge divergence for " + std::to_string(i) + "\n";
                 break;
             }
             kept[j].reset();
@@ -131,15 +146,16 @@ void merge(polygons& kept) {
     }
 }
 
-void combine(ox_solid& solid, ox_solid& other, int kind) {
+std::string combine(ox_solid& solid, ox_solid& other, int kind) {
+    std::string printed;
     polygons kept;
-    const bool own_changed = cut_own_faces(solid, other, kind, kept);
-    const bool other_changed = cut_other_faces(solid, other, kind, kept);
+    const bool own_changed = cut_own_faces(solid, other, kind, kept, printed);
+    const bool other_changed = cut_other_faces(solid, other, kind, kept, printed);
     if (!own_changed && !other_changed) {
-        return;
+        return printed;
     }
     if (kind == mode_union) {
-        merge(kept);
+        merge(kept, printed);
     }
     solid.clear();
     for (const auto& piece : kept) {
@@ -147,6 +163,7 @@ void combine(ox_solid& solid, ox_solid& other, int kind) {
             solid.add_face(*piece);
         }
     }
+    return printed + "done\n";
 }
 
 /// Appends the faces of `other` with their own vertices.
@@ -171,44 +188,46 @@ void concatenate(ox_solid& solid, const ox_solid& other) {
 
 } // namespace
 
-void unites(ox_solid& solid, ox_solid& other) {
+std::string unites(ox_solid& solid, ox_solid& other) {
     const ox_box other_box = other.get_bounding_box();
     if (other_box.is_empty()) {
-        return;
+        return "";
     }
     ox_box box = solid.get_bounding_box();
     if (box.is_empty()) {
         solid = other;
-        return;
+        return "";
     }
     box.origin -= ox_3dvector(0.01f, 0.01f, 0.01f);
     box.size += ox_3dvector(0.02f, 0.02f, 0.02f);
     if (are_separated(box, other_box)) {
         concatenate(solid, other);
     } else {
-        combine(solid, other, mode_union);
+        return combine(solid, other, mode_union);
     }
+    return "";
 }
 
-void substracts(ox_solid& solid, ox_solid& other) {
+std::string substracts(ox_solid& solid, ox_solid& other) {
     const ox_box box = solid.get_bounding_box();
     const ox_box other_box = other.get_bounding_box();
     if (!box.is_empty() && !other_box.is_empty() && !are_separated(box, other_box)) {
-        combine(solid, other, mode_difference);
+        return combine(solid, other, mode_difference);
     }
+    return "";
 }
 
-void intersects(ox_solid& solid, ox_solid& other) {
+std::string intersects(ox_solid& solid, ox_solid& other) {
     const ox_box box = solid.get_bounding_box();
     const ox_box other_box = other.get_bounding_box();
     if (box.is_empty()) {
-        return;
+        return "";
     }
     if (!other_box.is_empty() && !are_separated(box, other_box)) {
-        combine(solid, other, mode_intersection);
-    } else {
-        solid.clear();
+        return combine(solid, other, mode_intersection);
     }
+    solid.clear();
+    return "";
 }
 
 void clip(ox_solid& solid, const ox_3dvector& point, const ox_3dvector& normal) {

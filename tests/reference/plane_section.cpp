@@ -11,11 +11,6 @@ using ox::ox_3dvector;
 using ox::ox_list;
 using ox::ox_polygon;
 
-struct chain {
-    std::vector<ox_3dvector> points;
-    bool closed = false;
-};
-
 int side_of(float distance, float tolerance) {
     if (distance < -tolerance) {
         return -1;
@@ -109,6 +104,11 @@ bool join_once(std::vector<chain>& chains, float tolerance) {
 
 } // namespace
 
+void chain_segments(std::vector<chain>& chains, float tolerance) {
+    while (join_once(chains, tolerance)) {
+    }
+}
+
 std::unique_ptr<ox_polygon> plane_section(ox::ox_solid& solid, const ox_3dvector& point,
                                           const ox_3dvector& normal, float tolerance) {
     std::vector<chain> chains;
@@ -121,8 +121,7 @@ std::unique_ptr<ox_polygon> plane_section(ox::ox_solid& solid, const ox_3dvector
     if (chains.empty()) {
         return nullptr;
     }
-    while (join_once(chains, tolerance)) {
-    }
+    chain_segments(chains, tolerance);
     auto section = std::make_unique<ox_polygon>(point, normal);
     for (const chain& contour : chains) {
         ox_list<ox_3dvector> points;
@@ -132,6 +131,23 @@ std::unique_ptr<ox_polygon> plane_section(ox::ox_solid& solid, const ox_3dvector
         section->add_contour(points);
     }
     return section;
+}
+
+std::vector<std::unique_ptr<ox_polygon>> section_pieces(const ox_list<ox_polygon*>& faces,
+                                                        const ox_3dvector& point,
+                                                        const ox_3dvector& normal) {
+    ox::ox_solid solid;
+    for (ox_polygon* face : faces) {
+        solid.add_face(*face);
+    }
+    auto section = plane_section(solid, point, normal, 0.001f);
+    std::vector<std::unique_ptr<ox_polygon>> pieces;
+    if (section) {
+        for (ox_polygon* piece : section->split_to_polygons()) {
+            pieces.emplace_back(piece == section.get() ? section.release() : piece);
+        }
+    }
+    return pieces;
 }
 
 } // namespace reference

@@ -28,10 +28,8 @@ ox_solid brick_at(float x, float y, float z) {
 TEST(Uniting, BricksWithBoxesWithinTheMarginOfOneHundredthCombinesThem) {
     ox_solid solid = unit_brick();
     ox_solid near = brick_at(1.009f, 0, 0);
-    ox_polygon* face = solid.get_faces()[0];
     solid.unites(near);
     EXPECT_GT(solid.get_chrono(0), 0.0);
-    EXPECT_NE(solid.get_faces()[0], face);
     EXPECT_NEAR(volume_of(solid), 2.0, 1e-4);
 }
 

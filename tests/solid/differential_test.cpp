@@ -1,14 +1,13 @@
 // The booleans, sections and clips of random solids are compared with plain versions, bit for bit.
 
-#include <memory>
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 
 #include <ox/solid/ox_solid.h>
 #include <tests/reference/combine.h>
 #include <tests/reference/plane_section.h>
+#include <tests/solid/same_polygons.h>
 #include <tests/solid/solid_lists.h>
 #include <tests/support/random_shapes.h>
 
@@ -21,7 +20,7 @@ using ox::ox_solid;
 using support::generator;
 
 using boolean = void (ox_solid::*)(ox_solid&);
-using plain_boolean = void (*)(ox_solid&, ox_solid&);
+using plain_boolean = std::string (*)(ox_solid&, ox_solid&);
 
 struct boolean_pair {
     boolean fast;
@@ -100,38 +99,9 @@ void compare_booleans(shape make_shape, int rounds, std::uint64_t seed) {
     }
 }
 
-/// The plain section of a list of faces, as separate polygons.
-std::vector<std::unique_ptr<ox_polygon>> plain_section(const ox_3dvector& point,
-                                                       const ox_3dvector& normal,
-                                                       const ox_list<ox_polygon*>& faces) {
-    ox_solid solid;
-    for (ox_polygon* face : faces) {
-        solid.add_face(*face);
-    }
-    auto section = reference::plane_section(solid, point, normal, 0.001f);
-    std::vector<std::unique_ptr<ox_polygon>> pieces;
-    if (section) {
-        for (ox_polygon* piece : section->split_to_polygons()) {
-            pieces.emplace_back(piece == section.get() ? section.release() : piece);
-        }
-    }
-    return pieces;
-}
-
 void compare_section(ox_solid& solid, const ox_3dvector& point, const ox_3dvector& normal) {
-    const ox_list<ox_polygon*> pieces = solid.intersect_by_plane(point, normal);
-    const auto expected = plain_section(point, normal, solid.get_faces());
-    EXPECT_EQ(pieces.size(), static_cast<int>(expected.size()));
-    for (int i = 0; i < pieces.size(); ++i) {
-        const std::unique_ptr<ox_polygon> piece(pieces[i]);
-        if (i < static_cast<int>(expected.size())) {
-            ox_polygon& plain = *expected[static_cast<std::size_t>(i)];
-            EXPECT_TRUE(ox_test::have_same_bits(piece->get_contour_vertices(),
-                                                plain.get_contour_vertices()));
-            EXPECT_EQ(ox_test::to_vector(piece->get_contour_sizes()),
-                      ox_test::to_vector(plain.get_contour_sizes()));
-        }
-    }
+    ox_test::expect_same_pieces(solid.intersect_by_plane(point, normal),
+                                reference::section_pieces(solid.get_faces(), point, normal));
 }
 
 /// A plane of random direction through a random point, or along an axis through whole numbers, or

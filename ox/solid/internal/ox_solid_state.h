@@ -1,35 +1,20 @@
 #ifndef OX_SOLID_INTERNAL_OX_SOLID_STATE_H
 #define OX_SOLID_INTERNAL_OX_SOLID_STATE_H
 
+#include <memory>
+
 #include <ox/core/ox_chrono.h>
 #include <ox/core/ox_list.h>
 #include <ox/geometry/ox_3dvector.h>
 #include <ox/geometry/ox_box.h>
 #include <ox/polygon/ox_polygon.h>
+#include <ox/solid/internal/face_cache.h>
 #include <ox/solid/internal/half_edges.h>
 #include <ox/solid/internal/tolerances.h>
 
 namespace ox {
 
 class ox_solid;
-
-/// A list of polygons that it deletes with itself.
-class oxp_owned_polygons {
-public:
-    oxp_owned_polygons() = default;
-    oxp_owned_polygons(oxp_owned_polygons&& other) noexcept = default;
-    oxp_owned_polygons& operator=(oxp_owned_polygons&& other) noexcept;
-    ~oxp_owned_polygons();
-
-    /// Appends a new, empty polygon and returns it.
-    ox_polygon& add();
-
-    /// The polygons, in the order in which they were added.
-    const ox_list<ox_polygon*>& get_list() const { return list; }
-
-private:
-    ox_list<ox_polygon*> list;
-};
 
 /// Number of stopwatches of a solid.
 constexpr int solid_chrono_count = 8;
@@ -44,10 +29,19 @@ struct ox_solid_state {
     ~ox_solid_state();
 
     /// Drops all caches. The cached faces are handed to the caller, who may still be reading one.
-    oxp_owned_polygons invalidate();
+    face_cache invalidate();
 
     /// Number of vertices, 0 for a list with a negative count.
     unsigned int count_vertices() const;
+
+    /// Appends a polygon to the primary storage as faces, one per outer boundary, each followed by
+    /// the holes directly inside it; the caches are the caller's business. Returns the number of
+    /// faces. O(n + c) for n vertices in c contours.
+    int append_polygon(ox_polygon& polygon);
+
+    /// Whether the primary storage has a face at this place that is the only outer contour of
+    /// `polygon`, then its holes, with the same bits; moves the place behind them then. O(n).
+    bool holds_face(ox_polygon& polygon, storage_place& place) const;
 
     /// Empties the primary storage and frees its memory; the caches are the caller's business.
     void clear_primary_storage();
@@ -61,9 +55,10 @@ struct ox_solid_state {
 
     // Caches
     ox_box bounding_box;
-    oxp_owned_polygons faces;
+    face_cache faces;
     ox_list<ox_3dvector> tesselation_vertices;
     ox_list<unsigned int> tesselation_triangles;
+    std::unique_ptr<ox_solid_state> readded; ///< the solid made by adding the faces, for sections
 
     float tolerance = solid_tolerance;
 

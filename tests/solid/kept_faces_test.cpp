@@ -1,0 +1,192 @@
+// Booleans keep the polygons of faces that would come out as they are, and sections those of the
+// last one: chains of both are compared with plain versions that make every face anew.
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include <ox/solid/ox_solid.h>
+#include <tests/reference/combine.h>
+#include <tests/reference/plane_section.h>
+#include <tests/solid/same_polygons.h>
+#include <tests/solid/solid_lists.h>
+#include <tests/support/random_shapes.h>
+
+namespace {
+
+using ox::ox_3dvector;
+using ox::ox_list;
+using ox::ox_polygon;
+using ox::ox_solid;
+using support::generator;
+
+/// Expects the faces of a solid to be those of a copy, which makes them all anew.
+void expect_faces_of_a_copy(ox_solid& solid) {
+    ox_solid copy(solid);
+    const ox_list<ox_polygon*>& faces = solid.get_faces();
+    const ox_list<ox_polygon*>& expected = copy.get_faces();
+    ASSERT_EQ(faces.size(), expected.size());
+    for (int i = 0; i < faces.size(); ++i) {
+        ox_test::expect_same_polygon(*faces[i], *expected[i]);
+    }
+}
+
+void compare_section(ox_solid& fast, ox_solid& plain, const ox_3dvector& point,
+                     const ox_3dvector& normal) {
+    ox_test::expect_same_pieces(fast.intersect_by_plane(point, normal),
+                                reference::section_pieces(plain.get_faces(), point, normal));
+}
+
+/// What random walls are made of.
+struct site {
+    float scale;        // model units per step of the lattice
+    ox_3dvector offset; // of the lattice's origin
+    support::frame axes;
+
+    ox_solid brick(float x, float y, float z, float dx, float dy, float dz) const {
+        ox_solid solid;
+        solid.brick(offset + (axes.x * x + axes.y * y + axes.z * z) * scale, axes.x * (dx * scale),
+                    axes.y * (dy * scale), axes.z * (dz * scale));
+        return solid;
+    }
+};
+
+site any_site(generator& random) {
+    static const float scales[] = {1.0f, 1.0f, 1.0f, 0.01f, 0.001f, 100.0f};
+    site made;
+    made.scale = scales[random.between(0, 5)];
+    if (random.one_in(3)) {
+        made.offset = support::random_point(random, random.one_in(2) ? 20.0 : 5000.0);
+    }
+    if (random.one_in(3)) {
+        made.axes = support::random_frame(random);
+    }
+    return made;
+}
+
+/// A tool on the lattice of a wall that is 12 long, 0.3 thick and 4 high: an opening that goes
+/// through, a niche, or one that is flush with the wall. Tools often touch or overlap.
+ox_solid any_tool(generator& random, const site& place) {
+    static const float starts[] = {-0.1f, 0.15f, 0.0f};
+    static const float depths[] = {0.5f, 0.5f, 0.3f};
+    const int kind = random.between(0, 2);
+    const float x = 0.5f * static_cast<float>(random.between(-1, 22));
+    const float z = 0.5f * static_cast<float>(random.between(-1, 6));
+    const float dx = 0.5f * static_cast<float>(random.between(1, 4));
+    const float dz = 0.5f * static_cast<float>(random.between(1, 4));
+    return place.brick(x, starts[kind], z, dx, depths[kind], dz);
+}
+
+/// Combines both solids with the tool, and compares what is printed.
+void combine_both(generator& random, ox_solid& fast, ox_solid& plain, ox_solid& tool) {
+    const int operation = random.between(0, 9);
+    std::string expected;
+    testing::internal::CaptureStdout();
+    fast.set_verbose(true);
+    if (operation < 7) {
+        fast.substracts(tool);
+        expected = reference::substracts(plain, tool);
+    } else if (operation < 9) {
+        fast.unites(tool);
+        expected = reference::unites(plain, tool);
+    } else {
+        fast.intersects(tool);
+        expected = reference::intersects(plain, tool);
+    }
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), expected);
+}
+
+/// Changes a face that both solids show to their callers.
+void change_face(generator& random, ox_solid& fast, ox_solid& plain) {
+    if (fast.get_faces().size() == 0 || plain.get_faces().size() != fast.get_faces().size()) {
+        return;
+    }
+    const int i = random.between(0, fast.get_faces().size() - 1);
+    const int change = random.between(0, 3);
+    const ox_3dvector somewhere = support::random_point(random, 5.0);
+    for (ox_polygon* face : {fast.get_faces()[i], plain.get_faces()[i]}) {
+        if (change == 0) {
+            face->reverse();
+        } else if (change == 1) {
+            face->set_point(somewhere);
+        } else if (change == 2) {
+            face->set_normal(somewhere);
+        } else {
+            face->offset(0.125f, ox_polygon::join_miter);
+        }
+    }
+}
+
+/// Random booleans and sections of a wall, one after another.
+void compare_walls(int rounds, std::uint64_t seed, bool are_faces_changed) {
+    generator random(seed);
+    for (int round = 0; round < rounds; ++round) {
+        SCOPED_TRACE("seed " + std::to_string(seed) + ", round " + std::to_string(round));
+        const site place = any_site(random);
+        ox_solid fast = place.brick(0.0f, 0.0f, 0.0f, 12.0f, 0.3f, 4.0f);
+        ox_solid plain(fast);
+        for (int step = 0; step < 10; ++step) {
+            ox_solid tool = any_tool(random, place);
+            combine_both(random, fast, plain, tool);
+            ox_test::expect_same_storage(fast, plain);
+            if (random.one_in(2)) {
+                const float height = 0.25f * static_cast<float>(random.between(0, 17));
+                const ox_3dvector& normal = random.one_in(4) ? place.axes.x : place.axes.z;
+                const ox_3dvector point = place.offset + normal * (height * place.scale);
+                compare_section(fast, plain, point, normal);
+            }
+            if (are_faces_changed && random.one_in(4)) {
+                change_face(random, fast, plain);
+            }
+            if (testing::Test::HasFailure()) {
+                return;
+            }
+        }
+        if (!are_faces_changed) {
+            expect_faces_of_a_copy(fast);
+        }
+    }
+}
+
+TEST(KeptFaces, OfWallsWithOpeningsGiveThePlainResults) {
+    compare_walls(800, 1, false);
+}
+
+TEST(KeptFaces, ThatTheirCallerChangedGiveThePlainResults) {
+    compare_walls(400, 2, true);
+}
+
+TEST(KeptFaces, OfASolidThatOthersAreAppendedToGiveThePlainResults) {
+    ox_solid fast = ox_test::unit_brick();
+    ox_solid plain(fast);
+    for (int i = 1; i < 20; ++i) {
+        ox_solid tool = support::brick_between(ox_3dvector(2.0f * static_cast<float>(i), 0, 0),
+                                               ox_3dvector(2.0f * static_cast<float>(i) + 1, 1, 1));
+        fast.unites(tool);
+        reference::unites(plain, tool);
+        EXPECT_TRUE(ox_test::have_same_bits(fast.get_bounding_box().origin,
+                                            plain.get_bounding_box().origin));
+        EXPECT_TRUE(
+            ox_test::have_same_bits(fast.get_bounding_box().size, plain.get_bounding_box().size));
+    }
+    ox_test::expect_same_storage(fast, plain);
+    expect_faces_of_a_copy(fast);
+}
+
+TEST(KeptFaces, StayWhereTheSolidIsSectionedAgainAndAgain) {
+    ox_solid solid = ox_test::unit_brick();
+    solid.get_faces();
+    const ox_3dvector up(0.0f, 0.0f, 1.0f);
+    for (int i = 0; i < 3; ++i) {
+        const int before = ox_polygon::get_instanced();
+        for (ox_polygon* piece : solid.intersect_by_plane(ox_3dvector(0.0f, 0.0f, 0.5f), up)) {
+            EXPECT_FLOAT_EQ(piece->get_area(), 1.0f);
+            delete piece;
+        }
+        if (i > 0) {
+            EXPECT_EQ(ox_polygon::get_instanced(), before);
+        }
+    }
+}
+
+} // namespace

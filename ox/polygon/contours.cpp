@@ -52,8 +52,8 @@ plane_source take_plane_of(ox_polygon_data& polygon, const ox_3dvector* contour,
     }
     polygon.normal.normalize();
     polygon.normal.build_axis(polygon.dx, polygon.dy);
-    ClipperLib::Path path;
-    if (!contour_to_grid(polygon, contour, size, path)) {
+    ClipperLib::Path path(size);
+    if (!contour_to_grid(polygon, contour, size, path.data())) {
         return plane_source::outside_grid;
     }
     if (!ClipperLib::Orientation(path)) {
@@ -104,12 +104,10 @@ void replace_by_pending_triangle(ox_polygon_data& polygon) {
 }
 
 void unite_with_pending(ox_polygon_data& polygon) {
-    ClipperLib::Paths paths;
-    contours_to_grid(polygon, polygon.contour_vertices, polygon.contour_sizes, paths);
-    contours_to_grid(polygon, polygon.pending_vertices, polygon.pending_sizes, paths);
-    ClipperLib::PolyTree tree;
-    clip_paths(ClipperLib::ctUnion, paths, ClipperLib::Paths(), tree);
-    rebuild_contours(polygon, tree);
+    grid_contours contours;
+    contours.append(polygon, polygon.contour_vertices, polygon.contour_sizes);
+    contours.append(polygon, polygon.pending_vertices, polygon.pending_sizes);
+    combine_on_grid(polygon, ClipperLib::ctUnion, contours, grid_contours());
     drop_pending(polygon);
 }
 

@@ -1,8 +1,9 @@
 #include <ox/polygon/internal/integer_grid.h>
 
-#include <utility>
-#include <vector>
+#include <algorithm>
 
+#include <ox/polygon/internal/contour_lists.h>
+#include <ox/polygon/internal/separate_contours.h>
 #include <ox/polygon/internal/tolerances.h>
 
 namespace ox {
@@ -36,60 +37,105 @@ void push_children(node_stack& stack, const ClipperLib::PolyNode& node, int pare
     }
 }
 
-// The four lists of normalised contours, gathered aside: a failed allocation leaves those of the
-// polygon as they are.
-struct contour_lists {
-    ox_list<ox_3dvector> vertices;
-    ox_list<unsigned int> sizes;
-    ox_list<bool> orientations;
-    ox_list<int> parents;
+void write_contour(const ox_polygon_data& plane, const pending_node& visited,
+                   contour_lists& lists) {
+    const ClipperLib::Path& path = visited.node->Contour;
+    lists.begin_contour(path.size(), visited.hole, visited.parent);
+    for (const ClipperLib::IntPoint& p : path) {
+        lists.append(plane, p);
+    }
+}
 
-    void append(const ox_polygon_data& plane, const pending_node& visited) {
-        const ClipperLib::Path& path = visited.node->Contour;
-        sizes.push_right(static_cast<unsigned int>(path.size()));
-        orientations.push_right(!visited.hole);
-        parents.push_right(visited.parent);
-        for (const ClipperLib::IntPoint& p : path) {
-            vertices.push_right(grid_to_plane(plane, p));
+// Whether a contour is a hole follows from its depth alone: top-level contours are outer
+// boundaries, and every level down turns the kind over. Carrying it saves a climb to the root for
+// every contour.
+void write_contours(const ox_polygon_data& plane, const ClipperLib::PolyTree& tree,
+                    contour_lists& lists) {
+    node_stack stack;
+    push_children(stack, tree, -1, false);
+    while (!stack.empty()) {
+        const pending_node visited = stack.back();
+        stack.pop_back();
+        int parent = visited.parent;
+        if (!visited.node->Contour.empty()) {
+            parent = lists.count();
+            write_contour(plane, visited, lists);
         }
+        push_children(stack, *visited.node, parent, !visited.hole);
     }
+}
 
-    void move_to(ox_polygon_data& polygon) {
-        polygon.contour_vertices = std::move(vertices);
-        polygon.contour_sizes = std::move(sizes);
-        polygon.contour_orientations = std::move(orientations);
-        polygon.contour_parents = std::move(parents);
+// Visits the contours of the tree in no particular order.
+contour_lists lists_for(const ClipperLib::PolyTree& tree) {
+    std::size_t contours = 0;
+    std::size_t vertices = 0;
+    std::vector<const ClipperLib::PolyNode*> stack{&tree};
+    while (!stack.empty()) {
+        const ClipperLib::PolyNode& node = *stack.back();
+        stack.pop_back();
+        contours += node.Contour.empty() ? 0 : 1;
+        vertices += node.Contour.size();
+        stack.insert(stack.end(), node.Childs.begin(), node.Childs.end());
     }
-};
+    return contour_lists(contours, vertices);
+}
+
+void add_paths(ClipperLib::Clipper& clipper, const grid_contours& contours,
+               ClipperLib::PolyType group) {
+    ClipperLib::Path path;
+    for (std::size_t i = 0; i < contours.count(); ++i) {
+        path.assign(contours.begin(i), contours.begin(i) + contours.size(i));
+        clipper.AddPath(path, group, true);
+    }
+}
+
+// The tree is empty when the clipping library fails.
+void clip_contours(ClipperLib::ClipType operation, const grid_contours& subjects,
+                   const grid_contours& clips, ClipperLib::PolyTree& tree) {
+    try {
+        ClipperLib::Clipper clipper;
+        add_paths(clipper, subjects, ClipperLib::ptSubject);
+        add_paths(clipper, clips, ClipperLib::ptClip);
+        clipper.Execute(operation, tree, ClipperLib::pftEvenOdd, ClipperLib::pftEvenOdd);
+    } catch (const ClipperLib::clipperException&) {
+        tree.Clear();
+    }
+}
 
 } // namespace
 
-bool contour_to_grid(const ox_polygon_data& plane, const ox_3dvector* vertices, unsigned int size,
-                     ClipperLib::Path& path) {
-    path.clear();
-    path.reserve(size);
-    for (unsigned int i = 0; i < size; ++i) {
-        const ox_3dvector offset = vertices[i] - plane.point;
-        ClipperLib::IntPoint p;
-        if (!to_grid_unit(ox_dot(offset, plane.dx), p.X) ||
-            !to_grid_unit(ox_dot(offset, plane.dy), p.Y)) {
-            return false;
-        }
-        path.push_back(p);
-    }
-    return true;
-}
-
-void contours_to_grid(const ox_polygon_data& plane, const ox_list<ox_3dvector>& vertices,
-                      const ox_list<unsigned int>& sizes, ClipperLib::Paths& paths) {
+void grid_contours::append(const ox_polygon_data& plane, const ox_list<ox_3dvector>& vertices,
+                           const ox_list<unsigned int>& sizes) {
+    std::size_t end = points.size();
+    points.resize(end + static_cast<std::size_t>(std::max(vertices.size(), 0)));
+    ends.reserve(ends.size() + static_cast<std::size_t>(std::max(sizes.size(), 0)));
     const ox_3dvector* contour = vertices.get_data();
-    ClipperLib::Path path;
     for (const unsigned int size : sizes) {
-        if (contour_to_grid(plane, contour, size, path)) {
-            paths.push_back(path);
+        if (contour_to_grid(plane, contour, size, points.data() + end)) {
+            end += size;
+            ends.push_back(end);
         }
         contour += size;
     }
+    points.resize(end);
+}
+
+void grid_contours::reverse_each() {
+    for (std::size_t i = 0; i < count(); ++i) {
+        std::reverse(begin(i), begin(i) + size(i));
+    }
+}
+
+bool contour_to_grid(const ox_polygon_data& plane, const ox_3dvector* vertices, std::size_t size,
+                     ClipperLib::IntPoint* points) {
+    for (std::size_t i = 0; i < size; ++i) {
+        const ox_3dvector offset = vertices[i] - plane.point;
+        if (!to_grid_unit(ox_dot(offset, plane.dx), points[i].X) ||
+            !to_grid_unit(ox_dot(offset, plane.dy), points[i].Y)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 ox_3dvector grid_to_plane(const ox_polygon_data& plane, const ClipperLib::IntPoint& p) {
@@ -98,42 +144,22 @@ ox_3dvector grid_to_plane(const ox_polygon_data& plane, const ClipperLib::IntPoi
     return plane.point + u * plane.dx + v * plane.dy;
 }
 
-// Whether a contour is a hole follows from its depth alone: top-level contours are outer
-// boundaries, and every level down turns the kind over. Carrying it saves a climb to the root for
-// every contour.
 void rebuild_contours(ox_polygon_data& polygon, const ClipperLib::PolyTree& tree) {
-    contour_lists made;
-    node_stack stack;
-    push_children(stack, tree, -1, false);
-    while (!stack.empty()) {
-        const pending_node visited = stack.back();
-        stack.pop_back();
-        int parent = visited.parent;
-        if (!visited.node->Contour.empty()) {
-            parent = made.sizes.size();
-            made.append(polygon, visited);
-        }
-        push_children(stack, *visited.node, parent, !visited.hole);
-    }
+    contour_lists made = lists_for(tree);
+    write_contours(polygon, tree, made);
     made.move_to(polygon);
-    polygon.forget_derived();
-    polygon.drop_region_unless_finite();
 }
 
-void clip_paths(ClipperLib::ClipType operation, const ClipperLib::Paths& subjects,
-                const ClipperLib::Paths& clips, ClipperLib::PolyTree& tree) {
-    try {
-        ClipperLib::Clipper clipper;
-        for (const ClipperLib::Path& path : subjects) {
-            clipper.AddPath(path, ClipperLib::ptSubject, true);
-        }
-        for (const ClipperLib::Path& path : clips) {
-            clipper.AddPath(path, ClipperLib::ptClip, true);
-        }
-        clipper.Execute(operation, tree, ClipperLib::pftEvenOdd, ClipperLib::pftEvenOdd);
-    } catch (const ClipperLib::clipperException&) {
-        tree.Clear();
+void combine_on_grid(ox_polygon_data& polygon, ClipperLib::ClipType operation,
+                     const grid_contours& subjects, const grid_contours& clips) {
+    contour_lists made;
+    if (combine_separate_contours(polygon, operation, subjects, clips, made)) {
+        made.move_to(polygon);
+        return;
     }
+    ClipperLib::PolyTree tree;
+    clip_contours(operation, subjects, clips, tree);
+    rebuild_contours(polygon, tree);
 }
 
 } // namespace ox

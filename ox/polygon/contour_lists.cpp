@@ -21,6 +21,16 @@ void contour_lists::append(const ox_polygon_data& plane, const ClipperLib::IntPo
     vertices[points++] = grid_to_plane(plane, p);
 }
 
+void contour_lists::append(const ox_polygon_data& plane, const monotone_contour& contour, bool hole,
+                           int parent) {
+    const std::size_t last = contour.size - 1;
+    begin_contour(contour.size, hole, parent);
+    for (std::size_t i = 0; i < last; ++i) {
+        append(plane, contour.points[hole ? last - 1 - i : i]);
+    }
+    append(plane, contour.points[last]);
+}
+
 void contour_lists::move_to(ox_polygon_data& polygon) {
     polygon.contour_vertices = std::move(vertices);
     polygon.contour_sizes = std::move(sizes);

@@ -17,7 +17,6 @@ namespace ox {
 namespace {
 
 using ClipperLib::cInt;
-using ClipperLib::IntPoint;
 
 constexpr int none = -1;
 
@@ -215,17 +214,6 @@ void link_contours(separate_contour_list& contours, const std::vector<int>& orde
     }
 }
 
-void write_contour(const ox_polygon_data& plane, const separate_contour& contour, int parent,
-                   contour_lists& lists) {
-    const IntPoint* points = contour.shape.points;
-    const std::size_t last = contour.shape.size - 1;
-    lists.begin_contour(contour.shape.size, contour.hole, parent);
-    for (std::size_t i = 0; i < last; ++i) {
-        lists.append(plane, points[contour.hole ? last - 1 - i : i]);
-    }
-    lists.append(plane, points[last]);
-}
-
 // Depth first, without recursion.
 void write_contours(const ox_polygon_data& plane, const separate_contour_list& contours,
                     const separate_contour& top, contour_lists& lists) {
@@ -239,7 +227,7 @@ void write_contours(const ox_polygon_data& plane, const separate_contour_list& c
         const separate_contour& contour = contours[static_cast<std::size_t>(index)];
         pending.emplace_back(contour.next_beside, parent);
         pending.emplace_back(contour.first_inside, lists.count());
-        write_contour(plane, contour, parent, lists);
+        lists.append(plane, contour.shape, contour.hole, parent);
     }
 }
 

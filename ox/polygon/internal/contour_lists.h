@@ -7,6 +7,7 @@
 
 #include <ox/core/ox_list.h>
 #include <ox/geometry/ox_3dvector.h>
+#include <ox/polygon/internal/monotone_contour.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
 
 namespace ox {
@@ -28,6 +29,10 @@ public:
 
     /// Appends the point of the plane that belongs to a grid point.
     void append(const ox_polygon_data& plane, const ClipperLib::IntPoint& p);
+
+    /// Appends a whole contour as the clipping library hands it out.
+    void append(const ox_polygon_data& plane, const monotone_contour& contour, bool hole,
+                int parent);
 
     /// Replaces the normalised contours of `polygon`.
     void move_to(ox_polygon_data& polygon);

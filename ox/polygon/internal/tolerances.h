@@ -42,6 +42,17 @@ constexpr long long farthest_monotone_coordinate = 1LL << 29;
 /// coordinate; taken generously.
 constexpr double area_rounding = 1.0 / static_cast<double>(1LL << 48);
 
+// Triangles known beforehand
+
+/// The error of a fan triangle's normal along that of the plane, relative to the two sides and the
+/// plane's normal; the tessellator computes it in doubles, and takes its sign. Taken generously.
+constexpr double fan_rounding = 1.0 / static_cast<double>(1LL << 40);
+
+/// Relative to the extent of a contour: distances in the direction of the tessellator's sweep
+/// above it are certain, and so are triangles (relative to the square). What it computes from
+/// both in doubles is right to 2^-50 of the extent, and compared where it differs by 2^-40.
+constexpr double sweep_clearance = 1.0 / static_cast<double>(1LL << 20);
+
 // Offset
 
 /// A mitred corner reaches at most this many distances from its vertex; so does no other join.

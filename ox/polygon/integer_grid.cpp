@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include <ox/polygon/internal/contour_lists.h>
+#include <ox/polygon/internal/contour_tree.h>
+#include <ox/polygon/internal/rectilinear_pattern.h>
 #include <ox/polygon/internal/separate_contours.h>
 #include <ox/polygon/internal/tolerances.h>
 
@@ -19,65 +21,6 @@ bool to_grid_unit(float coordinate, ClipperLib::cInt& unit) {
     }
     unit = static_cast<ClipperLib::cInt>(shifted);
     return true;
-}
-
-// A node of the tree that is still to be visited.
-struct pending_node {
-    const ClipperLib::PolyNode* node;
-    int parent; // index of the contour around it
-    bool hole;
-};
-
-using node_stack = std::vector<pending_node>;
-
-// Pushed last to first, so that the first child is visited next.
-void push_children(node_stack& stack, const ClipperLib::PolyNode& node, int parent, bool hole) {
-    for (auto child = node.Childs.rbegin(); child != node.Childs.rend(); ++child) {
-        stack.push_back({*child, parent, hole});
-    }
-}
-
-void write_contour(const ox_polygon_data& plane, const pending_node& visited,
-                   contour_lists& lists) {
-    const ClipperLib::Path& path = visited.node->Contour;
-    lists.begin_contour(path.size(), visited.hole, visited.parent);
-    for (const ClipperLib::IntPoint& p : path) {
-        lists.append(plane, p);
-    }
-}
-
-// Whether a contour is a hole follows from its depth alone: top-level contours are outer
-// boundaries, and every level down turns the kind over. Carrying it saves a climb to the root for
-// every contour.
-void write_contours(const ox_polygon_data& plane, const ClipperLib::PolyTree& tree,
-                    contour_lists& lists) {
-    node_stack stack;
-    push_children(stack, tree, -1, false);
-    while (!stack.empty()) {
-        const pending_node visited = stack.back();
-        stack.pop_back();
-        int parent = visited.parent;
-        if (!visited.node->Contour.empty()) {
-            parent = lists.count();
-            write_contour(plane, visited, lists);
-        }
-        push_children(stack, *visited.node, parent, !visited.hole);
-    }
-}
-
-// Visits the contours of the tree in no particular order.
-contour_lists lists_for(const ClipperLib::PolyTree& tree) {
-    std::size_t contours = 0;
-    std::size_t vertices = 0;
-    std::vector<const ClipperLib::PolyNode*> stack{&tree};
-    while (!stack.empty()) {
-        const ClipperLib::PolyNode& node = *stack.back();
-        stack.pop_back();
-        contours += node.Contour.empty() ? 0 : 1;
-        vertices += node.Contour.size();
-        stack.insert(stack.end(), node.Childs.begin(), node.Childs.end());
-    }
-    return contour_lists(contours, vertices);
 }
 
 void add_paths(ClipperLib::Clipper& clipper, const grid_contours& contours,
@@ -145,8 +88,19 @@ ox_3dvector grid_to_plane(const ox_polygon_data& plane, const ClipperLib::IntPoi
 }
 
 void rebuild_contours(ox_polygon_data& polygon, const ClipperLib::PolyTree& tree) {
-    contour_lists made = lists_for(tree);
-    write_contours(polygon, tree, made);
+    std::size_t contours = 0;
+    std::size_t vertices = 0;
+    visit_contours(tree, [&](const ClipperLib::Path& path, bool, int) {
+        ++contours;
+        vertices += path.size();
+    });
+    contour_lists made(contours, vertices);
+    visit_contours(tree, [&](const ClipperLib::Path& path, bool hole, int parent) {
+        made.begin_contour(path.size(), hole, parent);
+        for (const ClipperLib::IntPoint& p : path) {
+            made.append(polygon, p);
+        }
+    });
     made.move_to(polygon);
 }
 
@@ -157,9 +111,20 @@ void combine_on_grid(ox_polygon_data& polygon, ClipperLib::ClipType operation,
         made.move_to(polygon);
         return;
     }
+    const rectilinear_arrangement arrangement(operation, subjects, clips);
+    const bool has_pattern = arrangement.is_known_by_ranks();
+    const rectilinear_pattern* known =
+        has_pattern ? find_rectilinear_pattern(arrangement) : nullptr;
+    if (known != nullptr) {
+        known->apply(polygon, arrangement).move_to(polygon);
+        return;
+    }
     ClipperLib::PolyTree tree;
     clip_contours(operation, subjects, clips, tree);
     rebuild_contours(polygon, tree);
+    if (has_pattern) {
+        keep_rectilinear_pattern(arrangement, tree);
+    }
 }
 
 } // namespace ox

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <map>
+#include <memory_resource>
 #include <utility>
 
 #include <ox/polygon/internal/monotone_contour.h>
@@ -45,78 +46,69 @@ void add_contours(const grid_contours& group, bool clip, separate_contour_list& 
     }
 }
 
-std::vector<int> sorted_by(const separate_contour_list& contours,
-                           cInt (*key)(const separate_contour&)) {
-    std::vector<std::pair<cInt, int>> keys;
-    keys.reserve(contours.size());
+/// A level and the contour that begins or ends there.
+using contour_level = std::pair<cInt, int>;
+
+std::vector<contour_level> levels_of(const separate_contour_list& contours,
+                                     cInt (*level)(const separate_contour&)) {
+    std::vector<contour_level> levels;
+    levels.reserve(contours.size());
     for (const separate_contour& contour : contours) {
-        keys.emplace_back(key(contour), static_cast<int>(keys.size()));
+        levels.emplace_back(level(contour), static_cast<int>(levels.size()));
     }
-    std::sort(keys.begin(), keys.end());
-    std::vector<int> order;
-    order.reserve(keys.size());
-    for (const std::pair<cInt, int>& entry : keys) {
-        order.push_back(entry.second);
-    }
-    return order;
+    return levels;
 }
 
-// The boxes at one level, by the x of their sides. They are nested or apart, so the side before
-// a place tells the innermost box around it.
+// The boxes at one level by their left sides. They are nested or apart, so those around a place are
+// the one that begins before it, as far as it reaches, and those around that one.
 class level_of_boxes {
 public:
-    explicit level_of_boxes(separate_contour_list& placed) : contours(placed) {}
+    level_of_boxes(separate_contour_list& placed, std::pmr::memory_resource& memory)
+        : contours(placed), boxes(&memory) {}
 
     /// Adds a box that begins at this level. False when it overlaps or touches another.
     bool add(int index) {
-        const grid_box& box = contour(index).box;
-        const auto after = sides.lower_bound(box.low.X);
-        if (after != sides.end() && after->first <= box.high.X) {
+        separate_contour& added = contour(index);
+        const auto after = boxes.lower_bound(added.box.low.X);
+        if (after != boxes.end() && after->first <= added.box.high.X) {
             return false;
         }
-        const int around = after == sides.begin() ? none : box_after(std::prev(after)->second);
-        if (around != none &&
-            (contour(around).box.high.Y <= box.high.Y || contour(around).box.low.Y >= box.low.Y)) {
-            return false;
+        added.around = after == boxes.begin() ? none : std::prev(after)->second;
+        while (added.around != none && contour(added.around).box.high.X < added.box.low.X) {
+            added.around = contour(added.around).around;
         }
-        contour(index).around = around;
-        sides.emplace_hint(after, box.low.X, side{index, true});
-        return sides.emplace(box.high.X, side{index, false}).second;
+        boxes.emplace_hint(after, added.box.low.X, index);
+        return added.around == none || lies_inside(added.box, contour(added.around).box);
     }
 
-    void remove(int index) {
-        sides.erase(contour(index).box.low.X);
-        sides.erase(contour(index).box.high.X);
-    }
+    void remove(int index) { boxes.erase(contour(index).box.low.X); }
 
 private:
-    struct side {
-        int contour;
-        bool left;
-    };
+    // Of a box that begins to the right of another.
+    static bool lies_inside(const grid_box& inner, const grid_box& outer) {
+        return inner.high.X < outer.high.X && inner.low.Y > outer.low.Y &&
+               inner.high.Y < outer.high.Y;
+    }
 
     separate_contour& contour(int index) { return contours[static_cast<std::size_t>(index)]; }
 
-    int box_after(const side& before) {
-        return before.left ? before.contour : contour(before.contour).around;
-    }
-
     separate_contour_list& contours;
-    std::map<cInt, side> sides;
+    std::pmr::map<cInt, int> boxes;
 };
 
-// Finds the box directly around each. `order` is by the lowest level.
-bool nest_boxes(separate_contour_list& contours, const std::vector<int>& order) {
-    const std::vector<int> by_end =
-        sorted_by(contours, [](const separate_contour& c) { return c.box.high.Y; });
-    level_of_boxes level(contours);
-    auto ended = by_end.begin();
-    for (const int index : order) {
-        const cInt y = contours[static_cast<std::size_t>(index)].box.low.Y;
-        for (; contours[static_cast<std::size_t>(*ended)].box.high.Y < y; ++ended) {
-            level.remove(*ended);
+// Finds the box directly around each. `begins` are the lowest levels in their order.
+bool nest_boxes(separate_contour_list& contours, const std::vector<contour_level>& begins) {
+    std::vector<contour_level> ends =
+        levels_of(contours, [](const separate_contour& c) { return c.box.high.Y; });
+    std::sort(ends.begin(), ends.end());
+    std::pmr::monotonic_buffer_resource memory;
+    level_of_boxes level(contours, memory);
+    auto ended = ends.begin();
+    for (const contour_level& begin : begins) {
+        for (; ended->first < begin.first; ++ended) {
+            level.remove(ended->second);
         }
-        if (!level.add(index)) {
+        if (!level.add(begin.second)) {
             return false;
         }
     }
@@ -155,11 +147,12 @@ bool bounds_result(const separate_contour& contour, ClipperLib::ClipType operati
 
 // What lies around each contour; `order` has those around before those inside. Returns the
 // contours that bound the result.
-std::vector<bool> place_contours(separate_contour_list& contours, const std::vector<int>& order,
+std::vector<bool> place_contours(separate_contour_list& contours,
+                                 const std::vector<contour_level>& order,
                                  ClipperLib::ClipType operation) {
     std::vector<bool> kept(contours.size());
-    for (const int index : order) {
-        const std::size_t i = static_cast<std::size_t>(index);
+    for (const contour_level& begin : order) {
+        const std::size_t i = static_cast<std::size_t>(begin.second);
         separate_contour& contour = contours[i];
         if (contour.around != none) {
             const std::size_t around = static_cast<std::size_t>(contour.around);
@@ -180,17 +173,13 @@ std::vector<bool> place_contours(separate_contour_list& contours, const std::vec
 // sequence: then contours of one level come out in the same order, too.
 std::vector<int> kept_in_sweep_order(const separate_contour_list& contours,
                                      const std::vector<bool>& kept) {
-    std::vector<std::pair<cInt, int>> levels;
-    levels.reserve(contours.size());
-    for (const separate_contour& contour : contours) {
-        levels.emplace_back(contour.box.high.Y, static_cast<int>(levels.size()));
-    }
+    std::vector<contour_level> levels =
+        levels_of(contours, [](const separate_contour& c) { return c.box.high.Y; });
     std::sort(levels.begin(), levels.end(),
-              [](const std::pair<cInt, int>& a, const std::pair<cInt, int>& b) {
-                  return b.first < a.first;
-              });
+              [](const contour_level& a, const contour_level& b) { return b.first < a.first; });
     std::vector<int> order;
-    for (const std::pair<cInt, int>& level : levels) {
+    order.reserve(levels.size());
+    for (const contour_level& level : levels) {
         if (kept[static_cast<std::size_t>(level.second)]) {
             order.push_back(level.second);
         }
@@ -240,8 +229,9 @@ bool combine_separate_contours(const ox_polygon_data& plane, ClipperLib::ClipTyp
     contours.reserve(subjects.count() + clips.count());
     add_contours(subjects, false, contours);
     add_contours(clips, true, contours);
-    const std::vector<int> upwards =
-        sorted_by(contours, [](const separate_contour& c) { return c.box.low.Y; });
+    std::vector<contour_level> upwards =
+        levels_of(contours, [](const separate_contour& c) { return c.box.low.Y; });
+    std::sort(upwards.begin(), upwards.end());
     if (!nest_boxes(contours, upwards)) {
         return false;
     }

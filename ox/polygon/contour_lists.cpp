@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include <ox/polygon/internal/integer_grid.h>
-
 namespace ox {
 
 contour_lists::contour_lists(std::size_t contour_count, std::size_t vertex_count)
@@ -15,10 +13,6 @@ void contour_lists::begin_contour(std::size_t size, bool hole, int parent) {
     orientations[contours] = !hole;
     parents[contours] = parent;
     ++contours;
-}
-
-void contour_lists::append(const ox_polygon_data& plane, const ClipperLib::IntPoint& p) {
-    vertices[points++] = grid_to_plane(plane, p);
 }
 
 void contour_lists::append(const ox_polygon_data& plane, const monotone_contour& contour, bool hole,

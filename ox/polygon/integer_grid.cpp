@@ -6,7 +6,6 @@
 #include <ox/polygon/internal/contour_tree.h>
 #include <ox/polygon/internal/rectilinear_pattern.h>
 #include <ox/polygon/internal/separate_contours.h>
-#include <ox/polygon/internal/tolerances.h>
 
 namespace ox {
 namespace {
@@ -79,12 +78,6 @@ bool contour_to_grid(const ox_polygon_data& plane, const ox_3dvector* vertices, 
         }
     }
     return true;
-}
-
-ox_3dvector grid_to_plane(const ox_polygon_data& plane, const ClipperLib::IntPoint& p) {
-    const float u = static_cast<float>(p.X) * grid_unit;
-    const float v = static_cast<float>(p.Y) * grid_unit;
-    return plane.point + u * plane.dx + v * plane.dy;
 }
 
 void rebuild_contours(ox_polygon_data& polygon, const ClipperLib::PolyTree& tree) {

@@ -7,6 +7,7 @@
 
 #include <ox/core/ox_list.h>
 #include <ox/geometry/ox_3dvector.h>
+#include <ox/polygon/internal/integer_grid.h>
 #include <ox/polygon/internal/monotone_contour.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
 
@@ -28,7 +29,9 @@ public:
     void begin_contour(std::size_t size, bool hole, int parent);
 
     /// Appends the point of the plane that belongs to a grid point.
-    void append(const ox_polygon_data& plane, const ClipperLib::IntPoint& p);
+    void append(const ox_polygon_data& plane, const ClipperLib::IntPoint& p) {
+        vertices[points++] = grid_to_plane(plane, p);
+    }
 
     /// Appends a whole contour as the clipping library hands it out.
     void append(const ox_polygon_data& plane, const monotone_contour& contour, bool hole,

@@ -9,6 +9,7 @@
 #include <ox/core/ox_list.h>
 #include <ox/geometry/ox_3dvector.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
+#include <ox/polygon/internal/tolerances.h>
 
 // The one way between contours in space and the integers of the clipping library: coordinates in
 // units of 0.0001 model units along dx and dy of a polygon's frame.
@@ -50,7 +51,11 @@ bool contour_to_grid(const ox_polygon_data& plane, const ox_3dvector* vertices, 
                      ClipperLib::IntPoint* points);
 
 /// The point of the plane that belongs to a grid point.
-ox_3dvector grid_to_plane(const ox_polygon_data& plane, const ClipperLib::IntPoint& p);
+inline ox_3dvector grid_to_plane(const ox_polygon_data& plane, const ClipperLib::IntPoint& p) {
+    const float u = static_cast<float>(p.X) * grid_unit;
+    const float v = static_cast<float>(p.Y) * grid_unit;
+    return plane.point + u * plane.dx + v * plane.dy;
+}
 
 /// Replaces the normalised contours of `polygon` by those of the tree: depth first, a contour
 /// before those inside it, siblings in the tree's order. O(n), without recursion.

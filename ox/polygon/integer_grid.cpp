@@ -114,10 +114,10 @@ void combine_on_grid(ox_polygon_data& polygon, ClipperLib::ClipType operation,
     }
     ClipperLib::PolyTree tree;
     clip_contours(operation, subjects, clips, tree);
-    rebuild_contours(polygon, tree);
     if (has_pattern) {
         keep_rectilinear_pattern(arrangement, tree);
     }
+    rebuild_contours(polygon, tree); // last: no memory for the pattern must not leave half a result
 }
 
 } // namespace ox

@@ -181,7 +181,7 @@ void keep_triangle_pattern(std::uint64_t key, const triangle_pattern& pattern) {
 }
 
 fan_kind find_fan(const ox_3dvector* contour, std::size_t size, const ox_3dvector& normal) {
-    if (size > most_fan_vertices) {
+    if (size < 3 || size > most_fan_vertices) {
         return fan_kind::mixed;
     }
     const double scale = static_cast<double>(normal.manhattan_size()) * fan_rounding;

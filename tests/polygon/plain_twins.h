@@ -53,11 +53,39 @@ struct twins {
 
     // Merging happens at the first query: both are merged at the same moment here.
     void merge() {
+        if (pending.empty()) {
+            return;
+        }
         polygon.get_contour_vertices();
         plain.merge(pending);
         pending.clear();
     }
 };
+
+/// Unites, subtracts or intersects by turns, both in the same way, and compares. Nothing is done
+/// without contours.
+inline void combine_and_compare(int round, twins& a, twins& b) {
+    a.merge();
+    b.merge();
+    if (a.plain.contours.empty() || b.plain.contours.empty()) {
+        return;
+    }
+    switch (round % 3) {
+    case 0:
+        a.polygon.unites(b.polygon);
+        a.plain.combine(ClipperLib::ctUnion, b.plain);
+        break;
+    case 1:
+        a.polygon.substracts(b.polygon);
+        a.plain.combine(ClipperLib::ctDifference, b.plain);
+        break;
+    default:
+        a.polygon.intersects(b.polygon);
+        a.plain.combine(ClipperLib::ctIntersection, b.plain);
+        break;
+    }
+    expect_equal(a.polygon, a.plain);
+}
 
 } // namespace polygon_checks
 

@@ -143,19 +143,6 @@ TEST(RectilinearPattern, BooleansAreThoseOfTheClippingLibrary) {
         add_contours(random, x, y, a);
         twins b;
         add_contours(random, x, y, b);
-        if (a.plain.contours.empty() || b.plain.contours.empty()) {
-            continue;
-        }
-        if (round % 3 == 0) {
-            a.polygon.unites(b.polygon);
-            a.plain.combine(ClipperLib::ctUnion, b.plain);
-        } else if (round % 3 == 1) {
-            a.polygon.substracts(b.polygon);
-            a.plain.combine(ClipperLib::ctDifference, b.plain);
-        } else {
-            a.polygon.intersects(b.polygon);
-            a.plain.combine(ClipperLib::ctIntersection, b.plain);
-        }
-        expect_equal(a.polygon, a.plain);
+        combine_and_compare(round, a, b);
     }
 }

@@ -224,29 +224,6 @@ void add_wall_with_openings(generator& random, const canvas& paper, twins& targe
     add_rows(random, paper, inner_cell(random, paper.tidy, {{}, size}), columns, rows, target);
 }
 
-void combine_and_compare(int round, twins& a, twins& b) {
-    a.merge();
-    b.merge();
-    if (a.plain.contours.empty() || b.plain.contours.empty()) {
-        return;
-    }
-    switch (round % 3) {
-    case 0:
-        a.polygon.unites(b.polygon);
-        a.plain.combine(ClipperLib::ctUnion, b.plain);
-        break;
-    case 1:
-        a.polygon.substracts(b.polygon);
-        a.plain.combine(ClipperLib::ctDifference, b.plain);
-        break;
-    default:
-        a.polygon.intersects(b.polygon);
-        a.plain.combine(ClipperLib::ctIntersection, b.plain);
-        break;
-    }
-    expect_equal(a.polygon, a.plain);
-}
-
 } // namespace
 
 TEST(SeparateContours, SingleContoursAreMergedAsTheClippingLibraryDoes) {

@@ -59,7 +59,7 @@ void keep_triangle_pattern(std::uint64_t key, const triangle_pattern& pattern);
 enum class fan_kind {
     forward,  ///< all counter-clockwise
     backward, ///< all clockwise
-    mixed,    ///< some of each
+    mixed,    ///< some of each, or not a number of vertices of which the tessellator makes one fan
     doubtful, ///< too flat to tell: roundings could decide
 };
 

@@ -1,7 +1,7 @@
 // Triangles of the region, made by the GLU tessellator with the odd winding rule, and their area.
 //
 //  1. One contour of three vertices is its own triangle.
-//  2. One contour whose triangles are known takes them.
+//  2. Small contours whose triangles are known take them.
 //  3. Otherwise the tessellator emits triangles, strips and fans; each primitive brings its own
 //     vertices.
 //  4. Areas are added, and triangles that run clockwise about the normal are turned over.
@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -44,32 +45,36 @@ void take_answer(const tessellator_answer& answer, ox_polygon_data& polygon) {
               polygon.tesselation_triangles.begin());
 }
 
-// Asks the tessellator. The triangles are kept under `key`, unless it is 0.
-void tessellate(ox_polygon_data& polygon, std::uint64_t key) {
+using optional_key = std::optional<triangle_pattern_key>;
+
+void ask_tessellator(ox_polygon_data& polygon, const optional_key& key) {
     std::vector<double> coordinates = widened(polygon.contour_vertices);
     tessellator_answer answer;
     run_tessellator(coordinates, polygon.contour_sizes, polygon.normal, answer);
     take_answer(answer, polygon);
-    if (key != 0 && answer.made.empty()) {
-        keep_triangle_pattern(key, triangle_pattern(answer, coordinates.data()));
+    if (key && answer.made.empty()) {
+        keep_triangle_pattern(*key, triangle_pattern(answer, coordinates.data()));
     }
 }
 
-void tessellate_single_contour(ox_polygon_data& polygon) {
-    const ox_3dvector* contour = polygon.contour_vertices.get_data();
-    const std::size_t size = polygon.contour_sizes[0];
-    const fan_kind fan = find_fan(contour, size, polygon.normal);
+void tessellate(ox_polygon_data& polygon) {
+    const ox_3dvector* vertices = polygon.contour_vertices.get_data();
+    const ox_list<unsigned int>& sizes = polygon.contour_sizes;
+    const fan_kind fan =
+        sizes.size() == 1 ? find_fan(vertices, sizes[0], polygon.normal) : fan_kind::mixed;
     if (fan == fan_kind::forward || fan == fan_kind::backward) {
-        take_fan(contour, size, fan, polygon.tesselation_vertices, polygon.tesselation_triangles);
+        take_fan(vertices, sizes[0], fan, polygon.tesselation_vertices,
+                 polygon.tesselation_triangles);
         return;
     }
-    const std::uint64_t key =
-        fan == fan_kind::mixed ? triangle_pattern_key(contour, size, polygon.normal) : 0;
-    const triangle_pattern* known = key == 0 ? nullptr : find_triangle_pattern(key);
+    const optional_key key = fan == fan_kind::doubtful
+                                 ? std::nullopt
+                                 : find_triangle_pattern_key(vertices, sizes, polygon.normal);
+    const triangle_pattern* known = key ? find_triangle_pattern(*key) : nullptr;
     if (known != nullptr) {
-        known->apply(contour, polygon.tesselation_vertices, polygon.tesselation_triangles);
+        known->apply(vertices, polygon.tesselation_vertices, polygon.tesselation_triangles);
     } else {
-        tessellate(polygon, key);
+        ask_tessellator(polygon, key);
     }
 }
 
@@ -110,10 +115,8 @@ void ox_polygon_data::compute_tesselation() {
     area = 0.0f;
     if (contour_sizes.size() == 1 && contour_sizes[0] == 3) {
         take_single_triangle(*this);
-    } else if (contour_sizes.size() == 1) {
-        tessellate_single_contour(*this);
     } else if (contour_sizes.size() > 0) {
-        tessellate(*this, 0);
+        tessellate(*this);
     }
     sum_area_and_mend_winding(*this);
     tesselation_computed = true;

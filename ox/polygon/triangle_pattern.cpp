@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <unordered_map>
 
 #include <ox/polygon/internal/tolerances.h>
@@ -68,15 +69,30 @@ double side_of(const sweep_vertex& a, const sweep_vertex& b, const sweep_vertex&
     return (b.t - c.t) * (b.s - a.s) + (b.t - a.t) * (c.s - b.s);
 }
 
-// Appends bits to a key; the bits before them must leave room.
+// Appends bits to a key: 4 for the sizes, 4 for each vertex but one and 1 for any three vertices.
 class key_writer {
 public:
-    void append(std::uint64_t value, int bits) { key = key << bits | value; }
-    std::uint64_t value() const { return key; }
+    void append(std::uint64_t value, unsigned int bits) {
+        const unsigned int left = 64 - bits;
+        key[1] = key[1] << bits | key[0] >> left;
+        key[0] = key[0] << bits | value;
+    }
+
+    const triangle_pattern_key& value() const { return key; }
 
 private:
-    std::uint64_t key = 1; // never 0, and keys of different lengths differ
+    triangle_pattern_key key{1, 0}; // keys of different lengths differ
 };
+
+struct key_hash {
+    std::size_t operator()(const triangle_pattern_key& key) const {
+        constexpr std::uint64_t golden_ratio = 0x9E3779B97F4A7C15u;
+        const std::uint64_t mixed = (key[0] * golden_ratio) ^ key[1];
+        return static_cast<std::size_t>(mixed * golden_ratio >> 20);
+    }
+};
+
+using pattern_table = std::unordered_map<triangle_pattern_key, triangle_pattern, key_hash>;
 
 double extent_of(const sweep_vertex* vertices, std::size_t size) {
     double low = vertices[0].t;
@@ -121,8 +137,8 @@ bool append_sides(const sweep_vertex* sorted, std::size_t size, double extent, k
     return true;
 }
 
-std::unordered_map<std::uint64_t, triangle_pattern>& kept_patterns() {
-    static thread_local std::unordered_map<std::uint64_t, triangle_pattern> kept;
+pattern_table& kept_patterns() {
+    static thread_local pattern_table kept;
     return kept;
 }
 
@@ -139,11 +155,11 @@ triangle_pattern::triangle_pattern(const tessellator_answer& answer, const doubl
                    [](unsigned int index) { return static_cast<std::uint8_t>(index); });
 }
 
-void triangle_pattern::apply(const ox_3dvector* contour, ox_list<ox_3dvector>& vertices,
+void triangle_pattern::apply(const ox_3dvector* contours, ox_list<ox_3dvector>& vertices,
                              ox_list<unsigned int>& triangles) const {
     vertices.set_size(vertex_count);
     for (int i = 0; i < vertex_count; ++i) {
-        vertices[i] = contour[vertex_indices[static_cast<std::size_t>(i)]];
+        vertices[i] = contours[vertex_indices[static_cast<std::size_t>(i)]];
     }
     triangles.set_size(corner_count);
     for (int i = 0; i < corner_count; ++i) {
@@ -151,30 +167,43 @@ void triangle_pattern::apply(const ox_3dvector* contour, ox_list<ox_3dvector>& v
     }
 }
 
-std::uint64_t triangle_pattern_key(const ox_3dvector* contour, std::size_t size,
-                                   const ox_3dvector& normal) {
+std::optional<triangle_pattern_key> find_triangle_pattern_key(const ox_3dvector* contours,
+                                                              const ox_list<unsigned int>& sizes,
+                                                              const ox_3dvector& normal) {
+    if (sizes.size() > triangle_pattern::most_contours) {
+        return std::nullopt;
+    }
+    const std::size_t size = std::accumulate(sizes.begin(), sizes.end(), std::size_t{0});
     if (size < 3 || size > triangle_pattern::most_vertices) {
-        return 0;
+        return std::nullopt;
     }
     std::array<sweep_vertex, triangle_pattern::most_vertices> vertices;
     for (std::size_t i = 0; i < size; ++i) {
-        vertices[i] = to_sweep(contour[i], normal);
+        vertices[i] = to_sweep(contours[i], normal);
         vertices[i].index = i;
     }
     std::sort(vertices.data(), vertices.data() + size, is_swept_before);
+    // Where all contours swept so far have ended, the tessellator goes on from far away, and the
+    // next contour's place relative to that decides.
+    if ((vertices[0].index < sizes[0]) != (vertices[size - 1].index < sizes[0])) {
+        return std::nullopt;
+    }
     const double extent = extent_of(vertices.data(), size);
     key_writer key;
-    const bool certain = append_order(vertices.data(), size, extent, key) &&
-                         append_sides(vertices.data(), size, extent, key);
-    return certain ? key.value() : 0;
+    key.append(sizes[0], 4);
+    if (!append_order(vertices.data(), size, extent, key) ||
+        !append_sides(vertices.data(), size, extent, key)) {
+        return std::nullopt;
+    }
+    return key.value();
 }
 
-const triangle_pattern* find_triangle_pattern(std::uint64_t key) {
+const triangle_pattern* find_triangle_pattern(const triangle_pattern_key& key) {
     const auto found = kept_patterns().find(key);
     return found == kept_patterns().end() ? nullptr : &found->second;
 }
 
-void keep_triangle_pattern(std::uint64_t key, const triangle_pattern& pattern) {
+void keep_triangle_pattern(const triangle_pattern_key& key, const triangle_pattern& pattern) {
     if (kept_patterns().size() < most_kept_patterns) {
         kept_patterns().emplace(key, pattern);
     }

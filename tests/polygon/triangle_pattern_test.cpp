@@ -1,5 +1,5 @@
-// Triangles of single contours are mostly known without the tessellator: fans of contours that are
-// seen whole from their first vertex, and what it said about a contour that lay alike before. They
+// Triangles of small contours are mostly known without the tessellator: fans of contours that are
+// seen whole from their first vertex, and what it said about contours that lay alike before. They
 // must be the tessellator's, primitive by primitive.
 
 #include <algorithm>
@@ -179,6 +179,53 @@ TEST(TrianglePattern, SingleContoursHaveTheTrianglesOfTheTessellator) {
     generator random(40211);
     for (int round = 0; round < 60000 && !testing::Test::HasFailure(); ++round) {
         ox_polygon polygon = any_polygon(random);
+        expect_triangles_of_the_tessellator(polygon);
+    }
+}
+
+TEST(TrianglePattern, QuadrilateralsWithAQuadrilateralHoleHaveTheTrianglesOfTheTessellator) {
+    generator random(40214);
+    for (int round = 0; round < 40000 && !testing::Test::HasFailure(); ++round) {
+        drawing paper = any_drawing(random);
+        const bool upright = random.one_in(2);
+        ox_polygon polygon;
+        double low = 0.0;
+        double high = 10.0;
+        for (int contour = 0; contour < 2; ++contour) {
+            const double x[] = {low, high, high, low};
+            const double y[] = {low, low, high, high};
+            paper.contour.clear();
+            for (int i = 0; i < 4; ++i) {
+                const double slant = upright ? 0.0 : random.real(-0.9, 0.9);
+                paper.add(x[i] + slant, y[i] - slant);
+            }
+            polygon.add_contour(paper.contour);
+            low = random.one_in(20) ? 11.0 : random.real(0.5, 5.0); // beside, not inside
+            high = random.real(low + 0.5, low + 4.5);
+        }
+        expect_triangles_of_the_tessellator(polygon);
+    }
+}
+
+// The tessellator goes on to the second one from far above or below, so that not only the ranks of
+// the coordinates tell which of them comes first.
+TEST(TrianglePattern, SquaresBesideEachOtherHaveTheTrianglesOfTheTessellator) {
+    generator random(40215);
+    for (int round = 0; round < 5000 && !testing::Test::HasFailure(); ++round) {
+        drawing paper;
+        ox_polygon polygon;
+        const double distance = random.real(1.1, 30.0);
+        const double height = random.real(0.0, 30.0);
+        for (int contour = 0; contour < 2; ++contour) {
+            const double left = contour * distance;
+            const double base = contour * height;
+            paper.contour.clear();
+            paper.add(left, base);
+            paper.add(left + 1.0, base);
+            paper.add(left + 1.0, base + 40.0);
+            paper.add(left, base + 40.0);
+            polygon.add_contour(paper.contour);
+        }
         expect_triangles_of_the_tessellator(polygon);
     }
 }

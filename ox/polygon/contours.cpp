@@ -91,14 +91,13 @@ bool derive_plane(ox_polygon_data& polygon) {
 
 // The first contour of a batch is mostly the only one: its list gets no room to spare.
 void append(ox_list<ox_3dvector>& pending, const ox_list<ox_3dvector>& vertices) {
-    if (pending.size() == 0) {
-        pending.set_size(vertices.size());
-        std::copy(vertices.begin(), vertices.end(), pending.begin());
-        return;
+    const int before = pending.size();
+    const int needed = before + vertices.size();
+    if (before > 0 && needed > pending.get_capacity()) {
+        pending.set_size(std::max(needed, before + before / 2));
     }
-    for (const ox_3dvector& v : vertices) {
-        pending.push_right(v);
-    }
+    pending.set_size(needed);
+    std::copy(vertices.begin(), vertices.end(), pending.begin() + before);
 }
 
 void drop_pending(ox_polygon_data& polygon) {

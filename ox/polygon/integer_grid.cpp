@@ -81,19 +81,18 @@ bool contour_to_grid(const ox_polygon_data& plane, const ox_3dvector* vertices, 
 }
 
 void rebuild_contours(ox_polygon_data& polygon, const ClipperLib::PolyTree& tree) {
-    std::size_t contours = 0;
+    const std::vector<tree_contour> contours = contours_of(tree);
     std::size_t vertices = 0;
-    visit_contours(tree, [&](const ClipperLib::Path& path, bool, int) {
-        ++contours;
-        vertices += path.size();
-    });
-    contour_lists made(contours, vertices);
-    visit_contours(tree, [&](const ClipperLib::Path& path, bool hole, int parent) {
-        made.begin_contour(path.size(), hole, parent);
-        for (const ClipperLib::IntPoint& p : path) {
+    for (const tree_contour& contour : contours) {
+        vertices += contour.path->size();
+    }
+    contour_lists made(contours.size(), vertices);
+    for (const tree_contour& contour : contours) {
+        made.begin_contour(contour.path->size(), contour.hole, contour.parent);
+        for (const ClipperLib::IntPoint& p : *contour.path) {
             made.append(polygon, p);
         }
-    });
+    }
     made.move_to(polygon);
 }
 

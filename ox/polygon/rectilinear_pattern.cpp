@@ -124,13 +124,13 @@ bool rectilinear_arrangement::are_areas_certain() const {
 
 rectilinear_pattern::rectilinear_pattern(const ClipperLib::PolyTree& tree,
                                          const rectilinear_arrangement& arrangement) {
-    visit_contours(tree, [&](const ClipperLib::Path& path, bool hole, int parent) {
-        contours.push_back({path.size(), hole, parent});
-        for (const IntPoint& p : path) {
+    for (const tree_contour& answered : contours_of(tree)) {
+        contours.push_back({answered.path->size(), answered.hole, answered.parent});
+        for (const IntPoint& p : *answered.path) {
             vertices.push_back({static_cast<std::uint8_t>(arrangement.x_rank(p)),
                                 static_cast<std::uint8_t>(arrangement.y_rank(p))});
         }
-    });
+    }
 }
 
 contour_lists rectilinear_pattern::apply(const ox_polygon_data& plane,

@@ -8,6 +8,7 @@
 #include <ox/polygon/internal/separate_contours.h>
 
 #include <algorithm>
+#include <functional>
 #include <map>
 #include <memory_resource>
 #include <utility>
@@ -96,17 +97,20 @@ private:
     std::pmr::map<cInt, int> boxes;
 };
 
-// Finds the box directly around each. `begins` are the lowest levels in their order.
+// Finds the box directly around each. `begins` are the lowest levels in their order. The ends are
+// only put in order as far as they are reached: mostly boxes that overlap are found early.
 bool nest_boxes(separate_contour_list& contours, const std::vector<contour_level>& begins) {
     std::vector<contour_level> ends =
         levels_of(contours, [](const separate_contour& c) { return c.box.high.Y; });
-    std::sort(ends.begin(), ends.end());
+    const std::greater<contour_level> later;
+    std::make_heap(ends.begin(), ends.end(), later);
     std::pmr::monotonic_buffer_resource memory;
     level_of_boxes level(contours, memory);
-    auto ended = ends.begin();
     for (const contour_level& begin : begins) {
-        for (; ended->first < begin.first; ++ended) {
-            level.remove(ended->second);
+        while (ends.front().first < begin.first) {
+            level.remove(ends.front().second);
+            std::pop_heap(ends.begin(), ends.end(), later);
+            ends.pop_back();
         }
         if (!level.add(begin.second)) {
             return false;

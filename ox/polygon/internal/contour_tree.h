@@ -7,35 +7,41 @@
 
 namespace ox {
 
-/// Visits the contours of a tree depth first, a contour before those inside it, siblings in the
-/// tree's order: `visit(path, hole, parent)` with the position of the parent in this order, -1 at
-/// the top. O(n), without recursion.
+/// A contour of a tree, which owns the path.
+struct tree_contour {
+    const ClipperLib::Path* path;
+    bool hole;
+    int parent; ///< position of the contour around it in the same list, -1 at the top
+};
+
+/// The contours of a tree depth first: a contour before those inside it, siblings in the tree's
+/// order. O(n), without recursion.
 ///
 /// Whether a contour is a hole follows from its depth alone: top-level contours are outer
 /// boundaries, and every level down turns the kind over. Carrying it saves a climb to the root for
 /// every contour.
-template <typename Visit>
-void visit_contours(const ClipperLib::PolyTree& tree, Visit visit) {
+inline std::vector<tree_contour> contours_of(const ClipperLib::PolyTree& tree) {
     struct pending_node {
         const ClipperLib::PolyNode* node;
         int parent;
         bool hole;
     };
+    std::vector<tree_contour> contours;
     std::vector<pending_node> stack{{&tree, -1, true}};
-    int count = 0;
     while (!stack.empty()) {
         const pending_node visited = stack.back();
         stack.pop_back();
         int parent = visited.parent;
         if (!visited.node->Contour.empty()) {
-            parent = count++;
-            visit(visited.node->Contour, visited.hole, visited.parent);
+            parent = static_cast<int>(contours.size());
+            contours.push_back({&visited.node->Contour, visited.hole, visited.parent});
         }
         const ClipperLib::PolyNodes& inside = visited.node->Childs;
         for (auto child = inside.rbegin(); child != inside.rend(); ++child) {
             stack.push_back({*child, parent, !visited.hole}); // the first is visited next
         }
     }
+    return contours;
 }
 
 } // namespace ox

@@ -1,8 +1,6 @@
 // Union, difference and intersection with another polygon, on the integer grid of the polygon
 // that changes.
 
-#include <algorithm>
-
 #include <ox/polygon/internal/integer_grid.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
 #include <ox/polygon/ox_polygon.h>
@@ -29,18 +27,14 @@ bool is_without_contours(const ox_polygon_data& polygon) {
 } // namespace
 
 void ox_polygon_data::combine(const ox_polygon_data& other, boolean_operation operation) {
-    ClipperLib::Paths subjects;
-    contours_to_grid(*this, contour_vertices, contour_sizes, subjects);
-    ClipperLib::Paths clips;
-    contours_to_grid(*this, other.contour_vertices, other.contour_sizes, clips);
+    grid_contours subjects;
+    subjects.append(*this, contour_vertices, contour_sizes);
+    grid_contours clips;
+    clips.append(*this, other.contour_vertices, other.contour_sizes);
     if (ox_dot(normal, other.normal) < 0.0f) {
-        for (ClipperLib::Path& path : clips) {
-            std::reverse(path.begin(), path.end());
-        }
+        clips.reverse_each();
     }
-    ClipperLib::PolyTree tree;
-    clip_paths(clip_type(operation), subjects, clips, tree);
-    rebuild_contours(*this, tree);
+    combine_on_grid(*this, clip_type(operation), subjects, clips);
 }
 
 void ox_polygon::unites(const ox_polygon& other) {

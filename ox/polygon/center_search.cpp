@@ -18,7 +18,7 @@ constexpr float score_cap = 10000.0f;
 constexpr float penalty_per_distance = 0.1f;
 
 // A block of so few candidates is cheaper to score than to divide.
-constexpr int candidates_of_a_leaf = 16;
+constexpr int candidates_of_a_leaf = 64;
 
 // Beyond this the distances could overflow. The integer grid of the contours ends at 4.6e14.
 constexpr double largest_coordinate = 1e15;

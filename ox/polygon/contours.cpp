@@ -7,8 +7,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
+#include <ox/polygon/internal/contour_lists.h>
 #include <ox/polygon/internal/integer_grid.h>
+#include <ox/polygon/internal/monotone_contour.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
 #include <ox/polygon/internal/tolerances.h>
 #include <ox/polygon/ox_polygon.h>
@@ -52,8 +55,8 @@ plane_source take_plane_of(ox_polygon_data& polygon, const ox_3dvector* contour,
     }
     polygon.normal.normalize();
     polygon.normal.build_axis(polygon.dx, polygon.dy);
-    ClipperLib::Path path;
-    if (!contour_to_grid(polygon, contour, size, path)) {
+    ClipperLib::Path path(size);
+    if (!contour_to_grid(polygon, contour, size, path.data())) {
         return plane_source::outside_grid;
     }
     if (!ClipperLib::Orientation(path)) {
@@ -86,6 +89,17 @@ bool derive_plane(ox_polygon_data& polygon) {
     return polygon.plane_defined;
 }
 
+// The first contour of a batch is mostly the only one: its list gets no room to spare.
+void append(ox_list<ox_3dvector>& pending, const ox_list<ox_3dvector>& vertices) {
+    const int before = pending.size();
+    const int needed = before + vertices.size();
+    if (before > 0 && needed > pending.get_capacity()) {
+        pending.set_size(std::max(needed, before + before / 2));
+    }
+    pending.set_size(needed);
+    std::copy(vertices.begin(), vertices.end(), pending.begin() + before);
+}
+
 void drop_pending(ox_polygon_data& polygon) {
     polygon.pending_vertices.clear();
     polygon.pending_sizes.clear();
@@ -103,14 +117,29 @@ void replace_by_pending_triangle(ox_polygon_data& polygon) {
     polygon.drop_region_unless_finite();
 }
 
+// A lone contour is the most common of all, and mostly one that need not be merged with itself.
+bool take_single_contour(ox_polygon_data& polygon) {
+    if (polygon.contour_sizes.size() != 0 || polygon.pending_sizes.size() != 1) {
+        return false;
+    }
+    std::vector<ClipperLib::IntPoint> points(polygon.pending_sizes[0]);
+    monotone_contour contour;
+    if (!contour_to_grid(polygon, polygon.pending_vertices.get_data(), points.size(),
+                         points.data()) ||
+        !read_monotone_contour(points.data(), points.size(), contour)) {
+        return false;
+    }
+    contour_lists made(1, contour.size);
+    made.append(polygon, contour, false, -1);
+    made.move_to(polygon);
+    return true;
+}
+
 void unite_with_pending(ox_polygon_data& polygon) {
-    ClipperLib::Paths paths;
-    contours_to_grid(polygon, polygon.contour_vertices, polygon.contour_sizes, paths);
-    contours_to_grid(polygon, polygon.pending_vertices, polygon.pending_sizes, paths);
-    ClipperLib::PolyTree tree;
-    clip_paths(ClipperLib::ctUnion, paths, ClipperLib::Paths(), tree);
-    rebuild_contours(polygon, tree);
-    drop_pending(polygon);
+    grid_contours contours;
+    contours.append(polygon, polygon.contour_vertices, polygon.contour_sizes);
+    contours.append(polygon, polygon.pending_vertices, polygon.pending_sizes);
+    combine_on_grid(polygon, ClipperLib::ctUnion, contours, grid_contours());
 }
 
 void merge_pending(ox_polygon_data& polygon) {
@@ -125,9 +154,12 @@ void merge_pending(ox_polygon_data& polygon) {
     }
     if (polygon.pending_vertices.size() == fewest_pending_vertices) {
         replace_by_pending_triangle(polygon);
-    } else {
+        return;
+    }
+    if (!take_single_contour(polygon)) {
         unite_with_pending(polygon);
     }
+    drop_pending(polygon);
 }
 
 } // namespace
@@ -199,9 +231,7 @@ void ox_polygon::add_contour(const ox_list<ox_3dvector>& vertices) {
     }
     const int pending = data->pending_vertices.size();
     try {
-        for (const ox_3dvector& v : vertices) {
-            data->pending_vertices.push_right(v);
-        }
+        append(data->pending_vertices, vertices);
         data->pending_sizes.push_right(static_cast<unsigned int>(vertices.size()));
     } catch (...) { // no memory: vertices without a size would go to the next contour
         data->pending_vertices.set_size(pending);

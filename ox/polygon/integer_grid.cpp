@@ -1,9 +1,11 @@
 #include <ox/polygon/internal/integer_grid.h>
 
-#include <utility>
-#include <vector>
+#include <algorithm>
 
-#include <ox/polygon/internal/tolerances.h>
+#include <ox/polygon/internal/contour_lists.h>
+#include <ox/polygon/internal/contour_tree.h>
+#include <ox/polygon/internal/rectilinear_pattern.h>
+#include <ox/polygon/internal/separate_contours.h>
 
 namespace ox {
 namespace {
@@ -20,120 +22,101 @@ bool to_grid_unit(float coordinate, ClipperLib::cInt& unit) {
     return true;
 }
 
-// A node of the tree that is still to be visited.
-struct pending_node {
-    const ClipperLib::PolyNode* node;
-    int parent; // index of the contour around it
-    bool hole;
-};
-
-using node_stack = std::vector<pending_node>;
-
-// Pushed last to first, so that the first child is visited next.
-void push_children(node_stack& stack, const ClipperLib::PolyNode& node, int parent, bool hole) {
-    for (auto child = node.Childs.rbegin(); child != node.Childs.rend(); ++child) {
-        stack.push_back({*child, parent, hole});
-    }
-}
-
-// The four lists of normalised contours, gathered aside: a failed allocation leaves those of the
-// polygon as they are.
-struct contour_lists {
-    ox_list<ox_3dvector> vertices;
-    ox_list<unsigned int> sizes;
-    ox_list<bool> orientations;
-    ox_list<int> parents;
-
-    void append(const ox_polygon_data& plane, const pending_node& visited) {
-        const ClipperLib::Path& path = visited.node->Contour;
-        sizes.push_right(static_cast<unsigned int>(path.size()));
-        orientations.push_right(!visited.hole);
-        parents.push_right(visited.parent);
-        for (const ClipperLib::IntPoint& p : path) {
-            vertices.push_right(grid_to_plane(plane, p));
-        }
-    }
-
-    void move_to(ox_polygon_data& polygon) {
-        polygon.contour_vertices = std::move(vertices);
-        polygon.contour_sizes = std::move(sizes);
-        polygon.contour_orientations = std::move(orientations);
-        polygon.contour_parents = std::move(parents);
-    }
-};
-
-} // namespace
-
-bool contour_to_grid(const ox_polygon_data& plane, const ox_3dvector* vertices, unsigned int size,
-                     ClipperLib::Path& path) {
-    path.clear();
-    path.reserve(size);
-    for (unsigned int i = 0; i < size; ++i) {
-        const ox_3dvector offset = vertices[i] - plane.point;
-        ClipperLib::IntPoint p;
-        if (!to_grid_unit(ox_dot(offset, plane.dx), p.X) ||
-            !to_grid_unit(ox_dot(offset, plane.dy), p.Y)) {
-            return false;
-        }
-        path.push_back(p);
-    }
-    return true;
-}
-
-void contours_to_grid(const ox_polygon_data& plane, const ox_list<ox_3dvector>& vertices,
-                      const ox_list<unsigned int>& sizes, ClipperLib::Paths& paths) {
-    const ox_3dvector* contour = vertices.get_data();
+void add_paths(ClipperLib::Clipper& clipper, const grid_contours& contours,
+               ClipperLib::PolyType group) {
     ClipperLib::Path path;
-    for (const unsigned int size : sizes) {
-        if (contour_to_grid(plane, contour, size, path)) {
-            paths.push_back(path);
-        }
-        contour += size;
+    for (std::size_t i = 0; i < contours.count(); ++i) {
+        path.assign(contours.begin(i), contours.begin(i) + contours.size(i));
+        clipper.AddPath(path, group, true);
     }
 }
 
-ox_3dvector grid_to_plane(const ox_polygon_data& plane, const ClipperLib::IntPoint& p) {
-    const float u = static_cast<float>(p.X) * grid_unit;
-    const float v = static_cast<float>(p.Y) * grid_unit;
-    return plane.point + u * plane.dx + v * plane.dy;
-}
-
-// Whether a contour is a hole follows from its depth alone: top-level contours are outer
-// boundaries, and every level down turns the kind over. Carrying it saves a climb to the root for
-// every contour.
-void rebuild_contours(ox_polygon_data& polygon, const ClipperLib::PolyTree& tree) {
-    contour_lists made;
-    node_stack stack;
-    push_children(stack, tree, -1, false);
-    while (!stack.empty()) {
-        const pending_node visited = stack.back();
-        stack.pop_back();
-        int parent = visited.parent;
-        if (!visited.node->Contour.empty()) {
-            parent = made.sizes.size();
-            made.append(polygon, visited);
-        }
-        push_children(stack, *visited.node, parent, !visited.hole);
-    }
-    made.move_to(polygon);
-    polygon.forget_derived();
-    polygon.drop_region_unless_finite();
-}
-
-void clip_paths(ClipperLib::ClipType operation, const ClipperLib::Paths& subjects,
-                const ClipperLib::Paths& clips, ClipperLib::PolyTree& tree) {
+// The tree is empty when the clipping library fails.
+void clip_contours(ClipperLib::ClipType operation, const grid_contours& subjects,
+                   const grid_contours& clips, ClipperLib::PolyTree& tree) {
     try {
         ClipperLib::Clipper clipper;
-        for (const ClipperLib::Path& path : subjects) {
-            clipper.AddPath(path, ClipperLib::ptSubject, true);
-        }
-        for (const ClipperLib::Path& path : clips) {
-            clipper.AddPath(path, ClipperLib::ptClip, true);
-        }
+        add_paths(clipper, subjects, ClipperLib::ptSubject);
+        add_paths(clipper, clips, ClipperLib::ptClip);
         clipper.Execute(operation, tree, ClipperLib::pftEvenOdd, ClipperLib::pftEvenOdd);
     } catch (const ClipperLib::clipperException&) {
         tree.Clear();
     }
+}
+
+} // namespace
+
+void grid_contours::append(const ox_polygon_data& plane, const ox_list<ox_3dvector>& vertices,
+                           const ox_list<unsigned int>& sizes) {
+    std::size_t end = points.size();
+    points.resize(end + static_cast<std::size_t>(std::max(vertices.size(), 0)));
+    ends.reserve(ends.size() + static_cast<std::size_t>(std::max(sizes.size(), 0)));
+    const ox_3dvector* contour = vertices.get_data();
+    for (const unsigned int size : sizes) {
+        if (contour_to_grid(plane, contour, size, points.data() + end)) {
+            end += size;
+            ends.push_back(end);
+        }
+        contour += size;
+    }
+    points.resize(end);
+}
+
+void grid_contours::reverse_each() {
+    for (std::size_t i = 0; i < count(); ++i) {
+        std::reverse(begin(i), begin(i) + size(i));
+    }
+}
+
+bool contour_to_grid(const ox_polygon_data& plane, const ox_3dvector* vertices, std::size_t size,
+                     ClipperLib::IntPoint* points) {
+    for (std::size_t i = 0; i < size; ++i) {
+        const ox_3dvector offset = vertices[i] - plane.point;
+        if (!to_grid_unit(ox_dot(offset, plane.dx), points[i].X) ||
+            !to_grid_unit(ox_dot(offset, plane.dy), points[i].Y)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void rebuild_contours(ox_polygon_data& polygon, const ClipperLib::PolyTree& tree) {
+    const std::vector<tree_contour> contours = contours_of(tree);
+    std::size_t vertices = 0;
+    for (const tree_contour& contour : contours) {
+        vertices += contour.path->size();
+    }
+    contour_lists made(contours.size(), vertices);
+    for (const tree_contour& contour : contours) {
+        made.begin_contour(contour.path->size(), contour.hole, contour.parent);
+        for (const ClipperLib::IntPoint& p : *contour.path) {
+            made.append(polygon, p);
+        }
+    }
+    made.move_to(polygon);
+}
+
+void combine_on_grid(ox_polygon_data& polygon, ClipperLib::ClipType operation,
+                     const grid_contours& subjects, const grid_contours& clips) {
+    contour_lists made;
+    if (combine_separate_contours(polygon, operation, subjects, clips, made)) {
+        made.move_to(polygon);
+        return;
+    }
+    const rectilinear_arrangement arrangement(operation, subjects, clips);
+    const bool has_pattern = arrangement.is_known_by_ranks();
+    const rectilinear_pattern* known =
+        has_pattern ? find_rectilinear_pattern(arrangement) : nullptr;
+    if (known != nullptr) {
+        known->apply(polygon, arrangement).move_to(polygon);
+        return;
+    }
+    ClipperLib::PolyTree tree;
+    clip_contours(operation, subjects, clips, tree);
+    if (has_pattern) {
+        keep_rectilinear_pattern(arrangement, tree);
+    }
+    rebuild_contours(polygon, tree); // last: no memory for the pattern must not leave half a result
 }
 
 } // namespace ox

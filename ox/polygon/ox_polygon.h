@@ -49,7 +49,9 @@ struct ox_polygon_data;
 ///   all pending contours are dropped and the plane stays undefined;
 /// - a plane of numbers that are not finite: the region is empty for as long as they stay.
 ///
-/// Ownership: a polygon owns everything it holds; copies are deep.
+/// Ownership: a polygon owns everything it holds; copies are deep. Each thread keeps, until it
+/// ends, what merges and tessellations of small shapes gave, a few megabytes at most: shapes that
+/// lie alike are answered from there.
 ///
 /// \code
 /// ox::ox_list<ox::ox_3dvector> square;

@@ -1,55 +1,15 @@
 // The polygon against its plain version, exactly: the same vertices, contours and triangles.
 
 #include <ox/polygon/ox_polygon.h>
+#include <tests/polygon/plain_twins.h>
 #include <tests/polygon/polygon_checks.h>
 #include <tests/reference/plain_region.h>
 
 using namespace polygon_checks;
 using ox::ox_3dvector;
-using ox::ox_list;
-using ox::ox_polygon;
 using support::generator;
 
 namespace {
-
-void expect_equal(ox_polygon& polygon, const reference::plain_region& plain) {
-    expect_same_vector(polygon.get_normal(), plain.normal);
-    expect_same_vector(polygon.get_point(), plain.point);
-    ASSERT_EQ(count_contours(polygon), static_cast<int>(plain.contours.size()));
-    for (int c = 0; c < count_contours(polygon); ++c) {
-        const reference::plain_contour& expected = plain.contours[static_cast<std::size_t>(c)];
-        expect_same_elements(contour_of(polygon, c), expected.vertices);
-        EXPECT_EQ(polygon.get_contour_orientations()[c], expected.outer);
-        EXPECT_EQ(polygon.get_contour_parents()[c], expected.parent);
-    }
-    const reference::plain_triangles triangles = reference::tessellate(plain);
-    expect_same_elements(polygon.get_tesselation_vertices(), triangles.vertices);
-    expect_same_elements(polygon.get_tesselation_triangles(), triangles.indices);
-    EXPECT_EQ(polygon.get_area(), triangles.area);
-}
-
-// A polygon and its plain version that are given the same contours.
-struct twins {
-    ox_polygon polygon;
-    reference::plain_region plain;
-    std::vector<reference::contour> pending;
-
-    void add(const reference::contour& vertices) {
-        ox_list<ox_3dvector> list;
-        for (const ox_3dvector& v : vertices) {
-            list.push_right(v);
-        }
-        polygon.add_contour(list);
-        pending.push_back(vertices);
-    }
-
-    // Merging happens at the first query: both are merged at the same moment here.
-    void merge() {
-        polygon.get_contour_vertices();
-        plain.merge(pending);
-        pending.clear();
-    }
-};
 
 // Few different coordinates make repeated points, collinear runs, spikes and touching edges.
 reference::contour random_contour(generator& random, const support::frame& axes, bool coarse) {
@@ -98,24 +58,7 @@ TEST(PlainRegion, BooleansAreTheSame) {
         add_random_contours(random, axes, coarse, a);
         twins b;
         add_random_contours(random, axes, coarse, b);
-        if (a.plain.contours.empty() || b.plain.contours.empty()) {
-            continue;
-        }
-        switch (round % 3) {
-        case 0:
-            a.polygon.unites(b.polygon);
-            a.plain.combine(ClipperLib::ctUnion, b.plain);
-            break;
-        case 1:
-            a.polygon.substracts(b.polygon);
-            a.plain.combine(ClipperLib::ctDifference, b.plain);
-            break;
-        default:
-            a.polygon.intersects(b.polygon);
-            a.plain.combine(ClipperLib::ctIntersection, b.plain);
-            break;
-        }
-        expect_equal(a.polygon, a.plain);
+        combine_and_compare(round, a, b);
     }
 }
 

@@ -1,39 +1,70 @@
 #ifndef OX_POLYGON_INTERNAL_INTEGER_GRID_H
 #define OX_POLYGON_INTERNAL_INTEGER_GRID_H
 
+#include <cstddef>
+#include <vector>
+
 #include <clipper.hpp>
 
 #include <ox/core/ox_list.h>
 #include <ox/geometry/ox_3dvector.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
+#include <ox/polygon/internal/tolerances.h>
 
 // The one way between contours in space and the integers of the clipping library: coordinates in
 // units of 0.0001 model units along dx and dy of a polygon's frame.
 
 namespace ox {
 
-/// Converts the `size` vertices of one contour into the frame of `plane`; the distance from the
-/// plane is dropped. False, with an unspecified path, when a coordinate is not a number or lies
-/// outside the grid.
-bool contour_to_grid(const ox_polygon_data& plane, const ox_3dvector* vertices, unsigned int size,
-                     ClipperLib::Path& path);
+/// Closed contours on the integer grid, concatenated: one array, whatever their number.
+class grid_contours {
+public:
+    std::size_t count() const { return ends.size(); }
+    std::size_t size(std::size_t contour) const { return ends[contour] - first(contour); }
+    const ClipperLib::IntPoint* begin(std::size_t contour) const {
+        return points.data() + first(contour);
+    }
+    ClipperLib::IntPoint* begin(std::size_t contour) { return points.data() + first(contour); }
 
-/// Converts concatenated contours and appends them to `paths`; a contour that does not fit the
-/// grid is left out.
-void contours_to_grid(const ox_polygon_data& plane, const ox_list<ox_3dvector>& vertices,
-                      const ox_list<unsigned int>& sizes, ClipperLib::Paths& paths);
+    /// The points of all contours.
+    const std::vector<ClipperLib::IntPoint>& all() const { return points; }
+
+    /// Converts concatenated contours into the frame of `plane` and appends them; a contour that
+    /// does not fit the grid is left out.
+    void append(const ox_polygon_data& plane, const ox_list<ox_3dvector>& vertices,
+                const ox_list<unsigned int>& sizes);
+
+    /// Turns every contour round.
+    void reverse_each();
+
+private:
+    std::size_t first(std::size_t contour) const { return contour == 0 ? 0 : ends[contour - 1]; }
+
+    std::vector<ClipperLib::IntPoint> points;
+    std::vector<std::size_t> ends; ///< one past the last point of each contour
+};
+
+/// Converts the `size` vertices of one contour into the frame of `plane`; the distance from the
+/// plane is dropped. False, with unspecified points, when a coordinate is not a number or lies
+/// outside the grid.
+bool contour_to_grid(const ox_polygon_data& plane, const ox_3dvector* vertices, std::size_t size,
+                     ClipperLib::IntPoint* points);
 
 /// The point of the plane that belongs to a grid point.
-ox_3dvector grid_to_plane(const ox_polygon_data& plane, const ClipperLib::IntPoint& p);
+inline ox_3dvector grid_to_plane(const ox_polygon_data& plane, const ClipperLib::IntPoint& p) {
+    const float u = static_cast<float>(p.X) * grid_unit;
+    const float v = static_cast<float>(p.Y) * grid_unit;
+    return plane.point + u * plane.dx + v * plane.dy;
+}
 
 /// Replaces the normalised contours of `polygon` by those of the tree: depth first, a contour
 /// before those inside it, siblings in the tree's order. O(n), without recursion.
 void rebuild_contours(ox_polygon_data& polygon, const ClipperLib::PolyTree& tree);
 
-/// Fills `tree` with the combination of two groups of closed paths, both filled even-odd. The
-/// tree is empty when the clipping library fails.
-void clip_paths(ClipperLib::ClipType operation, const ClipperLib::Paths& subjects,
-                const ClipperLib::Paths& clips, ClipperLib::PolyTree& tree);
+/// Replaces the normalised contours of `polygon` by the combination of two groups of contours on
+/// its grid, both filled even-odd. None are left when the clipping library fails.
+void combine_on_grid(ox_polygon_data& polygon, ClipperLib::ClipType operation,
+                     const grid_contours& subjects, const grid_contours& clips);
 
 } // namespace ox
 

@@ -24,6 +24,35 @@ constexpr float grid_unit = 0.0001f;
 /// (0x3FFFFFFFFFFFFFFF).
 constexpr float grid_end = 4611686018427387904.0f;
 
+// Contours whose clipping is known beforehand
+
+/// Grid units: at every level the sides of such a contour, and what it surrounds, keep this far
+/// apart. The clipping library rounds a side to the next unit, half a unit away at most.
+constexpr double side_clearance = 3.0;
+
+/// Difference of the slopes (x over y) of two sides that meet in a vertex. The library computes
+/// the sides in doubles, to 2^-20 units within the coordinates below; a unit away from their common
+/// vertex the sides differ by more.
+constexpr double smallest_slope_difference = 1.0 / 65536.0;
+
+/// Grid units: products of coordinate differences stay within 64 bits.
+constexpr long long farthest_monotone_coordinate = 1LL << 29;
+
+/// The error of an area summed in doubles, per vertex and relative to the square of the largest
+/// coordinate; taken generously.
+constexpr double area_rounding = 1.0 / static_cast<double>(1LL << 48);
+
+// Triangles known beforehand
+
+/// The error of a fan triangle's normal along that of the plane, relative to the two sides and the
+/// plane's normal; the tessellator computes it in doubles, and takes its sign. Taken generously.
+constexpr double fan_rounding = 1.0 / static_cast<double>(1LL << 40);
+
+/// Relative to the extent of a contour: distances in the direction of the tessellator's sweep
+/// above it are certain, and so are triangles (relative to the square). What it computes from
+/// both in doubles is right to 2^-50 of the extent, and compared where it differs by 2^-40.
+constexpr double sweep_clearance = 1.0 / static_cast<double>(1LL << 20);
+
 // Offset
 
 /// A mitred corner reaches at most this many distances from its vertex; so does no other join.

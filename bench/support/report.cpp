@@ -1,0 +1,197 @@
+#include "report.h"
+
+#include <cmath>
+#include <cstdio>
+#include <sstream>
+#include <utility>
+
+namespace bench {
+namespace {
+
+constexpr std::size_t fewest_sizes_for_growth = 3;
+
+// What noise may add to a fitted exponent.
+constexpr double exponent_tolerance = 0.05;
+
+const char* met_text(bool is_met) {
+    return is_met ? "met" : "NOT MET";
+}
+
+std::string quoted(const std::string& text) {
+    std::string result = "\"";
+    for (const char c : text) {
+        if (c == '"' || c == '\\') {
+            result += '\\';
+        }
+        result += c;
+    }
+    return result + '"';
+}
+
+/// The fields of one JSON object.
+class json_object {
+public:
+    json_object() { text.precision(6); }
+
+    void add(const std::string& key, const std::string& value) { begin(key) << quoted(value); }
+    void add(const std::string& key, double value) { begin(key) << value; }
+    void add(const std::string& key, bool value) { begin(key) << (value ? "true" : "false"); }
+    void add(const std::string& key, const std::vector<cost>& costs) {
+        begin(key) << '[';
+        for (std::size_t i = 0; i < costs.size(); ++i) {
+            text << (i == 0 ? "" : ",") << "{\"name\":" << quoted(costs[i].name)
+                 << ",\"seconds\":" << costs[i].seconds << ",\"mebibytes\":" << costs[i].mebibytes
+                 << '}';
+        }
+        text << ']';
+    }
+
+    std::string str() const { return "{" + text.str() + "}"; }
+
+private:
+    std::ostream& begin(const std::string& key) {
+        text << (is_first ? "" : ",") << quoted(key) << ':';
+        is_first = false;
+        return text;
+    }
+
+    std::ostringstream text;
+    bool is_first = true;
+};
+
+std::string time_text(double seconds) {
+    char text[32];
+    if (seconds < 1e-3) {
+        std::snprintf(text, sizeof text, "%.3g us", seconds * 1e6);
+    } else if (seconds < 1.0) {
+        std::snprintf(text, sizeof text, "%.3g ms", seconds * 1e3);
+    } else {
+        std::snprintf(text, sizeof text, "%.3g s", seconds);
+    }
+    return text;
+}
+
+std::string number_text(double number) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%.3g", number);
+    return text;
+}
+
+const cost* find_cost(const measurement& made, const std::string& name) {
+    for (const cost& c : made.costs) {
+        if (c.name == name) {
+            return &c;
+        }
+    }
+    return nullptr;
+}
+
+std::string verdict_of(double goal, const cost& ours, const cost* peer) {
+    if (goal == 0.0) {
+        return "";
+    }
+    return peer == nullptr ? "no peer" : met_text(ours.seconds <= goal * peer->seconds);
+}
+
+} // namespace
+
+double growth_exponent(const std::vector<long>& sizes, const std::vector<double>& seconds) {
+    const double n = static_cast<double>(sizes.size());
+    double sum_x = 0.0, sum_y = 0.0, sum_xx = 0.0, sum_xy = 0.0;
+    for (std::size_t i = 0; i < sizes.size(); ++i) {
+        const double x = std::log(static_cast<double>(sizes[i]));
+        const double y = std::log(seconds[i]);
+        sum_x += x;
+        sum_y += y;
+        sum_xx += x * x;
+        sum_xy += x * y;
+    }
+    return (n * sum_xy - sum_x * sum_y) / (n * sum_xx - sum_x * sum_x);
+}
+
+report::report(std::string reported, const std::string& rows_path, bool quick)
+    : program(std::move(reported)) {
+    if (!rows_path.empty()) {
+        rows.open(rows_path, std::ios::app);
+    }
+    json_object object;
+    object.add("kind", std::string("program"));
+    object.add("program", program);
+    object.add("compiler", std::string(__VERSION__));
+    object.add("quick", quick);
+    write(object.str());
+    std::printf("%-58s %10s %10s  %-30s %7s %7s %-8s %6s %8s\n", program.c_str(), "size", "ours",
+                "peer", "ratio", "goal", "", "rounds", "MiB");
+}
+
+void report::write(const std::string& object) {
+    if (rows.is_open()) {
+        rows << object << std::endl; // complete, should a later measurement end the program
+    }
+}
+
+void report::add_row(const workload& measured, long size, const contest& rules,
+                     const measurement& made) {
+    const cost& ours = made.costs.front();
+    const cost* const peer =
+        rules.peers.empty() ? nullptr : find_cost(made, rules.peers.front().name);
+    const std::string verdict = verdict_of(rules.goal, ours, peer);
+    json_object object;
+    object.add("kind", std::string("row"));
+    object.add("program", program);
+    object.add("workload", measured.name);
+    object.add("size", static_cast<double>(size));
+    object.add("unit", measured.unit);
+    object.add("costs", made.costs);
+    object.add("phases", made.phases);
+    object.add("goal", rules.goal);
+    object.add("stretch", rules.stretch);
+    object.add("goal_peer", rules.peers.empty() ? std::string() : rules.peers.front().name);
+    object.add("verdict", verdict);
+    object.add("rounds", static_cast<double>(made.rounds));
+    object.add("agrees", made.disagreements.empty());
+    write(object.str());
+
+    std::printf("%-58s %10ld %10s  %-30s %7s %7s %-8s %6d %8.1f\n", measured.name.c_str(), size,
+                time_text(ours.seconds).c_str(), peer ? peer->name.c_str() : "",
+                peer ? number_text(ours.seconds / peer->seconds).c_str() : "",
+                rules.goal != 0.0 ? number_text(rules.goal).c_str() : "", verdict.c_str(),
+                made.rounds, ours.mebibytes);
+    for (std::size_t i = 1; i < made.costs.size(); ++i) {
+        std::printf("    %-65s %10s  %48s %12.1f\n", made.costs[i].name.c_str(),
+                    time_text(made.costs[i].seconds).c_str(), "", made.costs[i].mebibytes);
+    }
+    for (const cost& c : made.phases) {
+        std::printf("    phase %-59s %10s\n", c.name.c_str(), time_text(c.seconds).c_str());
+    }
+    for (const std::string& disagreement : made.disagreements) {
+        std::printf("    DISAGREES: %s\n", disagreement.c_str());
+    }
+    std::fflush(stdout);
+}
+
+void report::add_growth(const workload& measured, const std::vector<long>& sizes,
+                        const std::vector<double>& seconds) {
+    if (sizes.size() < fewest_sizes_for_growth) {
+        return;
+    }
+    const double exponent = growth_exponent(sizes, seconds);
+    const double goal = measured.growth_goal;
+    const std::string verdict = goal == 0.0 ? "" : met_text(exponent <= goal + exponent_tolerance);
+    json_object object;
+    object.add("kind", std::string("growth"));
+    object.add("program", program);
+    object.add("workload", measured.name);
+    object.add("unit", measured.unit);
+    object.add("first", static_cast<double>(sizes.front()));
+    object.add("last", static_cast<double>(sizes.back()));
+    object.add("exponent", exponent);
+    object.add("goal", goal);
+    object.add("verdict", verdict);
+    write(object.str());
+    std::printf("    grows with N^%.2f%s%s %s\n", exponent, goal != 0.0 ? ", goal N^" : "",
+                goal != 0.0 ? number_text(goal).c_str() : "", verdict.c_str());
+    std::fflush(stdout);
+}
+
+} // namespace bench

@@ -2,7 +2,8 @@
 #include <memory>
 #include <vector>
 
-#include "solid_facts.h"
+#include <bench/support/shape_facts.h>
+
 #include "workloads.h"
 
 // A building of storeys alike. A storey is a grid of 4 x 4 rooms of 5 x 5: 20 walls along x and 20

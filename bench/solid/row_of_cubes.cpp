@@ -1,6 +1,7 @@
 #include <bench/peers/cgal.h>
 
-#include "solid_facts.h"
+#include <bench/support/shape_facts.h>
+
 #include "workloads.h"
 
 namespace bench {

@@ -3,7 +3,8 @@
 
 #include <bench/peers/cgal.h>
 
-#include "solid_facts.h"
+#include <bench/support/shape_facts.h>
+
 #include "workloads.h"
 
 namespace bench {

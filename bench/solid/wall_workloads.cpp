@@ -1,7 +1,8 @@
 #include <bench/peers/cgal.h>
 #include <bench/peers/clipper.h>
 
-#include "solid_facts.h"
+#include <bench/support/shape_facts.h>
+
 #include "wall.h"
 #include "workloads.h"
 

@@ -1,4 +1,4 @@
-#include "solid_facts.h"
+#include "shape_facts.h"
 
 #include <cmath>
 

@@ -1,5 +1,5 @@
-#ifndef OX_BENCH_SOLID_SOLID_FACTS_H
-#define OX_BENCH_SOLID_SOLID_FACTS_H
+#ifndef OX_BENCH_SUPPORT_SHAPE_FACTS_H
+#define OX_BENCH_SUPPORT_SHAPE_FACTS_H
 
 #include <ox/solid/ox_solid.h>
 

@@ -15,9 +15,6 @@ namespace {
 constexpr patience full_patience = {5, 25, 1.0, 240.0};
 constexpr patience quick_patience = {2, 5, 0.2, 5.0};
 
-// Above this load other work disturbs the figures.
-constexpr double highest_calm_load = 0.5;
-
 struct options {
     bool quick = false;
     bool list = false;
@@ -43,13 +40,6 @@ bool parse(int argc, char** argv, options& parsed) {
         }
     }
     return true;
-}
-
-void warn_of_other_work() {
-    double load = 0.0;
-    if (getloadavg(&load, 1) == 1 && load > highest_calm_load) {
-        std::fprintf(stderr, "The load is %.1f: other work disturbs the figures.\n", load);
-    }
 }
 
 // Tells whether all sizes ended well and in agreement.
@@ -86,7 +76,6 @@ int run_program(int argc, char** argv, const std::vector<workload>& workloads) {
         }
         return EXIT_SUCCESS;
     }
-    warn_of_other_work();
     const std::string name = std::filesystem::path(argv[0]).filename().string();
     report rows(name, chosen.rows_path, chosen.quick);
     bool is_well = true;

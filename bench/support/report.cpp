@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <sstream>
 #include <utility>
 
@@ -10,8 +11,17 @@ namespace {
 
 constexpr std::size_t fewest_sizes_for_growth = 3;
 
+// Above this load other work disturbs the figures.
+constexpr double highest_calm_load = 0.5;
+
 // What noise may add to a fitted exponent.
 constexpr double exponent_tolerance = 0.05;
+
+// The mean number of running processes in the last minute.
+double current_load() {
+    double load = 0.0;
+    return getloadavg(&load, 1) == 1 ? load : 0.0;
+}
 
 const char* met_text(bool is_met) {
     return is_met ? "met" : "NOT MET";
@@ -119,7 +129,12 @@ report::report(std::string reported, const std::string& rows_path, bool quick)
     object.add("program", program);
     object.add("compiler", std::string(__VERSION__));
     object.add("quick", quick);
+    object.add("load", current_load());
     write(object.str());
+    if (current_load() > highest_calm_load) {
+        std::fprintf(stderr, "The load is %.1f: other work disturbs the figures.\n",
+                     current_load());
+    }
     std::printf("%-58s %10s %10s  %-30s %7s %7s %-8s %6s %8s\n", program.c_str(), "size", "ours",
                 "peer", "ratio", "goal", "", "rounds", "MiB");
 }

@@ -45,9 +45,10 @@ bench::contest append_and_iterate(long count) {
 
 int main(int argc, char** argv) {
     return bench::run_program(argc, argv,
-                              {{"list of numbers appended and iterated",
-                                "numbers",
-                                {100000, 1000000, 10000000},
-                                {10000, 100000, 1000000},
-                                append_and_iterate}});
+                              {bench::workload{"list of numbers appended and iterated",
+                                               "numbers",
+                                               {100000, 1000000, 10000000},
+                                               {10000, 100000, 1000000},
+                                               append_and_iterate}
+                                   .judged_from(10000000)});
 }

@@ -67,6 +67,8 @@ def load_rows(paths):
 
 
 def goal_text(row):
+    if row["seconds_goal"]:
+        return time_text(row["seconds_goal"])
     if not row["goal"]:
         return ""
     text = significant(row["goal"])
@@ -152,7 +154,7 @@ def describe_run(programs):
     loads = ", ".join(f"{program['load']:.1f}" for program in programs)
     today = datetime.date.today().isoformat()
     return "\n".join([
-        f"- Date: {today}, {kind}.",
+        f"- Date: {today}, {kind}, {programs[0]['clock']} time.",
         f"- Machine: {processor()}, {os.cpu_count()} cores, {memory_gigabytes():.0f} GiB,"
         f" {platform.system()} {platform.release()}; load before each program: {loads}.",
         f"- Compiler: GCC {programs[0]['compiler']}, release build.",

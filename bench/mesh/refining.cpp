@@ -58,8 +58,9 @@ contest build_half_edges(long triangles) {
 std::vector<workload> refining_workloads() {
     const std::vector<long> sizes = {5000, 50000, 500000};
     const std::vector<long> quick_sizes = {5000, 25000, 125000};
-    return {{"subdivision", "triangles", sizes, quick_sizes, subdivide},
-            {"half-edges", "triangles", sizes, quick_sizes, build_half_edges}};
+    return {workload{"subdivision", "triangles", sizes, quick_sizes, subdivide}.judged_from(500000),
+            workload{"half-edges", "triangles", sizes, quick_sizes, build_half_edges}.judged_from(
+                500000)};
 }
 
 } // namespace bench

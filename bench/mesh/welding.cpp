@@ -52,14 +52,18 @@ contest weld_stream(long triangles, bool shuffled) {
 std::vector<workload> welding_workloads() {
     const std::vector<long> sizes = {10000, 100000, 1000000};
     const std::vector<long> quick_sizes = {10000, 50000, 250000};
-    return {
-        {"set welded", "triangles", sizes, quick_sizes, [](long n) { return weld_set(n, false); }},
-        {"set welded, triangles shuffled", "triangles", sizes, quick_sizes,
-         [](long n) { return weld_set(n, true); }},
-        {"stream welded", "triangles", sizes, quick_sizes,
-         [](long n) { return weld_stream(n, false); }},
-        {"stream welded, triangles shuffled", "triangles", sizes, quick_sizes,
-         [](long n) { return weld_stream(n, true); }}};
+    return {workload{"set welded", "triangles", sizes, quick_sizes,
+                     [](long n) { return weld_set(n, false); }}
+                .judged_from(1000000),
+            workload{"set welded, triangles shuffled", "triangles", sizes, quick_sizes,
+                     [](long n) { return weld_set(n, true); }}
+                .judged_from(1000000),
+            workload{"stream welded", "triangles", sizes, quick_sizes,
+                     [](long n) { return weld_stream(n, false); }}
+                .judged_from(1000000),
+            workload{"stream welded, triangles shuffled", "triangles", sizes, quick_sizes,
+                     [](long n) { return weld_stream(n, true); }}
+                .judged_from(1000000)};
 }
 
 } // namespace bench

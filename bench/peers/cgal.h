@@ -5,7 +5,7 @@
 #include <vector>
 
 #include <bench/peers/triangle_mesh.h>
-#include <bench/support/workload.h>
+#include <bench/support/contestant.h>
 
 // CGAL as a contestant: absent where it is not installed. Input meshes are converted before the
 // clock starts.

@@ -3,7 +3,7 @@
 
 #include <clipper.hpp>
 
-#include <bench/support/workload.h>
+#include <bench/support/contestant.h>
 
 // The clipping library that the polygons stand on, used directly.
 

@@ -5,7 +5,7 @@
 #include <memory>
 #include <vector>
 
-#include <bench/support/workload.h>
+#include <bench/support/contestant.h>
 
 // The tessellator that the polygons stand on, used directly.
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include <bench/support/workload.h>
+#include <bench/support/contestant.h>
 
 namespace peers {
 

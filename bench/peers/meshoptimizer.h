@@ -1,7 +1,7 @@
 #ifndef OX_BENCH_PEERS_MESHOPTIMIZER_H
 #define OX_BENCH_PEERS_MESHOPTIMIZER_H
 
-#include <bench/support/workload.h>
+#include <bench/support/contestant.h>
 #include <ox/mesh/ox_triangle_set.h>
 
 namespace peers {

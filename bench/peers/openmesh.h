@@ -2,7 +2,7 @@
 #define OX_BENCH_PEERS_OPENMESH_H
 
 #include <bench/peers/triangle_mesh.h>
-#include <bench/support/workload.h>
+#include <bench/support/contestant.h>
 
 namespace peers {
 

@@ -74,16 +74,18 @@ contest merge(const contour_lists& contours, double goal) {
 } // namespace
 
 std::vector<workload> merging_workloads() {
-    return {{"overlapping squares merged",
-             "squares",
-             {100, 1000, 10000},
-             {100, 300, 1000},
-             [](long n) { return merge(squares(n, 0.7f, 1.0f), 1.05); }},
-            {"squares that keep apart merged",
-             "squares",
-             {1000, 10000, 100000},
-             {100, 1000, 10000},
-             [](long n) { return merge(squares(n, 1.0f, 0.5f), 1.0); }}};
+    return {workload{"overlapping squares merged",
+                     "squares",
+                     {100, 1000, 10000},
+                     {100, 300, 1000},
+                     [](long n) { return merge(squares(n, 0.7f, 1.0f), 1.05); }}
+                .judged_from(1000),
+            workload{"squares that keep apart merged",
+                     "squares",
+                     {1000, 10000, 100000},
+                     {100, 1000, 10000},
+                     [](long n) { return merge(squares(n, 1.0f, 0.5f), 1.0); }}
+                .judged_from(100000)};
 }
 
 } // namespace bench

@@ -152,11 +152,12 @@ contest make_model(long count) {
 } // namespace
 
 workload faces_of_a_model() {
-    return {"faces of a model, from lists to triangles",
-            "faces",
-            {1000, 10000, 100000},
-            {300, 1000, 3000},
-            make_model};
+    return workload{"faces of a model, from lists to triangles",
+                    "faces",
+                    {1000, 10000, 100000},
+                    {300, 1000, 3000},
+                    make_model}
+        .judged_from(100000);
 }
 
 } // namespace bench

@@ -80,7 +80,9 @@ contest tessellate(long holes) {
 } // namespace
 
 workload tessellation_with_holes() {
-    return {"outline with holes tessellated", "holes", {25, 100, 400}, {25, 50, 100}, tessellate};
+    return workload{
+        "outline with holes tessellated", "holes", {25, 100, 400}, {25, 50, 100}, tessellate}
+        .judged_from(100);
 }
 
 } // namespace bench

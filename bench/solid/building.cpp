@@ -189,12 +189,9 @@ constexpr double growth_of_storeys = 1.13;
 } // namespace
 
 workload whole_building() {
-    return {"building: 40 walls and 120 openings a storey",
-            "storeys",
-            {3, 6, 12},
-            {1, 2, 3},
-            build,
-            growth_of_storeys};
+    return workload{
+        "building: 40 walls and 120 openings a storey", "storeys", {3, 6, 12}, {1, 2, 3}, build}
+        .growing_at_most(growth_of_storeys);
 }
 
 } // namespace bench

@@ -60,8 +60,9 @@ contest unite_row(long count) {
 } // namespace
 
 workload row_of_cubes() {
-    return {
-        "row of overlapping cubes united", "cubes", {10, 100, 400}, {10, 30, 100}, unite_row, 1.1};
+    return workload{
+        "row of overlapping cubes united", "cubes", {10, 100, 400}, {10, 30, 100}, unite_row}
+        .growing_at_most(1.1);
 }
 
 } // namespace bench

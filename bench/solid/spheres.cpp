@@ -161,12 +161,12 @@ contest subtract_spheres(long faces) {
 } // namespace
 
 workload subtracted_spheres() {
-    return {"sphere subtracted from a sphere",
-            "faces each",
-            {180, 980, 5120, 50000},
-            {180, 500, 980},
-            subtract_spheres,
-            1.3};
+    return workload{"sphere subtracted from a sphere",
+                    "faces each",
+                    {180, 980, 5120, 50000},
+                    {180, 500, 980},
+                    subtract_spheres}
+        .growing_at_most(1.3);
 }
 
 } // namespace bench

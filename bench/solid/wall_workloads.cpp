@@ -164,24 +164,24 @@ contest horizontal_sections(long openings) {
 
 std::vector<workload> wall_workloads() {
     return {
-        {"wall, openings cut one after another",
-         "openings",
-         {10, 100, 400, 1000},
-         {10, 50, 100},
-         cut_one_after_another,
-         2.0},
-        {"wall, openings united, then cut at once",
-         "openings",
-         {10, 100, 400, 1000},
-         {10, 50, 100},
-         cut_at_once,
-         1.3},
-        {"wall, 20 horizontal sections",
-         "openings",
-         {100, 400, 1000},
-         {25, 50, 100},
-         horizontal_sections,
-         1.0},
+        workload{"wall, openings cut one after another",
+                 "openings",
+                 {10, 100, 400, 1000},
+                 {10, 50, 100},
+                 cut_one_after_another}
+            .growing_at_most(2.0),
+        workload{"wall, openings united, then cut at once",
+                 "openings",
+                 {10, 100, 400, 1000},
+                 {10, 50, 100},
+                 cut_at_once}
+            .growing_at_most(1.3),
+        workload{"wall, 20 horizontal sections",
+                 "openings",
+                 {100, 400, 1000},
+                 {25, 50, 100},
+                 horizontal_sections}
+            .growing_at_most(1.0),
     };
 }
 

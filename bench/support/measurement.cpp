@@ -1,9 +1,9 @@
 #include "measurement.h"
 
 #include <malloc.h>
+#include <time.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <sstream>
 #include <stdexcept>
@@ -13,10 +13,10 @@
 namespace bench {
 namespace {
 
-using clock = std::chrono::steady_clock;
-
-double seconds_since(clock::time_point start) {
-    return std::chrono::duration<double>(clock::now() - start).count();
+double seconds_now(clock_kind clock) {
+    timespec now = {};
+    clock_gettime(clock == clock_kind::wall ? CLOCK_MONOTONIC : CLOCK_PROCESS_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + 1e-9 * static_cast<double>(now.tv_nsec);
 }
 
 bool agree(const fact& a, const fact& b, double tolerance) {
@@ -63,13 +63,13 @@ double peak_of(const contestant& who) {
 }
 
 // Every run starts without memory left over from the last one, ours and theirs alike.
-void run_once(const contestant& who, cost& needed, std::vector<fact>& facts,
+void run_once(const contestant& who, clock_kind clock, cost& needed, std::vector<fact>& facts,
               std::vector<cost>* phases) {
     const std::unique_ptr<trial> one = who.prepare();
     malloc_trim(0);
-    const clock::time_point start = clock::now();
+    const double start = seconds_now(clock);
     one->run();
-    needed.seconds = std::min(needed.seconds, seconds_since(start));
+    needed.seconds = std::min(needed.seconds, seconds_now(clock) - start);
     if (facts.empty()) {
         facts = one->facts();
     }
@@ -79,13 +79,14 @@ void run_once(const contestant& who, cost& needed, std::vector<fact>& facts,
 }
 
 bool is_enough(const measurement& done, const patience& limits, double seconds) {
-    if (seconds > limits.longest_seconds || done.rounds >= limits.most_rounds) {
+    if ((done.rounds > 0 && seconds > limits.longest_seconds) ||
+        done.rounds >= limits.most_rounds) {
         return true;
     }
     return done.rounds >= limits.least_rounds && seconds > limits.enough_seconds;
 }
 
-measurement measure_here(const contest& measured, const patience& limits) {
+measurement measure_here(const contest& measured, const patience& limits, clock_kind clock) {
     std::vector<contestant> all = {measured.ours};
     std::copy_if(measured.peers.begin(), measured.peers.end(), std::back_inserter(all),
                  [](const contestant& peer) { return peer.is_present(); });
@@ -94,10 +95,10 @@ measurement measure_here(const contest& measured, const patience& limits) {
     for (const contestant& who : all) {
         made.costs.push_back({who.name, HUGE_VAL, peak_of(who)});
     }
-    const clock::time_point start = clock::now();
-    while (!is_enough(made, limits, made.rounds == 0 ? 0.0 : seconds_since(start))) {
+    const double start = seconds_now(clock_kind::wall);
+    while (!is_enough(made, limits, seconds_now(clock_kind::wall) - start)) {
         for (std::size_t i = 0; i < all.size(); ++i) {
-            run_once(all[i], made.costs[i], facts[i], i == 0 ? &made.phases : nullptr);
+            run_once(all[i], clock, made.costs[i], facts[i], i == 0 ? &made.phases : nullptr);
         }
         ++made.rounds;
     }
@@ -154,8 +155,8 @@ measurement from_text(const std::string& text) {
 
 } // namespace
 
-measurement measure(const contest& measured, const patience& limits) {
-    return from_text(run_isolated([&] { return to_text(measure_here(measured, limits)); }));
+measurement measure(const contest& measured, const patience& limits, clock_kind clock) {
+    return from_text(run_isolated([&] { return to_text(measure_here(measured, limits, clock)); }));
 }
 
 } // namespace bench

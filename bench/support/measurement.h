@@ -23,6 +23,10 @@ struct measurement {
     std::vector<std::string> disagreements; ///< empty when all facts agree
 };
 
+/// What is measured: the time that passes, or the time that the processors spend on the process,
+/// which other work on the machine disturbs less, but which hides what threads win.
+enum class clock_kind { wall, processor };
+
 /// How long to measure: `least_rounds` in any case (fewer only beyond `longest_seconds`), then
 /// until `enough_seconds` have been spent or `most_rounds` are done.
 struct patience {
@@ -34,7 +38,7 @@ struct patience {
 
 /// Runs a contest in a process of its own. The peak memory of each contestant is taken first, from
 /// one run in another process; then all run in turn, round after round.
-measurement measure(const contest& measured, const patience& limits);
+measurement measure(const contest& measured, const patience& limits, clock_kind clock);
 
 } // namespace bench
 

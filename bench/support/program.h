@@ -12,6 +12,7 @@ namespace bench {
 ///     --quick        small sizes and fewer rounds
 ///     --rows=FILE    append the rows to FILE, too
 ///     --only=TEXT    only the workloads with TEXT in their name
+///     --cpu-time     measure processor time, for a machine with other work
 ///     --list         name the workloads and stop
 ///
 /// The result is the exit status: not zero when a result disagrees with a peer's or a formula's,

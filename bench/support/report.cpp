@@ -96,11 +96,14 @@ const cost* find_cost(const measurement& made, const std::string& name) {
     return nullptr;
 }
 
-std::string verdict_of(double goal, const cost& ours, const cost* peer) {
-    if (goal == 0.0) {
+std::string verdict_of(const contest& rules, const cost& ours, const cost* peer) {
+    if (rules.seconds_goal != 0.0) {
+        return met_text(ours.seconds <= rules.seconds_goal);
+    }
+    if (rules.goal == 0.0) {
         return "";
     }
-    return peer == nullptr ? "no peer" : met_text(ours.seconds <= goal * peer->seconds);
+    return peer == nullptr ? "no peer" : met_text(ours.seconds <= rules.goal * peer->seconds);
 }
 
 } // namespace
@@ -119,7 +122,7 @@ double growth_exponent(const std::vector<long>& sizes, const std::vector<double>
     return (n * sum_xy - sum_x * sum_y) / (n * sum_xx - sum_x * sum_x);
 }
 
-report::report(std::string reported, const std::string& rows_path, bool quick)
+report::report(std::string reported, const std::string& rows_path, bool quick, clock_kind clock)
     : program(std::move(reported)) {
     if (!rows_path.empty()) {
         rows.open(rows_path, std::ios::app);
@@ -129,6 +132,7 @@ report::report(std::string reported, const std::string& rows_path, bool quick)
     object.add("program", program);
     object.add("compiler", std::string(__VERSION__));
     object.add("quick", quick);
+    object.add("clock", std::string(clock == clock_kind::wall ? "wall-clock" : "processor"));
     object.add("load", current_load());
     write(object.str());
     if (current_load() > highest_calm_load) {
@@ -150,7 +154,7 @@ void report::add_row(const workload& measured, long size, const contest& rules,
     const cost& ours = made.costs.front();
     const cost* const peer =
         rules.peers.empty() ? nullptr : find_cost(made, rules.peers.front().name);
-    const std::string verdict = verdict_of(rules.goal, ours, peer);
+    const std::string verdict = verdict_of(rules, ours, peer);
     json_object object;
     object.add("kind", std::string("row"));
     object.add("program", program);
@@ -160,6 +164,7 @@ void report::add_row(const workload& measured, long size, const contest& rules,
     object.add("costs", made.costs);
     object.add("phases", made.phases);
     object.add("goal", rules.goal);
+    object.add("seconds_goal", rules.seconds_goal);
     object.add("stretch", rules.stretch);
     object.add("goal_peer", rules.peers.empty() ? std::string() : rules.peers.front().name);
     object.add("verdict", verdict);

@@ -15,7 +15,7 @@ namespace bench {
 class report {
 public:
     /// Writes rows for `program` to `rows_path`; an empty path writes none.
-    report(std::string program, const std::string& rows_path, bool quick);
+    report(std::string program, const std::string& rows_path, bool quick, clock_kind clock);
 
     /// Adds one size of a workload.
     void add_row(const workload& measured, long size, const contest& rules,

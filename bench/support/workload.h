@@ -2,79 +2,19 @@
 #define OX_BENCH_SUPPORT_WORKLOAD_H
 
 #include <functional>
-#include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
+#include <bench/support/contestant.h>
+
 namespace bench {
-
-/// A number that a run came to (a volume, an area, a count). `tolerance` is how far another
-/// contestant's number of that name may be from it, as a fraction of the larger one.
-struct fact {
-    std::string name;
-    double value = 0.0;
-    double tolerance = 0.0;
-};
-
-/// A part of a run that is timed for itself.
-struct phase {
-    std::string name;
-    double seconds = 0.0;
-};
-
-/// One run of a contestant on input made for it: the construction and the destruction are not
-/// timed, `run` is.
-class trial {
-public:
-    virtual ~trial() = default;
-    virtual void run() = 0;
-    virtual std::vector<fact> facts() = 0;
-    virtual std::vector<phase> phases() { return {}; }
-};
-
-/// The library or a peer, ready to run one workload at one size. One whose package is not
-/// installed has no `prepare` and is left out.
-struct contestant {
-    std::string name;
-    std::function<std::unique_ptr<trial>()> prepare;
-
-    bool is_present() const { return prepare != nullptr; }
-};
-
-/// A contestant that is not installed.
-inline contestant absent(std::string name) {
-    return {std::move(name), nullptr};
-}
-
-/// Makes a contestant of three functions. `make()` returns a fresh state (input and room for the
-/// result), `run(state)` is timed, and `facts_of(state)` tells what came out.
-template <class make_state, class run_state, class facts_of_state>
-contestant make_contestant(std::string name, make_state make, run_state run,
-                           facts_of_state facts_of) {
-    using state_type = decltype(make());
-    class state_trial : public trial {
-    public:
-        state_trial(const make_state& make, run_state run_with, facts_of_state facts_with)
-            : state(make()), run_function(std::move(run_with)),
-              facts_function(std::move(facts_with)) {}
-        void run() override { run_function(state); }
-        std::vector<fact> facts() override { return facts_function(state); }
-
-    private:
-        state_type state;
-        run_state run_function;
-        facts_of_state facts_function;
-    };
-    return {std::move(name),
-            [=] { return std::unique_ptr<trial>(new state_trial(make, run, facts_of)); }};
-}
 
 /// The library beside its peers on one input.
 struct contest {
     contestant ours;
     std::vector<contestant> peers; ///< the first is the one that the goal is about
     double goal = 0.0;             ///< at most this share of the first peer's time; 0: none
+    double seconds_goal = 0.0;     ///< at most this time, whatever the peers need; 0: none
     double stretch = 0.0;          ///< what would be still better; 0: none
     std::vector<fact> expected;    ///< what the library must come to, from a formula
 };
@@ -87,6 +27,21 @@ struct workload {
     std::vector<long> quick_sizes;
     std::function<contest(long size)> make;
     double growth_goal = 0.0; ///< at most this exponent of the size; 0: none
+    long goal_from = 0;       ///< smaller sizes are measured for the growth only: no goal
+
+    /// The same with a goal for its growth.
+    workload growing_at_most(double exponent) const {
+        workload changed = *this;
+        changed.growth_goal = exponent;
+        return changed;
+    }
+
+    /// The same without goals for sizes below `size`.
+    workload judged_from(long size) const {
+        workload changed = *this;
+        changed.goal_from = size;
+        return changed;
+    }
 };
 
 } // namespace bench

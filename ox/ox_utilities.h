@@ -18,11 +18,14 @@
 #include <ox/geometry/ox_color.h>
 #include <ox/geometry/ox_matrix.h>
 #include <ox/geometry/ox_polar.h>
+#include <ox/io/ox_csv.h>
 #include <ox/mesh/ox_mesh.h>
 #include <ox/mesh/ox_triangle_set.h>
 #include <ox/mesh/ox_vertex_optimizer.h>
 #include <ox/ox_functions.h>
 #include <ox/polygon/ox_polygon.h>
+#include <ox/progress/ox_progress_manager.h>
+#include <ox/progress/ox_thread.h>
 #include <ox/solid/ox_solid.h>
 
 #endif

@@ -1,8 +1,5 @@
 #include <examples/mesh_tool/arguments.h>
-
-#include <cmath>
-#include <cstdlib>
-#include <stdexcept>
+#include <examples/support/command_line.h>
 
 namespace mesh_tool {
 
@@ -11,50 +8,6 @@ namespace {
 /// A field of 10 million triangles; five levels multiply a mesh by 1024.
 constexpr int max_field_size = 2236;
 constexpr int max_levels = 5;
-
-[[noreturn]] void refuse(const std::string& reason) {
-    throw std::invalid_argument(reason);
-}
-
-/// The words of the command line, taken one after the other.
-class words {
-public:
-    words(int nb_words, char** all) : count(nb_words), list(all) {}
-
-    bool at_end() const { return next >= count; }
-
-    std::string take(const std::string& wanted) {
-        if (at_end()) {
-            refuse("missing " + wanted);
-        }
-        return list[next++];
-    }
-
-    float take_tolerance(const std::string& wanted) {
-        const std::string word = take(wanted);
-        char* end = nullptr;
-        const float value = std::strtof(word.c_str(), &end);
-        if (word.empty() || *end != '\0' || !std::isfinite(value) || value < 0.f) {
-            refuse("'" + word + "' is no " + wanted);
-        }
-        return value;
-    }
-
-    int take_count(const std::string& wanted, int highest) {
-        const std::string word = take(wanted);
-        char* end = nullptr;
-        const long value = std::strtol(word.c_str(), &end, 10);
-        if (word.empty() || *end != '\0' || value < 1 || value > highest) {
-            refuse("'" + word + "' is no " + wanted + " from 1 to " + std::to_string(highest));
-        }
-        return static_cast<int>(value);
-    }
-
-private:
-    int next = 1;
-    int count;
-    char** list;
-};
 
 } // namespace
 
@@ -71,7 +24,7 @@ const char* const usage =
 
 arguments parse(int argc, char** argv) {
     arguments result;
-    words line(argc, argv);
+    ox_examples::command_line line(argc, argv);
     while (!line.at_end()) {
         const std::string word = line.take("word");
         if (word == "--generate") {
@@ -88,11 +41,11 @@ arguments parse(int argc, char** argv) {
         } else if (word.rfind("--", 0) != 0 && result.file.empty()) {
             result.file = word;
         } else {
-            refuse("unexpected '" + word + "'");
+            ox_examples::refuse("unexpected '" + word + "'");
         }
     }
     if (result.file.empty() == (result.field_size == 0)) {
-        refuse("exactly one of FILE and --generate is needed");
+        ox_examples::refuse("exactly one of FILE and --generate is needed");
     }
     return result;
 }

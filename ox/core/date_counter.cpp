@@ -1,9 +1,10 @@
+#include <atomic>
 #include <ox/ox_functions.h>
 
 namespace ox {
 
 namespace {
-unsigned int last_date = 0;
+std::atomic<unsigned int> last_date{0};
 }
 
 unsigned int ox_get_date() {

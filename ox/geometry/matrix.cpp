@@ -206,7 +206,7 @@ void ox_matrix::log() const {
                   "\t%f - %f - %f\n\t%f - %f - %f\n\t%f - %f - %f\n\t%f - %f - %f", element(0),
                   element(1), element(2), element(4), element(5), element(6), element(8),
                   element(9), element(10), element(12), element(13), element(14));
-    ox_log(text);
+    ox_log_thread_safe(text);
 }
 
 } // namespace ox

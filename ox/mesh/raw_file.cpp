@@ -26,22 +26,22 @@ void log_counts(unsigned int nb_vertices, unsigned int nb_triangles) {
     char line[80];
     std::snprintf(line, sizeof line, "reading %d vertices and %d triangles",
                   static_cast<int>(nb_vertices), static_cast<int>(nb_triangles));
-    ox_log(line);
+    ox_log_thread_safe(line);
 }
 
 } // namespace
 
 bool ox_triangle_set::write_binary_raw(const char* path) {
-    ox_log("writing binary_raw...");
+    ox_log_thread_safe("writing binary_raw...");
     oxp_mesh_file file(path, "wb");
     if (!file.is_open()) {
         return false;
     }
-    ox_log("open file ok");
+    ox_log_thread_safe("open file ok");
     if (!file.write(magic, sizeof magic)) {
         return false;
     }
-    ox_log("header ok");
+    ox_log_thread_safe("header ok");
     if (!file.write(&nb_vertices, sizeof nb_vertices) ||
         !file.write(&nb_triangles, sizeof nb_triangles)) {
         return false;
@@ -49,23 +49,23 @@ bool ox_triangle_set::write_binary_raw(const char* path) {
     if (!file.write(vertices.get(), nb_vertices * bytes_per_vertex) ||
         !file.write(triangles.get(), nb_triangles * bytes_per_triangle) || !file.finish_writing()) {
         allocate(0, 0);
-        ox_log("Error writing file");
+        ox_log_thread_safe("Error writing file");
         return false;
     }
     return true;
 }
 
 bool ox_triangle_set::read_binary_raw(const char* path) {
-    ox_log("reading binary_raw...");
+    ox_log_thread_safe("reading binary_raw...");
     oxp_mesh_file file(path, "rb");
     if (!file.is_open()) {
         return false;
     }
-    ox_log("open file ok");
+    ox_log_thread_safe("open file ok");
     if (!read_magic(file)) {
         return false;
     }
-    ox_log("header ok");
+    ox_log_thread_safe("header ok");
     std::uint32_t counts[2];
     if (!file.read(counts, sizeof counts)) {
         return false;
@@ -73,7 +73,7 @@ bool ox_triangle_set::read_binary_raw(const char* path) {
     log_counts(counts[0], counts[1]);
     if (!read_raw_arrays(file, counts[0], counts[1])) {
         allocate(0, 0);
-        ox_log("Error reading file");
+        ox_log_thread_safe("Error reading file");
         return false;
     }
     return true;

@@ -32,7 +32,7 @@ static_assert(3 * sizeof(ox_3dvector) == corners_bytes, "corners are stored as t
 void log_number(const char* format, std::uint64_t number) {
     char line[80];
     std::snprintf(line, sizeof line, format, static_cast<int>(static_cast<std::uint32_t>(number)));
-    ox_log(line);
+    ox_log_thread_safe(line);
 }
 
 /// Reads `nb_records` records into three vertices each; false at the first block cut short.
@@ -55,22 +55,22 @@ bool read_corners(oxp_mesh_file& file, std::size_t nb_records, ox_3dvector* vert
 } // namespace
 
 bool ox_triangle_set::read_binary_stl(const char* path) {
-    ox_log("reading stl...");
+    ox_log_thread_safe("reading stl...");
     oxp_mesh_file file(path, "rb");
     if (!file.is_open()) {
         return false;
     }
-    ox_log("open file ok");
+    ox_log_thread_safe("open file ok");
     char header[header_bytes];
     if (!file.read(header, sizeof header)) {
         return false;
     }
-    ox_log("header ok");
+    ox_log_thread_safe("header ok");
     std::uint32_t nb_records = 0;
     if (!file.read(&nb_records, sizeof nb_records)) {
         return false;
     }
-    ox_log("nb of triangles ok");
+    ox_log_thread_safe("nb of triangles ok");
     log_number("reading %d triangles...", nb_records);
     log_number("triangle size : %d bytes.", logged_triangle_size);
     std::uint64_t nb_read = 0;

@@ -61,12 +61,12 @@ void ox_triangle_set::subdivide() {
         return;
     }
     if (std::uint64_t{4} * nb_triangles > max_count) {
-        ox_log("too many triangles");
+        ox_log_thread_safe("too many triangles");
         return;
     }
     const numbered_sides sides = number_sides(triangles.get(), 3 * nb_triangles, nb_vertices);
     if (nb_vertices + sides.first_corner.size() > max_count) {
-        ox_log("too many triangles");
+        ox_log_thread_safe("too many triangles");
         return;
     }
     ox_triangle_set refined(nb_vertices + static_cast<unsigned int>(sides.first_corner.size()),

@@ -46,7 +46,7 @@ bool ox_triangle_set::has_valid_triangles() const {
     const bool valid = std::all_of(indices, indices + std::size_t{3} * nb_triangles,
                                    [this](unsigned int index) { return index < nb_vertices; });
     if (!valid) {
-        ox_log("invalid triangle index");
+        ox_log_thread_safe("invalid triangle index");
     }
     return valid;
 }

@@ -41,7 +41,7 @@ void ox_triangle_set::optimize(float position_tolerance, float normal_tolerance)
         return;
     }
     if (!grow_over(octree, vertices.get(), nb_vertices)) {
-        ox_log("too many octrees");
+        ox_log_thread_safe("too many octrees");
         return;
     }
     // The indices are rewritten last, so that memory that runs out midway leaves them whole.

@@ -268,7 +268,7 @@ public:
 
     // Class-wide
 
-    /// The number of living polygons of the process (a plain, unlocked counter).
+    /// The number of living polygons of the process, whichever thread made them.
     static int get_instanced();
 
     /// Always 0.0: kept for programs that read it.

@@ -1,5 +1,6 @@
 // Life of a polygon: construction, copying, clearing and the count of living polygons.
 
+#include <atomic>
 #include <memory>
 
 #include <ox/polygon/internal/ox_polygon_data.h>
@@ -8,7 +9,8 @@
 namespace ox {
 namespace {
 
-int living_polygons = 0;
+// Polygons are made by all threads that cut solids of their own.
+std::atomic<int> living_polygons{0};
 
 } // namespace
 

@@ -225,13 +225,11 @@ public:
     /// and for every other value.
     double get_chrono(int slot);
 
-    /// The number of living solids of the process (a plain, unlocked counter).
+    /// The number of living solids of the process, whichever thread made them.
     static int get_instanced();
 
 private:
     std::unique_ptr<ox_solid_state> state;
-
-    static int instanced;
 };
 
 } // namespace ox

@@ -1,19 +1,24 @@
+#include <atomic>
 #include <ox/solid/internal/ox_solid_state.h>
 #include <ox/solid/ox_solid.h>
 
 namespace ox {
 
-int ox_solid::instanced = 0;
+namespace {
+
+std::atomic<int> living_solids{0}; // made by threads that each work on solids of their own
+
+} // namespace
 
 // Construction and copying
 
 ox_solid::ox_solid() : state(std::make_unique<ox_solid_state>(this)) {
-    ++instanced;
+    ++living_solids;
 }
 
 ox_solid::ox_solid(const ox_solid& source)
     : state(std::make_unique<ox_solid_state>(this, *source.state)) {
-    ++instanced;
+    ++living_solids;
 }
 
 ox_solid& ox_solid::operator=(const ox_solid& source) {
@@ -24,7 +29,7 @@ ox_solid& ox_solid::operator=(const ox_solid& source) {
 }
 
 ox_solid::~ox_solid() {
-    --instanced;
+    --living_solids;
 }
 
 // Primary storage
@@ -85,7 +90,7 @@ double ox_solid::get_chrono(int slot) {
 }
 
 int ox_solid::get_instanced() {
-    return instanced;
+    return living_solids;
 }
 
 } // namespace ox

@@ -1,0 +1,86 @@
+#include <cstdio>
+#include <memory>
+#include <ox/io/internal/csv_detection.h>
+#include <ox/io/internal/open_file.h>
+#include <ox/io/internal/ox_csv_state.h>
+#include <string>
+#include <utility>
+
+namespace ox {
+
+namespace {
+
+/// Gives each column its header cells, which follow each other even where a line has none.
+void take_headers(std::vector<ox_csv_column>& columns, const cell_text& text,
+                  std::size_t nb_header_lines) {
+    for (std::size_t line = 0; line < nb_header_lines; ++line) {
+        for (std::size_t i = 0; i < text.get_nb_cells(line); ++i) {
+            columns[i].headers.push_back(text.get_cell(line, i));
+        }
+    }
+    for (ox_csv_column& column : columns) {
+        column.nb_headers = column.headers.size();
+    }
+}
+
+/// Each column ends at the last line that reaches into it: going up, every longer line ends more
+/// columns.
+void count_values(std::vector<ox_csv_column>& columns, const cell_text& text,
+                  std::size_t nb_header_lines) {
+    std::size_t nb_counted = 0;
+    for (std::size_t line = text.get_nb_lines(); line > nb_header_lines; --line) {
+        for (; nb_counted < text.get_nb_cells(line - 1); ++nb_counted) {
+            columns[nb_counted].nb_values = line - nb_header_lines;
+        }
+    }
+}
+
+/// Replaces all columns by those of `text`, which the table keeps.
+void read_text(oxp_csv_state& state, std::string text) {
+    const separator_choice choice = choose_separator(text);
+    const auto kept = std::make_shared<const cell_text>(std::move(text), choice.separator,
+                                                        choice.nb_cells, choice.nb_line_breaks);
+    const std::size_t nb_header_lines = count_header_lines(*kept, choice.nb_line_breaks);
+    std::vector<ox_csv_column> columns(kept->get_nb_columns());
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        columns[i].text = kept;
+        columns[i].place = i;
+        columns[i].first_line = nb_header_lines;
+    }
+    take_headers(columns, *kept, nb_header_lines);
+    count_values(columns, *kept, nb_header_lines);
+    state.columns = std::move(columns);
+    state.column_separator = choice.separator;
+}
+
+/// Reads all of a file. False when it cannot be opened or read.
+bool read_whole_file(const std::string& path, std::string& text) {
+    const open_file file(std::fopen(path.c_str(), "rb"));
+    if (file == nullptr) {
+        return false;
+    }
+    char block[65536];
+    std::size_t length = 0;
+    while ((length = std::fread(block, 1, sizeof block, file.get())) > 0) {
+        text.append(block, length);
+    }
+    return std::ferror(file.get()) == 0;
+}
+
+} // namespace
+
+bool ox_csv::read_file(const std::string& path) {
+    std::string text;
+    if (!read_whole_file(path, text)) {
+        return false;
+    }
+    read_text(*state, std::move(text));
+    return true;
+}
+
+bool ox_csv::read_string(const std::string& text) {
+    read_text(*state, text);
+    return true;
+}
+
+} // namespace ox

@@ -49,7 +49,7 @@ ClipperLib::Paths to_paths(const contour_lists& contours) {
     return paths;
 }
 
-contest merge(const contour_lists& contours, double goal) {
+contest merge(const contour_lists& contours) {
     const auto kept = std::make_shared<const contour_lists>(contours);
     contest rules;
     rules.ours = make_contestant(
@@ -67,7 +67,7 @@ contest merge(const contour_lists& contours, double goal) {
         });
     rules.peers = {
         peers::clipper_even_odd_union(to_paths(contours), static_cast<double>(grid_unit))};
-    rules.goal = goal;
+    rules.goal = 1.05;
     return rules;
 }
 
@@ -78,13 +78,13 @@ std::vector<workload> merging_workloads() {
                      "squares",
                      {100, 1000, 10000},
                      {100, 300, 1000},
-                     [](long n) { return merge(squares(n, 0.7f, 1.0f), 1.05); }}
+                     [](long n) { return merge(squares(n, 0.7f, 1.0f)); }}
                 .judged_from(1000),
             workload{"squares that keep apart merged",
                      "squares",
                      {1000, 10000, 100000},
                      {100, 1000, 10000},
-                     [](long n) { return merge(squares(n, 1.0f, 0.5f), 1.0); }}
+                     [](long n) { return merge(squares(n, 1.0f, 0.5f)); }}
                 .judged_from(100000)};
 }
 

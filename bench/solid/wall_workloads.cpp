@@ -58,19 +58,23 @@ contestant clipper_big_faces(long openings) {
     return peer;
 }
 
-contest cut_one_after_another(long openings) {
-    contest rules;
-    rules.ours = make_contestant(
+// The library on one wall: `cut` takes the tools out of it.
+contestant cut_by(long openings, void (*cut)(wall_and_tools&)) {
+    return make_contestant(
         "ox_solid",
         [=] {
             return wall_and_tools{wall_solid(openings), opening_tools(openings)};
         },
-        [](wall_and_tools& w) {
-            for (ox_solid& tool : w.tools) {
-                w.wall.substracts(tool);
-            }
-        },
-        facts_of);
+        cut, facts_of);
+}
+
+contest cut_one_after_another(long openings) {
+    contest rules;
+    rules.ours = cut_by(openings, [](wall_and_tools& w) {
+        for (ox_solid& tool : w.tools) {
+            w.wall.substracts(tool);
+        }
+    });
     if (openings < first_long_wall) {
         rules.peers = {peers::cgal_differences(wall_mesh(openings), opening_meshes(openings))};
         rules.goal = openings < 100 ? 0.20 : 0.06;
@@ -84,19 +88,13 @@ contest cut_one_after_another(long openings) {
 
 contest cut_at_once(long openings) {
     contest rules;
-    rules.ours = make_contestant(
-        "ox_solid",
-        [=] {
-            return wall_and_tools{wall_solid(openings), opening_tools(openings)};
-        },
-        [](wall_and_tools& w) {
-            ox_solid united;
-            for (ox_solid& tool : w.tools) {
-                united.unites(tool);
-            }
-            w.wall.substracts(united);
-        },
-        facts_of);
+    rules.ours = cut_by(openings, [](wall_and_tools& w) {
+        ox_solid united;
+        for (ox_solid& tool : w.tools) {
+            united.unites(tool);
+        }
+        w.wall.substracts(united);
+    });
     rules.peers = {peers::cgal_joined_difference(wall_mesh(openings), opening_meshes(openings))};
     rules.goal = 0.1;
     rules.expected = expected_facts(openings);

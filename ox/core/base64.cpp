@@ -33,17 +33,20 @@ constexpr byte_table make_digit_values() {
 
 constexpr byte_table digit_values = make_digit_values();
 
-/// Marks what a group of fewer than three bytes has in place of its third or fourth digit. The 24
-/// bits of the group are below it.
+/// Marks what a group of fewer than three bytes has in place of its third or fourth digit. The
+/// group's bytes are below it.
 constexpr unsigned int short_group = 1u << 31;
 
-/// What each character adds to the 24 bits of its group, as the digit at `shift`. Characters
-/// outside the alphabet end the group when they `end_groups`, otherwise their value takes part.
+/// What each character adds to the three bytes of its group, of which the first is the lowest of
+/// the result, as the digit at `shift`. Characters outside the alphabet end the group when they
+/// `end_groups`, otherwise their value takes part.
 constexpr byte_table make_shares(unsigned int shift, bool end_groups) {
     byte_table shares{};
     for (std::size_t c = 0; c < shares.size(); ++c) {
         const bool ends = end_groups && digit_values[c] == no_digit;
-        shares[c] = ends ? short_group : (digit_values[c] << shift) & 0xFFFFFFu;
+        const unsigned int bits = digit_values[c] << shift;
+        const unsigned int bytes = ((bits >> 16) & 0xFF) | (bits & 0xFF00) | ((bits & 0xFF) << 16);
+        shares[c] = ends ? short_group : bytes;
     }
     return shares;
 }
@@ -78,13 +81,6 @@ std::uint64_t load(const unsigned char* bytes) {
     return number;
 }
 
-/// Stores what `load` reads.
-void store(std::uint64_t number, unsigned char* bytes) {
-    for (int i = 0; i < 8; ++i) {
-        bytes[i] = static_cast<unsigned char>(number >> (56 - 8 * i));
-    }
-}
-
 unsigned char character(unsigned int digit) {
     return static_cast<unsigned char>(alphabet[digit & 63]);
 }
@@ -117,8 +113,9 @@ int decoded_size(const unsigned char* group) {
     return digit_values[group[3]] == no_digit ? 2 : 3;
 }
 
-/// The 24 bits of a group of four characters, and perhaps the mark of a short one.
-unsigned int bits_of_group(const unsigned char* group) {
+/// The three bytes of a group of four characters, the first lowest, and perhaps the mark of a short
+/// one.
+unsigned int bytes_of_group(const unsigned char* group) {
     return first_shares[group[0]] | second_shares[group[1]] | third_shares[group[2]] |
            fourth_shares[group[3]];
 }
@@ -126,21 +123,24 @@ unsigned int bits_of_group(const unsigned char* group) {
 /// Writes the bytes of a group of four characters and returns where they end.
 unsigned char* decode_group(const unsigned char* group, unsigned char* bytes) {
     const int size = decoded_size(group);
-    const unsigned int bits = bits_of_group(group);
+    const unsigned int decoded = bytes_of_group(group);
     for (int i = 0; i < size; ++i) {
-        bytes[i] = static_cast<unsigned char>(bits >> (16 - 8 * i));
+        bytes[i] = static_cast<unsigned char>(decoded >> (8 * i));
     }
     return bytes + size;
 }
 
-/// Does the same for two groups. Overwrites two bytes behind.
+/// Does the same for two groups.
 unsigned char* decode_two_groups(const unsigned char* groups, unsigned char* bytes) {
-    const unsigned int first = bits_of_group(groups);
-    const unsigned int second = bits_of_group(groups + 4);
+    const unsigned int first = bytes_of_group(groups);
+    const unsigned int second = bytes_of_group(groups + 4);
     if (((first | second) & short_group) != 0) {
         return decode_group(groups + 4, decode_group(groups, bytes));
     }
-    store((std::uint64_t{first} << 40) | (std::uint64_t{second} << 16), bytes);
+    const std::uint64_t decoded = first | (std::uint64_t{second} << 24);
+    for (int i = 0; i < 6; ++i) {
+        bytes[i] = static_cast<unsigned char>(decoded >> (8 * i));
+    }
     return bytes + 6;
 }
 
@@ -179,7 +179,7 @@ ox_list<unsigned char> ox_from_b64(const ox_list<unsigned char>& text) {
     ox_list<unsigned char> bytes = grown_byte_list(expected);
     unsigned char* target = bytes.get_data();
     int i = 0;
-    for (; i < n - 12; i += 8) { // the two groups left are four bytes or more
+    for (; i <= n - 8; i += 8) {
         target = decode_two_groups(source + i, target);
     }
     for (; i < n; i += 4) {

@@ -6,22 +6,9 @@
 #include <string>
 
 #include <tests/support/log_capture.h>
+#include <tests/support/recording_manager.h>
 
 namespace {
-
-/// Keeps what it is told, and asks to stop at the report of a given number.
-class recorder : public ox::ox_progress_manager {
-public:
-    explicit recorder(int stopping_report = -1) : stop_at(stopping_report) {}
-    bool set_progress(double progress) override {
-        reports.push_back(progress);
-        return static_cast<int>(reports.size()) - 1 != stop_at;
-    }
-    std::vector<double> reports;
-
-private:
-    int stop_at;
-};
 
 ox::ox_csv four_rows() {
     ox::ox_csv table;
@@ -67,7 +54,7 @@ TEST(CsvWriting, AnsiEncodingRefusesHeadersThatAreNotUtf8) {
 }
 
 TEST(CsvWriting, EveryValueRowIsReportedWithinTheShare) {
-    recorder manager;
+    recording_manager manager;
     ox::ox_csv table = four_rows();
     table.set_progress_manager(&manager, 0.5, 1.0);
     table.write_string();
@@ -75,7 +62,7 @@ TEST(CsvWriting, EveryValueRowIsReportedWithinTheShare) {
 }
 
 TEST(CsvWriting, ReportsAreNotMappedIntoTheCurrentPhase) {
-    recorder manager;
+    recording_manager manager;
     manager.add_phase("first", "", 1.0);
     manager.add_phase("second", "", 1.0);
     manager.set_current_phase("second");
@@ -88,7 +75,7 @@ TEST(CsvWriting, ReportsAreNotMappedIntoTheCurrentPhase) {
 
 TEST(CsvWriting, StoppedAtAnyReportItGivesAnEmptyText) {
     for (int report = 0; report < 4; ++report) {
-        recorder manager(report);
+        recording_manager manager(report);
         ox::ox_csv table = four_rows();
         table.set_progress_manager(&manager, 0.0, 1.0);
         EXPECT_EQ(table.write_string(), "");
@@ -99,7 +86,7 @@ TEST(CsvWriting, StoppedAtAnyReportItGivesAnEmptyText) {
 }
 
 TEST(CsvWriting, ReadingDoesNotAskTheManager) {
-    recorder manager(0);
+    recording_manager manager(0);
     ox::ox_csv table;
     table.set_progress_manager(&manager, 0.0, 1.0);
     EXPECT_TRUE(table.read_string("a;b\n1;2\n"));
@@ -118,7 +105,7 @@ TEST(CsvWriting, AStoppedFileIsEmptyAndStillLoggedAsSuccess) {
     const support::log_capture log;
     const std::string path = support::own_file(".csv");
     support::write_text(path, "before");
-    recorder manager(1);
+    recording_manager manager(1);
     ox::ox_csv table = four_rows();
     table.set_progress_manager(&manager, 0.0, 1.0);
     EXPECT_TRUE(table.write_file(path));

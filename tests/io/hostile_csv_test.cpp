@@ -15,6 +15,26 @@ TEST(HostileCsv, AMillionLineBreaksThenOneCell) {
     EXPECT_EQ(column_of(table, 0).size(), 1000001u);
 }
 
+TEST(HostileCsv, AMillionLineBreaksThenOneCellThatEndsTheText) {
+    ox::ox_csv table;
+    table.read_string(std::string(1000000, '\n') + "cell");
+    ASSERT_EQ(table.get_nb_columns(), 1);
+    EXPECT_EQ(column_of(table, 0), cells(1000000)); // the last cell is not read
+}
+
+TEST(HostileCsv, OnlySeparatorsMakeEmptyCells) {
+    for (const char separator : {'\t', ',', ';'}) {
+        const std::string row(1000, separator);
+        ox::ox_csv table;
+        table.read_string(row);
+        EXPECT_EQ(table.get_column_separator(), separator);
+        ASSERT_EQ(table.get_nb_columns(), 1001);
+        EXPECT_EQ(column_of(table, 0), cells(1));
+        EXPECT_EQ(column_of(table, 1000), cells());
+        EXPECT_EQ(table.write_string(), row + "\n");
+    }
+}
+
 TEST(HostileCsv, AMillionEmptyRowsAreFilledUpInEveryColumn) {
     std::string text;
     for (int i = 0; i < 1000000; ++i) {

@@ -1,11 +1,10 @@
-#include "recording_manager.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <string>
 
 #include <tests/support/generator.h>
 #include <tests/support/log_capture.h>
+#include <tests/support/recording_manager.h>
 
 namespace {
 
@@ -37,6 +36,11 @@ TEST(Experience, ABrokenLineEndsTheReadingAndKeepsTheLinesBeforeIt) {
     const std::string text = "load 10\nsave many\nprint 5\n";
     EXPECT_EQ(learnt_weight(text, "load"), 10.0);
     EXPECT_EQ(learnt_weight(text, "print"), 1.0);
+}
+
+TEST(Experience, ALastLineWithoutALineBreakCounts) {
+    EXPECT_EQ(learnt_weight("load 10\nsave 20", "save"), 20.0);
+    EXPECT_EQ(learnt_weight("load 10\nsave", "save"), 1.0);
 }
 
 TEST(Experience, ANumberThatIsNotFiniteEndsTheReading) {

@@ -1,5 +1,3 @@
-#include "recording_manager.h"
-
 #include <cmath>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -7,6 +5,8 @@
 #include <memory>
 #include <string>
 #include <utility>
+
+#include <tests/support/recording_manager.h>
 
 namespace {
 

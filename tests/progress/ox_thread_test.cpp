@@ -1,9 +1,10 @@
 #include "numbered_work.h"
-#include "recording_manager.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <thread>
+
+#include <tests/support/recording_manager.h>
 
 namespace {
 

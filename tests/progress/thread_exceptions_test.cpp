@@ -1,9 +1,10 @@
 #include "numbered_work.h"
-#include "recording_manager.h"
 
 #include <atomic>
 #include <gtest/gtest.h>
 #include <stdexcept>
+
+#include <tests/support/recording_manager.h>
 
 namespace {
 

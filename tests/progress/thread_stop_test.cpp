@@ -1,8 +1,9 @@
 #include "numbered_work.h"
-#include "recording_manager.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <tests/support/recording_manager.h>
 
 namespace {
 

@@ -1,5 +1,5 @@
-#ifndef OX_TESTS_PROGRESS_RECORDING_MANAGER_H
-#define OX_TESTS_PROGRESS_RECORDING_MANAGER_H
+#ifndef OX_TESTS_SUPPORT_RECORDING_MANAGER_H
+#define OX_TESTS_SUPPORT_RECORDING_MANAGER_H
 
 #include <ox/progress/ox_progress_manager.h>
 #include <vector>

@@ -3,8 +3,9 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <sstream>
 #include <utility>
+
+#include "json_object.h"
 
 namespace bench {
 namespace {
@@ -26,48 +27,6 @@ double current_load() {
 const char* met_text(bool is_met) {
     return is_met ? "met" : "NOT MET";
 }
-
-std::string quoted(const std::string& text) {
-    std::string result = "\"";
-    for (const char c : text) {
-        if (c == '"' || c == '\\') {
-            result += '\\';
-        }
-        result += c;
-    }
-    return result + '"';
-}
-
-/// The fields of one JSON object.
-class json_object {
-public:
-    json_object() { text.precision(6); }
-
-    void add(const std::string& key, const std::string& value) { begin(key) << quoted(value); }
-    void add(const std::string& key, double value) { begin(key) << value; }
-    void add(const std::string& key, bool value) { begin(key) << (value ? "true" : "false"); }
-    void add(const std::string& key, const std::vector<cost>& costs) {
-        begin(key) << '[';
-        for (std::size_t i = 0; i < costs.size(); ++i) {
-            text << (i == 0 ? "" : ",") << "{\"name\":" << quoted(costs[i].name)
-                 << ",\"seconds\":" << costs[i].seconds << ",\"mebibytes\":" << costs[i].mebibytes
-                 << '}';
-        }
-        text << ']';
-    }
-
-    std::string str() const { return "{" + text.str() + "}"; }
-
-private:
-    std::ostream& begin(const std::string& key) {
-        text << (is_first ? "" : ",") << quoted(key) << ':';
-        is_first = false;
-        return text;
-    }
-
-    std::ostringstream text;
-    bool is_first = true;
-};
 
 std::string time_text(double seconds) {
     char text[32];
@@ -96,7 +55,14 @@ const cost* find_cost(const measurement& made, const std::string& name) {
     return nullptr;
 }
 
-std::string verdict_of(const contest& rules, const cost& ours, const cost* peer) {
+// The peer that the goal is about, null when it is not installed.
+const cost* judged_peer(const contest& rules, const measurement& made) {
+    return rules.peers.empty() ? nullptr : find_cost(made, rules.peers.front().name);
+}
+
+std::string verdict_of(const contest& rules, const measurement& made) {
+    const cost& ours = made.costs.front();
+    const cost* const peer = judged_peer(rules, made);
     if (rules.seconds_goal != 0.0) {
         return met_text(ours.seconds <= rules.seconds_goal);
     }
@@ -104,6 +70,34 @@ std::string verdict_of(const contest& rules, const cost& ours, const cost* peer)
         return "";
     }
     return peer == nullptr ? "no peer" : met_text(ours.seconds <= rules.goal * peer->seconds);
+}
+
+std::string goal_text(const contest& rules) {
+    if (rules.seconds_goal != 0.0) {
+        return time_text(rules.seconds_goal);
+    }
+    return rules.goal != 0.0 ? number_text(rules.goal) : "";
+}
+
+void print_row(const workload& measured, long size, const contest& rules, const measurement& made,
+               const std::string& verdict) {
+    const cost& ours = made.costs.front();
+    const cost* const peer = judged_peer(rules, made);
+    std::printf("%-58s %10ld %10s  %-36s %7s %7s %-8s %6d %8.1f\n", measured.name.c_str(), size,
+                time_text(ours.seconds).c_str(), peer ? peer->name.c_str() : "",
+                peer ? number_text(ours.seconds / peer->seconds).c_str() : "",
+                goal_text(rules).c_str(), verdict.c_str(), made.rounds, ours.mebibytes);
+    for (std::size_t i = 1; i < made.costs.size(); ++i) {
+        std::printf("    %-65s %10s  %54s %14.1f\n", made.costs[i].name.c_str(),
+                    time_text(made.costs[i].seconds).c_str(), "", made.costs[i].mebibytes);
+    }
+    for (const cost& c : made.phases) {
+        std::printf("    phase %-59s %10s\n", c.name.c_str(), time_text(c.seconds).c_str());
+    }
+    for (const std::string& disagreement : made.disagreements) {
+        std::printf("    DISAGREES: %s\n", disagreement.c_str());
+    }
+    std::fflush(stdout);
 }
 
 } // namespace
@@ -139,7 +133,7 @@ report::report(std::string reported, const std::string& rows_path, bool quick, c
         std::fprintf(stderr, "The load is %.1f: other work disturbs the figures.\n",
                      current_load());
     }
-    std::printf("%-58s %10s %10s  %-30s %7s %7s %-8s %6s %8s\n", program.c_str(), "size", "ours",
+    std::printf("%-58s %10s %10s  %-36s %7s %7s %-8s %6s %8s\n", program.c_str(), "size", "ours",
                 "peer", "ratio", "goal", "", "rounds", "MiB");
 }
 
@@ -151,10 +145,7 @@ void report::write(const std::string& object) {
 
 void report::add_row(const workload& measured, long size, const contest& rules,
                      const measurement& made) {
-    const cost& ours = made.costs.front();
-    const cost* const peer =
-        rules.peers.empty() ? nullptr : find_cost(made, rules.peers.front().name);
-    const std::string verdict = verdict_of(rules, ours, peer);
+    const std::string verdict = verdict_of(rules, made);
     json_object object;
     object.add("kind", std::string("row"));
     object.add("program", program);
@@ -171,23 +162,7 @@ void report::add_row(const workload& measured, long size, const contest& rules,
     object.add("rounds", static_cast<double>(made.rounds));
     object.add("agrees", made.disagreements.empty());
     write(object.str());
-
-    std::printf("%-58s %10ld %10s  %-30s %7s %7s %-8s %6d %8.1f\n", measured.name.c_str(), size,
-                time_text(ours.seconds).c_str(), peer ? peer->name.c_str() : "",
-                peer ? number_text(ours.seconds / peer->seconds).c_str() : "",
-                rules.goal != 0.0 ? number_text(rules.goal).c_str() : "", verdict.c_str(),
-                made.rounds, ours.mebibytes);
-    for (std::size_t i = 1; i < made.costs.size(); ++i) {
-        std::printf("    %-65s %10s  %48s %12.1f\n", made.costs[i].name.c_str(),
-                    time_text(made.costs[i].seconds).c_str(), "", made.costs[i].mebibytes);
-    }
-    for (const cost& c : made.phases) {
-        std::printf("    phase %-59s %10s\n", c.name.c_str(), time_text(c.seconds).c_str());
-    }
-    for (const std::string& disagreement : made.disagreements) {
-        std::printf("    DISAGREES: %s\n", disagreement.c_str());
-    }
-    std::fflush(stdout);
+    print_row(measured, size, rules, made, verdict);
 }
 
 void report::add_growth(const workload& measured, const std::vector<long>& sizes,

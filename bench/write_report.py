@@ -22,6 +22,7 @@ PEER_PACKAGES = [
     "libeigen3-dev",
     "libglu1-mesa-dev",
     "libmeshoptimizer-dev",
+    "libocct-modeling-algorithms-dev",
     "libopenmesh-dev",
     "libpolyclipping-dev",
     "libssl-dev",

@@ -1,4 +1,5 @@
 #include <bench/peers/cgal.h>
+#include <bench/peers/occt.h>
 
 #include <bench/support/shape_facts.h>
 
@@ -11,6 +12,9 @@ using ox::ox_3dvector;
 using ox::ox_solid;
 
 constexpr float pitch = 0.75f;
+
+// Beyond, Open CASCADE takes minutes.
+constexpr long most_for_occt = 100;
 
 struct cubes {
     std::vector<ox_solid> parts;
@@ -50,6 +54,9 @@ contest unite_row(long count) {
                                      {"faces", static_cast<double>(c.row.get_faces().size()), 0.0}};
         });
     rules.peers = {peers::cgal_unions(cube_meshes(count))};
+    if (count <= most_for_occt) {
+        rules.peers.push_back(peers::occt_unions(cube_meshes(count)));
+    }
     rules.goal = 0.1;
     rules.expected = {
         {"volume", static_cast<double>(pitch) * static_cast<double>(count - 1) + 1.0, 1e-4},

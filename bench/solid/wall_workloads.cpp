@@ -1,5 +1,6 @@
 #include <bench/peers/cgal.h>
 #include <bench/peers/clipper.h>
+#include <bench/peers/occt.h>
 
 #include <bench/support/shape_facts.h>
 
@@ -76,7 +77,8 @@ contest cut_one_after_another(long openings) {
         }
     });
     if (openings < first_long_wall) {
-        rules.peers = {peers::cgal_differences(wall_mesh(openings), opening_meshes(openings))};
+        rules.peers = {peers::cgal_differences(wall_mesh(openings), opening_meshes(openings)),
+                       peers::occt_differences(wall_mesh(openings), opening_meshes(openings))};
         rules.goal = openings < 100 ? 0.20 : 0.06;
     } else {
         rules.peers = {clipper_big_faces(openings)};

@@ -13,7 +13,7 @@ namespace bench {
 namespace {
 
 constexpr patience full_patience = {5, 25, 1.0, 240.0};
-constexpr patience quick_patience = {2, 5, 0.2, 5.0};
+constexpr patience quick_patience = {2, 5, 0.2, 12.0};
 
 struct options {
     bool quick = false;

@@ -9,5 +9,7 @@ int main(int argc, char** argv) {
     workloads.push_back(bench::tessellation_with_holes());
     workloads.push_back(bench::faces_of_a_model());
     workloads.push_back(bench::best_center_of_a_slab());
+    const std::vector<bench::workload> distributions = bench::distribution_workloads();
+    workloads.insert(workloads.end(), distributions.begin(), distributions.end());
     return bench::run_program(argc, argv, workloads);
 }

@@ -19,6 +19,9 @@ workload faces_of_a_model();
 /// The place for the label of a slab.
 workload best_center_of_a_slab();
 
+/// Points scattered over a region, regularly and at random.
+std::vector<workload> distribution_workloads();
+
 } // namespace bench
 
 #endif

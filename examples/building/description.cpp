@@ -1,24 +1,19 @@
 #include <examples/building/description.h>
 
 #include <examples/building/description_checks.h>
-#include <examples/building/line_reader.h>
-
-#include <filesystem>
-#include <fstream>
-#include <map>
-#include <set>
+#include <examples/support/record_reader.h>
 
 namespace building {
 
 namespace {
 
-/// Bytes. A hundred times the largest description we know; larger files are no descriptions.
-constexpr std::uintmax_t largest_file = 1 << 20;
+using ox_examples::line_reader;
+using ox_examples::quoted;
 
-/// Turns the lines of a description into records, one keyword each.
+/// Turns the lines of a description into records.
 class parser {
 public:
-    void read(line_reader& line);
+    void read(const std::string& path);
 
     description result;
 
@@ -32,29 +27,23 @@ private:
     void read_roof(line_reader& line);
     void read_slope(line_reader& line);
 
-    std::string read_new_name(line_reader& line);
     std::size_t read_storey_number(line_reader& line);
 
-    std::set<std::string> names;
+    ox_examples::unique_names names;
 };
 
-void parser::read(line_reader& line) {
-    static const std::map<std::string, void (parser::*)(line_reader&)> keywords = {
-        {"building", &parser::read_building}, {"storey", &parser::read_storey},
-        {"wall", &parser::read_wall},         {"opening", &parser::read_opening},
-        {"slab", &parser::read_slab},         {"hole", &parser::read_hole},
-        {"roof", &parser::read_roof},         {"slope", &parser::read_slope},
-    };
-    if (line.at_end()) {
-        return;
-    }
-    const std::string keyword = line.word("keyword");
-    const auto found = keywords.find(keyword);
-    if (found == keywords.end()) {
-        line.fail("unknown keyword " + quoted(keyword));
-    }
-    (this->*found->second)(line);
-    line.expect_end();
+void parser::read(const std::string& path) {
+    ox_examples::read_records(path,
+                              {
+                                  {"building", [this](line_reader& line) { read_building(line); }},
+                                  {"storey", [this](line_reader& line) { read_storey(line); }},
+                                  {"wall", [this](line_reader& line) { read_wall(line); }},
+                                  {"opening", [this](line_reader& line) { read_opening(line); }},
+                                  {"slab", [this](line_reader& line) { read_slab(line); }},
+                                  {"hole", [this](line_reader& line) { read_hole(line); }},
+                                  {"roof", [this](line_reader& line) { read_roof(line); }},
+                                  {"slope", [this](line_reader& line) { read_slope(line); }},
+                              });
 }
 
 /// The record of that name among `records`.
@@ -67,14 +56,6 @@ std::size_t find_record(line_reader& line, const std::vector<T>& records, const 
         }
     }
     line.fail("unknown " + kind + " " + quoted(name));
-}
-
-std::string parser::read_new_name(line_reader& line) {
-    const std::string name = line.name("name");
-    if (!names.insert(name).second) {
-        line.fail("duplicate name " + quoted(name));
-    }
-    return name;
 }
 
 std::size_t parser::read_storey_number(line_reader& line) {
@@ -107,7 +88,7 @@ void parser::read_storey(line_reader& line) {
 void parser::read_wall(line_reader& line) {
     wall w;
     w.line = line.get_line();
-    w.name = read_new_name(line);
+    w.name = names.take(line);
     w.storey = read_storey_number(line);
     w.from = line.labelled_point("from");
     w.to = line.labelled_point("to");
@@ -119,7 +100,7 @@ void parser::read_wall(line_reader& line) {
 void parser::read_opening(line_reader& line) {
     opening o;
     o.line = line.get_line();
-    o.name = read_new_name(line);
+    o.name = names.take(line);
     line.label("wall");
     o.wall = find_record(line, result.walls, "wall");
     o.distance = line.labelled_number("at");
@@ -132,7 +113,7 @@ void parser::read_opening(line_reader& line) {
 void parser::read_slab(line_reader& line) {
     slab s;
     s.line = line.get_line();
-    s.name = read_new_name(line);
+    s.name = names.take(line);
     s.level = line.labelled_number("level");
     s.thickness = line.labelled_size("thickness");
     line.label("outline");
@@ -149,7 +130,7 @@ void parser::read_hole(line_reader& line) {
 void parser::read_roof(line_reader& line) {
     roof r;
     r.line = line.get_line();
-    r.name = read_new_name(line);
+    r.name = names.take(line);
     r.storey = read_storey_number(line);
     r.level = line.labelled_number("level");
     r.thickness = line.labelled_size("thickness");
@@ -168,35 +149,11 @@ void parser::read_slope(line_reader& line) {
     r.slopes.push_back(s);
 }
 
-/// The lines of the file at `path`, which must be a plain one: a device has no end.
-std::vector<std::string> read_lines(const std::string& path) {
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(path, error)) {
-        throw description_error(path, 0, "no such file");
-    }
-    if (std::filesystem::file_size(path, error) > largest_file) {
-        throw description_error(path, 0, "too large for a description");
-    }
-    std::ifstream file(path);
-    std::vector<std::string> lines;
-    for (std::string text; std::getline(file, text);) {
-        lines.push_back(text);
-    }
-    if (!file.eof()) {
-        throw description_error(path, 0, "the file cannot be read");
-    }
-    return lines;
-}
-
 } // namespace
 
 description read_description(const std::string& path) {
     parser p;
-    int number = 0;
-    for (const std::string& text : read_lines(path)) {
-        line_reader line(path, ++number, text);
-        p.read(line);
-    }
+    p.read(path);
     check_description(p.result, path);
     return p.result;
 }

@@ -1,20 +1,18 @@
 #ifndef OX_EXAMPLES_BUILDING_DESCRIPTION_H
 #define OX_EXAMPLES_BUILDING_DESCRIPTION_H
 
+#include <examples/support/description_file.h>
+#include <examples/support/plan_point.h>
+
 #include <cstddef>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 namespace building {
 
-/// A point of the ground plan, in metres.
-struct plan_point {
-    double x = 0;
-    double y = 0;
-};
-
-using plan_contour = std::vector<plan_point>;
+using ox_examples::description_error;
+using ox_examples::plan_contour;
+using ox_examples::plan_point;
 
 /// A storey: its position in the list is its number, `level` the height of its floor.
 struct storey {
@@ -83,13 +81,6 @@ struct description {
     std::vector<opening> openings;
     std::vector<slab> slabs;
     std::vector<roof> roofs;
-};
-
-/// What is wrong with a description, as `file:line: reason`.
-class description_error : public std::runtime_error {
-public:
-    description_error(const std::string& file, int line, const std::string& reason)
-        : std::runtime_error(file + ":" + std::to_string(line) + ": " + reason) {}
 };
 
 /// Reads and checks the description at `path`. Throws `description_error` at the first thing that

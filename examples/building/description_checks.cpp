@@ -26,7 +26,7 @@ constexpr double smallest_touch = 1e-6;
 class checker {
 public:
     checker(const description& checked, const std::string& file_name)
-        : d(checked), file(file_name) {}
+        : d(checked), require(file_name) {}
 
     void check_whole() const;
     void check_wall(const wall& w) const;
@@ -37,14 +37,8 @@ public:
     void check_roof(const roof& r) const;
 
 private:
-    void require(bool condition, int line, const std::string& reason) const {
-        if (!condition) {
-            throw description_error(file, line, reason);
-        }
-    }
-
     const description& d;
-    const std::string& file;
+    const ox_examples::requirement require;
 };
 
 void checker::check_whole() const {

@@ -42,8 +42,7 @@ void begin_picture(const colour& background) {
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
 }
 
-/// Looks at the box from above its front left corner, so that the sphere around it fits. The view
-/// of a host's own camera would go here.
+/// Looks at the box from above its front left corner, so that the sphere around it fits.
 void set_perspective(const ox::ox_3dvector& centre, double radius) {
     constexpr double view_angle = 0.5; // radians, from top to bottom
     const double distance = 0.9 * radius / std::sin(view_angle / 2);
@@ -129,20 +128,16 @@ ox::ox_box bounding_box(std::vector<element>& elements) {
     return box;
 }
 
-ox_examples::image draw_view(std::vector<element>& elements) {
+void draw_scene(std::vector<element>& elements) {
     const ox::ox_box box = bounding_box(elements);
     const ox::ox_3dvector centre = box.origin + box.size * 0.5f;
-    const double radius = box.size.size() / 2;
-
-    ox_examples::offscreen_context context(picture_width, picture_height, samples);
     begin_picture(sky);
-    set_perspective(centre, radius);
     switch_on_light();
     glEnable(GL_DEPTH_TEST);
     glEnable(GL_POLYGON_OFFSET_FILL); // leaves the edges in front of their faces
     glPolygonOffset(1, 1);
 
-    draw_ground(centre, box.origin.z, 0.98 * radius);
+    draw_ground(centre, box.origin.z, 0.98 * box.size.size() / 2);
     for (element& e : elements) {
         glColor4fv(colour_of(e.kind));
         e.solid.draw_opengl();
@@ -153,6 +148,13 @@ ox_examples::image draw_view(std::vector<element>& elements) {
     for (element& e : elements) {
         e.solid.draw_opengl_contour();
     }
+}
+
+ox_examples::image draw_view(std::vector<element>& elements) {
+    const ox::ox_box box = bounding_box(elements);
+    ox_examples::offscreen_context context(picture_width, picture_height, samples);
+    set_perspective(box.origin + box.size * 0.5f, box.size.size() / 2);
+    draw_scene(elements);
     return context.read_pixels();
 }
 

@@ -6,6 +6,10 @@
 
 namespace building {
 
+/// Draws the ground, the elements and their edges, lit by a sun, in the current OpenGL context and
+/// with its projection; the picture is cleared first.
+void draw_scene(std::vector<element>& elements);
+
 /// A shaded view of all elements from a raised corner.
 ox_examples::image draw_view(std::vector<element>& elements);
 

@@ -8,35 +8,17 @@
 #include <examples/support/output_folder.h>
 #include <examples/support/png_file.h>
 #include <examples/support/progress.h>
+#include <examples/support/single_input.h>
 
 #include <cstdio>
 #include <exception>
+#include <stdexcept>
 #include <string>
 
 namespace {
 
 /// The process's exit status.
 enum status { all_well = 0, refused = 1, volume_off = 2 };
-
-struct arguments {
-    std::string description;
-    std::string folder = ".";
-};
-
-/// Reads `DESCRIPTION [--out DIR]`. Returns false when the command line is something else.
-bool parse(int argc, char** argv, arguments& result) {
-    for (int i = 1; i < argc; ++i) {
-        const std::string argument = argv[i];
-        if (argument == "--out" && i + 1 < argc) {
-            result.folder = argv[++i];
-        } else if (argument.rfind("--", 0) != 0 && result.description.empty()) {
-            result.description = argument;
-        } else {
-            return false;
-        }
-    }
-    return !result.description.empty();
-}
 
 void write_files(ox_examples::output_folder& folder, const building::description& d,
                  std::vector<building::element>& elements) {
@@ -51,8 +33,8 @@ void write_files(ox_examples::output_folder& folder, const building::description
 }
 
 /// From the description to the files and the table.
-status run(const arguments& wanted) {
-    const building::description d = building::read_description(wanted.description);
+status run(const ox_examples::single_input& wanted) {
+    const building::description d = building::read_description(wanted.file);
     ox_examples::output_folder folder(wanted.folder, d.name);
     std::vector<building::element> elements;
     {
@@ -66,13 +48,11 @@ status run(const arguments& wanted) {
 } // namespace
 
 int main(int argc, char** argv) {
-    arguments wanted;
-    if (!parse(argc, argv, wanted)) {
+    try {
+        return run(ox_examples::parse_single_input(argc, argv));
+    } catch (const std::invalid_argument&) {
         std::fprintf(stderr, "usage: %s DESCRIPTION [--out DIR]\n", argv[0]);
         return refused;
-    }
-    try {
-        return run(wanted);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());
         return refused;

@@ -1,25 +1,17 @@
 #include <examples/building/measures.h>
 
-#include <array>
+#include <examples/support/double_vector.h>
+
 #include <cmath>
 
 namespace building {
 
 namespace {
 
-using vector = std::array<double, 3>;
-
-vector difference(const ox::ox_3dvector& a, const ox::ox_3dvector& b) {
-    return {double(a.x) - b.x, double(a.y) - b.y, double(a.z) - b.z};
-}
-
-vector cross(const vector& a, const vector& b) {
-    return {a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0]};
-}
-
-double dot(const vector& a, const vector& b) {
-    return a[0] * b[0] + a[1] * b[1] + a[2] * b[2];
-}
+using ox_examples::cross;
+using ox_examples::difference;
+using ox_examples::dot;
+using ox_examples::double_vector;
 
 } // namespace
 
@@ -31,10 +23,11 @@ measures measure(ox::ox_solid& solid) {
     measures m;
     m.faces = solid.get_faces().size();
     m.triangles = triangles.size() / 3;
-    vector sum = {0, 0, 0};
+    double_vector sum = {0, 0, 0};
     for (int i = 0; i + 2 < triangles.size(); i += 3) {
         const ox::ox_3dvector a = corner(i);
-        const vector twice_area = cross(difference(corner(i + 1), a), difference(corner(i + 2), a));
+        const double_vector twice_area =
+            cross(difference(corner(i + 1), a), difference(corner(i + 2), a));
         m.area += std::sqrt(dot(twice_area, twice_area)) / 2;
         m.volume += dot(difference(a, vertices[0]), twice_area) / 6;
         for (std::size_t k = 0; k < 3; ++k) {

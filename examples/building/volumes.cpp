@@ -49,7 +49,7 @@ double volume(const prism& p) {
 }
 
 prism intersection(const prism& p, const prism& q) {
-    prism common = {intersection(p.base, q.base), p.bottom, p.tops};
+    prism common = {building::intersection(p.base, q.base), p.bottom, p.tops};
     for (const height_plane& top : q.tops) {
         if (std::find(common.tops.begin(), common.tops.end(), top) == common.tops.end()) {
             common.tops.push_back(top);

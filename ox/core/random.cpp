@@ -1,17 +1,14 @@
 #include <limits>
+#include <ox/core/internal/mersenne_twister.h>
 #include <ox/core/internal/tolerances.h>
 #include <ox/core/ox_random.h>
-#include <random>
 
 namespace ox {
 
 struct oxp_random {
-    explicit oxp_random(int seed) : engine(static_cast<std::mt19937::result_type>(seed)) {}
+    explicit oxp_random(int seed) : engine(static_cast<unsigned int>(seed)) {}
 
-    /// The engine gives 32 bits, in a type that may be wider.
-    unsigned int draw() { return static_cast<unsigned int>(engine()); }
-
-    std::mt19937 engine;
+    mersenne_twister engine;
 };
 
 ox_random::ox_random(int seed) : state(std::make_unique<oxp_random>(seed)) {}
@@ -25,30 +22,38 @@ ox_random& ox_random::operator=(const ox_random& other) {
 
 ox_random::~ox_random() = default;
 
-// Unsigned arithmetic wraps around, so every pair of bounds is a range of at least one number.
-int ox_random::dice(int a, int b) {
-    constexpr unsigned int largest = (std::numeric_limits<unsigned int>::max)();
-    const unsigned int first = static_cast<unsigned int>(a);
-    const unsigned int span = static_cast<unsigned int>(b) - first;
-    if (span == largest) {
-        return static_cast<int>(first + state->draw());
+namespace {
+
+constexpr unsigned int largest_draw = (std::numeric_limits<unsigned int>::max)();
+
+/// A number of [0, n) for n above 1. Draws from the last whole multiple of n on are rejected, as
+/// they would favour the first numbers; but no draw of the generator is when n divides their count.
+inline unsigned int draw_below(unsigned int n, mersenne_twister& engine) {
+    const bool every_draw_is_fair = largest_draw % n == n - 1;
+    const unsigned int first_rejected = largest_draw / n * n;
+    unsigned int draw = engine.draw();
+    while (draw >= first_rejected && !every_draw_is_fair) {
+        draw = engine.draw();
     }
-    const unsigned int n = span + 1;
-    if (n == 1) {
-        return a;
-    }
-    // The draws above the last whole multiple of n would favour the first numbers of the range.
-    const bool every_draw_is_fair = largest % n == n - 1;
-    unsigned int draw = state->draw();
-    while (draw / n >= largest / n && !every_draw_is_fair) {
-        draw = state->draw();
-    }
-    return static_cast<int>(first + draw % n);
+    return draw % n;
 }
 
+} // namespace
+
+// Unsigned arithmetic wraps around, so every pair of bounds is a range of at least one number.
+int ox_random::dice(int a, int b) {
+    const unsigned int first = static_cast<unsigned int>(a);
+    const unsigned int span = static_cast<unsigned int>(b) - first;
+    if (span == largest_draw) {
+        return static_cast<int>(first + state->engine.draw());
+    }
+    return span == 0 ? a : static_cast<int>(first + draw_below(span + 1, state->engine));
+}
+
+// The same as dice(0, steps), by divisions whose divisor the compiler knows.
 float ox_random::dice_0_1() {
-    constexpr int steps = 1000000;
-    return static_cast<float>(dice(0, steps)) / static_cast<float>(steps);
+    constexpr unsigned int steps = 1000000;
+    return static_cast<float>(draw_below(steps + 1, state->engine)) / static_cast<float>(steps);
 }
 
 ox_3dvector ox_random::dice_vector() {

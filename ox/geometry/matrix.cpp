@@ -3,7 +3,7 @@
 #include <cstdio>
 
 #include <ox/core/ox_log.h>
-#include <ox/geometry/internal/angles.h>
+#include <ox/internal/angles.h>
 
 namespace ox {
 

@@ -1,39 +1,16 @@
 #include <ox/geometry/ox_polar.h>
 
-#include <ox/geometry/internal/angles.h>
+#include <ox/internal/angles.h>
+#include <ox/ox_functions.h>
 
 namespace ox {
-
-namespace {
-
-float latitude_of(float sine) {
-    if (sine >= 1.f) {
-        return quarter_turn;
-    }
-    if (sine <= -1.f) {
-        return -quarter_turn;
-    }
-    return rounded_asin(sine);
-}
-
-float unsigned_longitude_of(float cosine) {
-    if (cosine >= 1.f) {
-        return 0.f;
-    }
-    if (cosine <= -1.f) {
-        return half_turn;
-    }
-    return rounded_acos(cosine);
-}
-
-} // namespace
 
 ox_polar::ox_polar(const ox_3dvector& p) : radius(p.size()) {
     if (!(radius > 0.f)) {
         return;
     }
     const float to_unit = 1.f / radius;
-    latitude = latitude_of(to_unit * p.z);
+    latitude = ox_asin(to_unit * p.z);
 
     const float horizontal = rounded_cos(latitude);
     if (!(horizontal > 0.f)) {
@@ -42,7 +19,7 @@ ox_polar::ox_polar(const ox_3dvector& p) : radius(p.size()) {
     const float to_horizontal_unit = 1.f / horizontal;
     const float east = (to_unit * p.x) * to_horizontal_unit;
     const float north = (to_unit * p.y) * to_horizontal_unit;
-    longitude = unsigned_longitude_of(east);
+    longitude = ox_acos(east);
     if (north < 0.f) {
         longitude = -longitude;
     }

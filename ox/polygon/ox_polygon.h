@@ -256,6 +256,68 @@ public:
     /// box along some axis.
     bool may_intersect(const ox_box& box);
 
+    // Simplification and distributions
+
+    /// Drops vertices of a closed contour that a tolerance (model units) allows to drop, in two
+    /// phases. First every vertex whose edge to the next one is shorter than a tenth of the
+    /// tolerance, until no such edge is left. Then every corner between vertices a and c that lies
+    /// at most the tolerance away from the line through them, or whose a and c are nearer to each
+    /// other than a tenth of the tolerance, until no such corner is left. Distances from lines are
+    /// measured in the plane of `normal`, which should be of unit length.
+    ///
+    /// A contour without a corner that stands out, a lone vertex too, vanishes; a corner is
+    /// compared with the neighbours it has left, so a finely sampled arc can move away by more than
+    /// the tolerance. A negative tolerance or one that is not a number drops nothing. The vertices
+    /// that are left keep their bits and their order. O(n log n).
+    static void optimize_contour(ox_list<ox_3dvector>& contour, const ox_3dvector& normal,
+                                 float tolerance);
+
+    /// The same with the normal of what the contour encloses after the first phase (the sum of the
+    /// cross products of its triangle fan, twice the area in length). A contour whose normal is not
+    /// longer than the tolerance encloses nothing to measure corners by: only its short edges go.
+    static void optimize_contour(ox_list<ox_3dvector>& contour, float tolerance);
+
+    /// Simplifies every contour by `optimize_contour` with this polygon's normal. When a vertex
+    /// went, the polygon is cleared and made anew of the contours that are left: it takes its plane
+    /// from the first of them, and the next query merges them. O(n log n).
+    void optimize_contours(float tolerance);
+
+    /// The points of a square grid that the polygon contains, row after row along the frame's dy,
+    /// and along dx within a row. Neighbours are `step` apart (model units); the grid starts half
+    /// a step below the lower corner of the bounds in the frame. Containment is what `contains`
+    /// says, so of points on the outline some are in.
+    ///
+    /// Empty for a step that is not positive, for bounds so far from the plane's point that the
+    /// step does not change a coordinate, and where coordinates reach 1e37 model units. Rows and
+    /// columns end with a coordinate that the step no longer changes. An allocation failure where
+    /// the result has more than 2^31 - 1 points. O(n log n) for n sides, per row its crossings,
+    /// and the points found.
+    ox_list<ox_3dvector> regular_distribution(float step);
+
+    /// `count` random points of the region, uniform over its area: equal seeds give equal points
+    /// for equal polygons. Each point takes three numbers of `ox_random`, for its triangle (by
+    /// running sums of areas) and for its place in it. Empty without triangles and for a count
+    /// below 1. O(count) after the tessellation.
+    ox_list<ox_3dvector> random_distribution(int count, int seed);
+
+    /// Rasterises the region into `nx` times `ny` flags, cell (i, j) at `grid[j * nx + i]`, and
+    /// returns how many became true; all others become false. `origin` is the corner of cell
+    /// (0, 0), `dx` and `dy` are the sides of a cell; all are projected on the polygon's plane.
+    ///
+    /// A cell is set when its centre, origin + (i + 0.5) dx + (j + 0.5) dy, lies inside the region,
+    /// and not nearer than `margin` (model units) to its outline: who fills a face with luminaires,
+    /// tiles or samples must keep them clear of its edges, and would otherwise need a second,
+    /// offset polygon. A margin of 0, a negative one or one that is not a number asks for the
+    /// inside alone. Inside is by the even-odd rule on the crossings of the line through a row's
+    /// centres; of centres on the outline some are in. Works in double precision.
+    ///
+    /// Nothing is set, and 0 returned, for a null grid or a count below 1 (which are not written
+    /// to), and for cells without an area or with coordinates that are not finite. More than
+    /// 2^31 - 1 cells are told as 2^31 - 1. O(n log n) for n sides, and per row its crossings, its
+    /// cells, and the cells near the outline.
+    int fill_regular_grid(bool* grid, const ox_3dvector& origin, const ox_3dvector& dx,
+                          const ox_3dvector& dy, int nx, int ny, float margin);
+
     // Drawing (with the OpenGL context of the calling thread)
 
     /// Draws the triangles with the polygon's normal, in the current colour. Nothing without

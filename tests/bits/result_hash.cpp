@@ -22,5 +22,8 @@ int main() {
     for (const bits::topic& topic : bits::solid_topics) {
         print_hash(topic);
     }
+    for (const bits::topic& topic : bits::leaf_topics) {
+        print_hash(topic);
+    }
     return 0;
 }

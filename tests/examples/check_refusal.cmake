@@ -1,6 +1,10 @@
-# A description that must be refused as `DESCRIPTION:LINE: REASON`, without any output.
+# A description that must be refused as `DESCRIPTION:LINE: REASON`, without any output and with the
+# exit status STATUS (1).
 include("${CMAKE_CURRENT_LIST_DIR}/run_building.cmake")
-require_status(1)
+if(NOT DEFINED STATUS)
+  set(STATUS 1)
+endif()
+require_status(${STATUS})
 
 if(NOT "${errors}" STREQUAL "${DESCRIPTION}:${LINE}: ${REASON}\n")
   message(FATAL_ERROR "told as\n${errors}instead of\n${DESCRIPTION}:${LINE}: ${REASON}")

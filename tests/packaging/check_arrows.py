@@ -10,6 +10,7 @@ import sys
 
 # What the files of each area may include, beside their own area.
 FLOORS = {
+    "internal": {"core", "vectors"},
     "core": {"functions", "vectors"},
     "geometry": {"core", "functions", "vectors"},
     "polygon": {"core", "geometry", "functions", "vectors"},
@@ -23,6 +24,8 @@ FLOORS = {
 }
 # The plain vector types are the one piece of geometry that core knows.
 VECTORS = {"ox/geometry/ox_2dvector.h", "ox/geometry/ox_3dvector.h"}
+# Private helpers of several areas, in ox/internal/; core is below them.
+SHARED = "internal"
 INCLUDE = re.compile(r'^\s*#\s*include\s*[<"](ox/[^>"]+)[>"]', re.MULTILINE)
 
 
@@ -44,6 +47,10 @@ def faults_of(path, text):
     allowed = {"vectors", "core"} if area == "vectors" else FLOORS[area] | {area}
     for target in INCLUDE.findall(text):
         target_area = area_of(target)
+        if target_area == SHARED and area not in ("core", "vectors", "functions"):
+            if path.endswith(".h") and "/internal/" not in path:
+                yield f"{path} is public and must not include the private {target}"
+            continue
         if target_area not in allowed:
             yield f"{path} must not include {target}"
         if "/internal/" in target and target_area == area and path.endswith(".h"):
@@ -56,8 +63,10 @@ def faults_of(path, text):
 def self_test():
     up = list(faults_of("ox/polygon/cutting.cpp", "#include <ox/solid/ox_solid.h>\n"))
     private = list(faults_of("ox/solid/faces.cpp", "#include <ox/polygon/internal/a.h>\n"))
+    public = list(faults_of("ox/solid/ox_solid.h", "#include <ox/internal/a.h>\n"))
     down = list(faults_of("ox/solid/faces.cpp", "#include <ox/polygon/ox_polygon.h>\n"))
-    return 0 if up and private and not down else 1
+    shared = list(faults_of("ox/solid/faces.cpp", "#include <ox/internal/a.h>\n"))
+    return 0 if up and private and public and not down and not shared else 1
 
 
 def main():

@@ -7,10 +7,13 @@ bool contains(ox::ox_polygon& polygon, const ox::ox_3dvector& p) {
 }
 
 bool contains(ox::ox_polygon& polygon, const plane_frame& frame, const ox::ox_3dvector& p) {
-    const ox::ox_2dvector q = frame.coordinates(p);
+    return contains(plane_contours(polygon, frame), frame.coordinates(p));
+}
+
+bool contains(const std::vector<std::vector<ox::ox_2dvector>>& contours, const ox::ox_2dvector& q) {
     int left = 0;
     int right = 0;
-    for (const auto& contour : plane_contours(polygon, frame)) {
+    for (const auto& contour : contours) {
         for (std::size_t i = 0; i < contour.size(); ++i) {
             const ox::ox_2dvector a = contour[i];
             const ox::ox_2dvector b = contour[(i + 1) % contour.size()];

@@ -19,6 +19,16 @@ constexpr float edge_end_manhattan_factor = 3.f;
 /// points near its ends.
 constexpr float shortest_edge_factor = 0.5f;
 
+/// Magnitude (in the units of the matrix) that a pivot must exceed: below it the column counts as
+/// zero and the system as singular.
+constexpr float smallest_pivot = 1e-4f;
+
+/// Largest error the self-checks of the linear systems accept, in numbers of size 1.
+constexpr float linear_check_error = 0.001f;
+
+/// Error from which the self-check of the cubic spline fails, in numbers of size 1.
+constexpr double spline_check_error = 0.01;
+
 } // namespace ox
 
 #endif

@@ -6,29 +6,47 @@
 
 namespace ox {
 
-/// The crossings of the horizontal line through a point with the edges of closed contours, left
-/// and right of the point (the even-odd rule of Shimrat, Communications of the ACM 1962).
+/// Where the edge from `a` to `b`, which must not be horizontal, meets the horizontal line at v.
+/// Every rounding is monotonic, so the result only ever moves one way as v does.
+template <class point, class number>
+number crossing_at(const point& a, const point& b, number v) {
+    return a.x + (v - a.y) / (b.y - a.y) * (b.x - a.x);
+}
+
+/// Finds where the horizontal line at v crosses the edge from `a` to `b`; false for nowhere.
 ///
 /// An edge owns its lower end and not its upper one, so a line through a vertex counts each
-/// chain of edges once, and a horizontal edge is never counted. All comparisons are exact: a
-/// point on the outline is inside or outside as the count comes out.
+/// chain of edges once, and a horizontal edge is never counted: a closed contour is crossed an
+/// even number of times. All comparisons are exact.
+template <class point, class number>
+bool find_crossing(const point& a, const point& b, number v, number& at) {
+    if ((a.y > v && b.y > v) || (a.y < v && b.y < v)) {
+        return false;
+    }
+    if (a.y == v) {
+        at = a.x;
+        return b.y > v;
+    }
+    if (b.y == v) {
+        at = b.x;
+        return a.y > v;
+    }
+    at = crossing_at(a, b, v);
+    return true;
+}
+
+/// The crossings of the horizontal line through a point with the edges of closed contours, left
+/// and right of the point (the even-odd rule of Shimrat, Communications of the ACM 1962). A point
+/// on the outline is inside or outside as the count comes out.
 class crossing_count {
 public:
     crossing_count(float point_u, float point_v) : u(point_u), v(point_v) {}
 
     /// Counts the edge from `a` to `b`, if the line meets it.
     void add_edge(const ox_2dvector& a, const ox_2dvector& b) {
-        if ((a.y > v && b.y > v) || (a.y < v && b.y < v)) {
-            return;
-        }
-        if (a.y == v) {
-            if (b.y > v) {
-                add_crossing(a.x);
-            }
-        } else if (b.y != v) {
-            add_crossing(a.x + (v - a.y) / (b.y - a.y) * (b.x - a.x));
-        } else if (a.y > v) {
-            add_crossing(b.x);
+        float at = 0.0f;
+        if (find_crossing(a, b, v, at)) {
+            add_crossing(at);
         }
     }
 

@@ -49,6 +49,31 @@ constexpr double most_arc_vertices = 8000000.0;
 /// its end vertices count.
 constexpr float shortest_side_of_center_distance = 0.01f;
 
+// Simplification of contours
+
+/// The share of the tolerance of a simplification below which an edge is too short to be kept: its
+/// ends then are one vertex for whoever accepts that tolerance.
+constexpr float short_edge_share = 0.1f;
+
+// Grids of points
+
+/// Grid points go from the frame into space and back. In units of half the last place, what the
+/// roundings on that way amount to: of the plane's point (two of them) and of the offset from it
+/// (seven), taken generously.
+constexpr double roundings_of_origin = 3.0;
+constexpr double roundings_of_offset = 9.0;
+
+/// Model units: what underflow can add to those roundings (a few units of the smallest
+/// float, 1.4e-45, in space and in the frame), taken generously.
+constexpr double grid_point_underflow = 1e-43;
+
+/// Model units: a grid whose sums could come near the largest float has no points.
+constexpr double farthest_grid_coordinate = 1e37;
+
+/// The share of the coordinates, in cells, that rounding in double precision can move a point of a
+/// rasterised region by; taken generously.
+constexpr double grid_cell_slack = 1e-9;
+
 // Cutting
 
 /// The sine of the angle between two planes (times the length of the cutting normal): below it

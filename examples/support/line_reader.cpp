@@ -1,9 +1,11 @@
-#include <examples/building/line_reader.h>
+#include <examples/support/line_reader.h>
+
+#include <examples/support/description_file.h>
 
 #include <charconv>
 #include <cmath>
 
-namespace building {
+namespace ox_examples {
 
 namespace {
 
@@ -140,4 +142,4 @@ std::string quoted(const std::string& text) {
     return "'" + result + (text.size() > longest_quote ? "..." : "") + "'";
 }
 
-} // namespace building
+} // namespace ox_examples

@@ -1,5 +1,5 @@
-#ifndef OX_GEOMETRY_INTERNAL_ANGLES_H
-#define OX_GEOMETRY_INTERNAL_ANGLES_H
+#ifndef OX_INTERNAL_ANGLES_H
+#define OX_INTERNAL_ANGLES_H
 
 #include <cmath>
 

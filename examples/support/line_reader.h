@@ -1,15 +1,16 @@
-#ifndef OX_EXAMPLES_BUILDING_LINE_READER_H
-#define OX_EXAMPLES_BUILDING_LINE_READER_H
+#ifndef OX_EXAMPLES_SUPPORT_LINE_READER_H
+#define OX_EXAMPLES_SUPPORT_LINE_READER_H
 
-#include <examples/building/description.h>
+#include <examples/support/plan_point.h>
 
+#include <cstddef>
 #include <sstream>
 #include <string>
 
-namespace building {
+namespace ox_examples {
 
 /// Takes one line of a description apart, word by word, and refuses what does not fit. A `#` begins
-/// a comment.
+/// a comment. What is refused throws `description_error`.
 class line_reader {
 public:
     line_reader(const std::string& file, int line, const std::string& text);
@@ -61,6 +62,6 @@ private:
 /// `text` for a message: in quotes, with what cannot be printed replaced and cut to a line.
 std::string quoted(const std::string& text);
 
-} // namespace building
+} // namespace ox_examples
 
 #endif

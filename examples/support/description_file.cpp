@@ -1,0 +1,35 @@
+#include <examples/support/description_file.h>
+
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+
+namespace ox_examples {
+
+namespace {
+
+/// Bytes. A hundred times the largest description we know; larger files are no descriptions.
+constexpr std::uintmax_t largest_file = 1 << 20;
+
+} // namespace
+
+std::vector<std::string> read_lines(const std::string& path) {
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error)) {
+        throw description_error(path, 0, "no such file");
+    }
+    if (std::filesystem::file_size(path, error) > largest_file) {
+        throw description_error(path, 0, "too large for a description");
+    }
+    std::ifstream file(path);
+    std::vector<std::string> lines;
+    for (std::string text; std::getline(file, text);) {
+        lines.push_back(text);
+    }
+    if (!file.eof()) {
+        throw description_error(path, 0, "the file cannot be read");
+    }
+    return lines;
+}
+
+} // namespace ox_examples

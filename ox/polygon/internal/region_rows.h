@@ -1,0 +1,91 @@
+#ifndef OX_POLYGON_INTERNAL_REGION_ROWS_H
+#define OX_POLYGON_INTERNAL_REGION_ROWS_H
+
+#include <vector>
+
+#include <ox/geometry/ox_2dvector.h>
+#include <ox/geometry/ox_3dvector.h>
+#include <ox/internal/sweep_window.h>
+#include <ox/polygon/internal/ox_polygon_data.h>
+
+namespace ox {
+
+/// Columns [first, last) of a row of grid points.
+struct column_range {
+    int first;
+    int last;
+};
+
+/// The points of a grid in a polygon's frame that the polygon contains, row after row, without
+/// testing each.
+///
+/// Grid point (column u, row w) is `point + u dx + w dy`, rounded to floats, and containment is
+/// what `ox_polygon::contains` says of it: which works on that point's own coordinates in the
+/// frame, a few roundings away from (u, w). So the points of a row lie within a thin band, not on
+/// a line. A side that spans the band crosses the lines of all its points within one short
+/// stretch, the blur; sides with an end in the band make one common blur. Along a row the points
+/// between blurs are inside or outside together; only those within a blur are tested, each against
+/// the sides that reach the band.
+///
+/// After O(n log n) for n sides, a row costs the sides that reach it and the points in its blurs.
+class region_rows {
+public:
+    /// The polygon must have been merged. `columns` and `rows` must ascend and not be empty; both
+    /// must outlive this object.
+    region_rows(const ox_polygon_data& region, const std::vector<float>& columns,
+                const std::vector<float>& rows);
+
+    /// True when no sum of coordinates can overflow, which `find_inside` relies on.
+    bool is_within_reach() const;
+
+    /// The stretches of columns of the row w that are inside, in order. Rows must be asked for in
+    /// ascending order.
+    const std::vector<column_range>& find_inside(float w);
+
+    /// Grid point (u, w) in space.
+    ox_3dvector at(float u, float w) const {
+        return polygon.point + u * polygon.dx + w * polygon.dy;
+    }
+
+private:
+    struct side {
+        ox_2dvector a;
+        ox_2dvector b;
+    };
+    struct band {
+        float low;
+        float high;
+    };
+    /// Left of `low` no point has the crossings on its left, right of `high` every point has them.
+    struct blur {
+        float low;
+        float high;
+        bool odd; ///< whether the crossings are odd in number
+    };
+
+    void add_sides();
+    band band_of(float w) const;
+    void find_blurs(const band& row);
+    void join_overlapping_blurs();
+    void walk(float w);
+    int first_column_beyond(float x, int from, float w) const;
+    bool contains(float u, float w) const;
+    void add_inside(int first, int last);
+
+    const ox_polygon_data& polygon;
+    const std::vector<float>& us;
+    std::vector<side> sides;
+    sweep_window window;
+    const std::vector<sweep_window::interval>* met = nullptr; ///< sides that reach the row
+    double reach = 0.0;     ///< the largest number on the way of a grid point
+    double rounding;        ///< model units between a point's own row coordinate and the exact one
+    double rounding_by_row; ///< what each unit of the row coordinate adds to that
+    double row_slope;       ///< of that coordinate along the columns: 0 for perpendicular axes
+    double row_scale;       ///< of that coordinate along the rows: 1 for axes of unit length
+    std::vector<blur> blurs;
+    std::vector<column_range> inside;
+};
+
+} // namespace ox
+
+#endif

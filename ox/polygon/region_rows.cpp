@@ -1,0 +1,174 @@
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include <ox/polygon/internal/crossing_count.h>
+#include <ox/polygon/internal/plane_coordinates.h>
+#include <ox/polygon/internal/region_rows.h>
+#include <ox/polygon/internal/tolerances.h>
+
+namespace ox {
+namespace {
+
+constexpr double half_unit_in_last_place = 1.0 / 16777216.0;
+constexpr float infinity = std::numeric_limits<float>::infinity();
+
+/// The largest magnitude in an ascending sequence.
+double largest(const std::vector<float>& ascending) {
+    return static_cast<double>(std::max(std::fabs(ascending.front()), std::fabs(ascending.back())));
+}
+
+} // namespace
+
+region_rows::region_rows(const ox_polygon_data& region, const std::vector<float>& columns,
+                         const std::vector<float>& rows)
+    : polygon(region), us(columns), row_slope(exact_dot(region.dx, region.dy)),
+      row_scale(exact_dot(region.dy, region.dy)) {
+    rounding = grid_point_underflow;
+    for (unsigned int i = 0; i < 3; ++i) {
+        const double scale = std::fabs(static_cast<double>(polygon.dy.at(i)));
+        const double origin = std::fabs(static_cast<double>(polygon.point.at(i)));
+        const double across = std::fabs(static_cast<double>(polygon.dx.at(i))) * largest(columns);
+        const double along = scale * largest(rows);
+        rounding += grid_point_underflow * scale;
+        rounding += half_unit_in_last_place * scale *
+                    (roundings_of_origin * origin + roundings_of_offset * across);
+        reach = std::max({reach, origin, across, along, (origin + across + along) * scale});
+    }
+    rounding_by_row = half_unit_in_last_place * roundings_of_offset * row_scale;
+    add_sides();
+}
+
+bool region_rows::is_within_reach() const {
+    return reach < farthest_grid_coordinate;
+}
+
+void region_rows::add_sides() {
+    const ox_list<ox_2dvector> vertices = plane_coordinates(polygon);
+    int first = 0;
+    for (const unsigned int size : polygon.contour_sizes) {
+        const int end = first + static_cast<int>(size);
+        for (int i = first; i < end; ++i) {
+            const ox_2dvector& a = vertices[i];
+            const ox_2dvector& b = vertices[i + 1 < end ? i + 1 : first];
+            sides.push_back({a, b});
+            window.add(std::min(a.y, b.y), std::max(a.y, b.y));
+        }
+        first = end;
+    }
+    window.sort();
+}
+
+/// Where the row coordinates of the points of row w lie. Both ends ascend with w: the share of w in
+/// the rounding is far smaller than in the coordinate.
+region_rows::band region_rows::band_of(float w) const {
+    const double at_first = row_slope * static_cast<double>(us.front());
+    const double at_last = row_slope * static_cast<double>(us.back());
+    const double row = row_scale * static_cast<double>(w);
+    const double margin = rounding + rounding_by_row * std::fabs(static_cast<double>(w));
+    const double low = row + std::min(at_first, at_last) - margin;
+    const double high = row + std::max(at_first, at_last) + margin;
+    return {std::nextafter(static_cast<float>(low), -infinity),
+            std::nextafter(static_cast<float>(high), infinity)};
+}
+
+const std::vector<column_range>& region_rows::find_inside(float w) {
+    const band row = band_of(w);
+    met = &window.move_to(row.low, row.high);
+    find_blurs(row);
+    join_overlapping_blurs();
+    walk(w);
+    return inside;
+}
+
+/// The vertices in the band belong to two sides each, so whatever line of the band is taken, the
+/// crossings of all sides with an end in it together are odd or even in number as the ends beyond
+/// the band are.
+void region_rows::find_blurs(const band& row) {
+    blurs.clear();
+    blur of_ends{infinity, -infinity, false};
+    for (const sweep_window::interval& i : *met) {
+        const side& s = sides[static_cast<std::size_t>(i.index)];
+        if (std::min(s.a.y, s.b.y) < row.low && std::max(s.a.y, s.b.y) > row.high) {
+            const float x = crossing_at(s.a, s.b, row.low);
+            const float y = crossing_at(s.a, s.b, row.high);
+            blurs.push_back({std::min(x, y), std::max(x, y), true});
+            continue;
+        }
+        // where the crossing formula arrives at the second end, a rounding away from it
+        const float arrival = s.a.x + (s.b.x - s.a.x);
+        of_ends.low = std::min({of_ends.low, s.a.x, s.b.x, arrival});
+        of_ends.high = std::max({of_ends.high, s.a.x, s.b.x, arrival});
+        of_ends.odd ^= (s.a.y > row.high) != (s.b.y > row.high);
+    }
+    if (of_ends.low <= of_ends.high) {
+        blurs.push_back(of_ends);
+    }
+}
+
+void region_rows::join_overlapping_blurs() {
+    std::sort(blurs.begin(), blurs.end(),
+              [](const blur& a, const blur& b) { return a.low < b.low; });
+    std::size_t joined = 0;
+    for (std::size_t i = 1; i < blurs.size(); ++i) {
+        if (blurs[i].low <= blurs[joined].high) {
+            blurs[joined].high = std::max(blurs[joined].high, blurs[i].high);
+            blurs[joined].odd ^= blurs[i].odd;
+        } else {
+            blurs[++joined] = blurs[i];
+        }
+    }
+    blurs.resize(std::min(blurs.size(), joined + 1));
+}
+
+void region_rows::walk(float w) {
+    inside.clear();
+    int column = 0;
+    bool between_is_inside = false;
+    for (const blur& b : blurs) {
+        const int first = first_column_beyond(b.low, column, w);
+        if (between_is_inside) {
+            add_inside(column, first);
+        }
+        const int last = first_column_beyond(b.high, first, w);
+        for (int c = first; c < last; ++c) {
+            if (contains(us[static_cast<std::size_t>(c)], w)) {
+                add_inside(c, c + 1);
+            }
+        }
+        column = last;
+        between_is_inside ^= b.odd;
+    }
+}
+
+/// The first column, not before `from`, whose point of row w lies right of x. The columns' points
+/// have ascending coordinates: every rounding on the way is monotonic.
+int region_rows::first_column_beyond(float x, int from, float w) const {
+    const auto beyond = std::partition_point(us.begin() + from, us.end(), [&](float u) {
+        return ox_dot(at(u, w) - polygon.point, polygon.dx) <= x;
+    });
+    return static_cast<int>(beyond - us.begin());
+}
+
+bool region_rows::contains(float u, float w) const {
+    const ox_2dvector q = plane_coordinates(polygon, at(u, w));
+    crossing_count crossings(q.x, q.y);
+    for (const sweep_window::interval& i : *met) {
+        const side& s = sides[static_cast<std::size_t>(i.index)];
+        crossings.add_edge(s.a, s.b);
+    }
+    return crossings.is_inside();
+}
+
+void region_rows::add_inside(int first, int last) {
+    if (first == last) {
+        return;
+    }
+    if (!inside.empty() && inside.back().last == first) {
+        inside.back().last = last;
+    } else {
+        inside.push_back({first, last});
+    }
+}
+
+} // namespace ox

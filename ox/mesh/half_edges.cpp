@@ -1,53 +1,81 @@
 #include <ox/mesh/ox_mesh.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <new>
 #include <utility>
-#include <vector>
 
+#include <ox/mesh/internal/large_array.h>
 #include <ox/mesh/internal/side_index.h>
 
 namespace ox {
-
-class ox_mesh_state {
-public:
-    ox_list<ox_3dvector> vertices;
-    ox_list<unsigned int> triangles;
-    std::vector<ox_mesh::ox_half_edge> half_edge_objects; // what the list points to
-    ox_list<ox_mesh::ox_half_edge*> half_edges;
-    bool closed = false;
-};
 
 namespace {
 
 using half_edge = ox_mesh::ox_half_edge;
 
+/// Half-edges in one array.
+struct half_edge_array {
+    oxp_large_array<half_edge> items;
+    std::uint32_t count = 0;
+};
+
+} // namespace
+
+class ox_mesh_state {
+public:
+    ox_list<ox_3dvector> vertices;
+    ox_list<unsigned int> triangles;
+    half_edge_array half_edge_objects; // what the list points to
+    ox_list<half_edge*> half_edges;
+    bool closed = false;
+};
+
+namespace {
+
 /// The sides of all complete triangles, without opposites.
-std::vector<half_edge> sides_of(const ox_list<unsigned int>& triangles) {
-    const int nb_sides = triangles.size() > 0 ? triangles.size() / 3 * 3 : 0;
-    std::vector<half_edge> sides(static_cast<std::size_t>(nb_sides));
-    for (int corner = 0; corner < nb_sides; ++corner) {
-        half_edge& side = sides[static_cast<std::size_t>(corner)];
-        side.start = triangles.at(corner);
-        side.end = triangles.at(corner % 3 == 2 ? corner - 2 : corner + 1);
-        side.triangle = static_cast<unsigned int>(corner / 3);
+half_edge_array sides_of(const ox_list<unsigned int>& triangles) {
+    const std::uint32_t nb_triangles =
+        static_cast<std::uint32_t>(std::max(triangles.size(), 0)) / 3;
+    half_edge_array sides;
+    sides.count = 3 * nb_triangles;
+    sides.items = oxp_make_large_array<half_edge>(sides.count);
+    const unsigned int* corners = triangles.get_data();
+    half_edge* side = sides.items.get();
+    for (std::uint32_t triangle = 0; triangle < nb_triangles; ++triangle, corners += 3) {
+        new (side++) half_edge{corners[0], corners[1], triangle, 0, nullptr};
+        new (side++) half_edge{corners[1], corners[2], triangle, 0, nullptr};
+        new (side++) half_edge{corners[2], corners[0], triangle, 0, nullptr};
     }
     return sides;
 }
 
+/// A list of pointers to all sides, in order.
+ox_list<half_edge*> list_of(const half_edge_array& sides) {
+    const int count = static_cast<int>(sides.count);
+    ox_list<half_edge*> list(count);
+    oxp_prefer_large_pages(list.get_data(), sides.count * sizeof(half_edge*));
+    for (int i = 0; i < count; ++i) {
+        list[i] = &sides.items[static_cast<std::size_t>(i)];
+    }
+    return list;
+}
+
 /// Links each side to the first one that runs the other way; tells whether all found one.
-bool link_opposites(std::vector<half_edge>& sides, unsigned int nb_vertices) {
-    const oxp_side_index index(static_cast<std::uint32_t>(sides.size()), nb_vertices,
-                               [&](std::uint32_t i) {
-                                   return oxp_side{sides[i].start, sides[i].end};
-                               });
+bool link_opposites(half_edge_array& sides, std::uint32_t nb_vertices) {
+    const half_edge* const items = sides.items.get();
+    const oxp_side_index index(sides.count, nb_vertices, [=](std::uint32_t i) {
+        return oxp_side{items[i].start, items[i].end};
+    });
     bool closed = true;
-    for (half_edge& side : sides) {
+    for (std::uint32_t i = 0; i < sides.count; ++i) {
+        half_edge& side = sides.items[i];
         const std::uint32_t opposite = index.first({side.end, side.start});
         if (opposite == oxp_side_index::none) {
             closed = false;
         } else {
-            side.opposite = &sides[opposite];
+            side.opposite = &sides.items[opposite];
         }
     }
     return closed;
@@ -84,15 +112,11 @@ const ox_list<ox_mesh::ox_half_edge*>& ox_mesh::get_half_edges() const {
 }
 
 void ox_mesh::build_half_edges() {
-    const int nb_vertices = state->vertices.size();
-    std::vector<half_edge> sides = sides_of(state->triangles);
-    ox_list<half_edge*> list(static_cast<int>(sides.size()));
-    for (std::size_t i = 0; i < sides.size(); ++i) {
-        list[static_cast<int>(i)] = &sides[i];
-    }
-    state->closed =
-        link_opposites(sides, nb_vertices > 0 ? static_cast<unsigned int>(nb_vertices) : 0u);
-    state->half_edge_objects.swap(sides);
+    half_edge_array sides = sides_of(state->triangles);
+    ox_list<half_edge*> list = list_of(sides);
+    const int nb_vertices = std::max(state->vertices.size(), 0);
+    state->closed = link_opposites(sides, static_cast<std::uint32_t>(nb_vertices));
+    state->half_edge_objects = std::move(sides);
     state->half_edges = std::move(list);
 }
 

@@ -83,8 +83,8 @@ public:
     /// triangles..." and "triangle size : 52 bytes." as far as it comes. False when the file cannot
     /// be opened or ends before the count is read; the set stays as it was. False when it holds
     /// fewer records than it promises, or promises more than 2^32 - 1 vertices: the number of
-    /// complete records is logged as "N read triangles..." and the set is emptied. Of a pipe or
-    /// device, at most 64 MiB are taken. A null path cannot be opened. O(n).
+    /// complete records is logged as "N read triangles..." and the set is emptied. A null path,
+    /// a pipe and a device cannot be opened. O(n).
     bool read_binary_stl(const char* path);
 
     /// Reads a raw file, all little-endian: the eight characters "binaryra", the 32-bit counts of
@@ -94,8 +94,8 @@ public:
     /// Logs "reading binary_raw...", "open file ok", "header ok" and "reading N vertices and N
     /// triangles" as far as it comes. False when the file cannot be opened, begins otherwise or
     /// ends before the counts are read; the set stays as it was. False when it holds less than it
-    /// promises: the set is emptied and "Error reading file" logged. Of a pipe or device, at most
-    /// 64 MiB are taken. A null path cannot be opened. O(n).
+    /// promises: the set is emptied and "Error reading file" logged. A null path, a pipe and a
+    /// device cannot be opened. O(n).
     bool read_binary_raw(const char* path);
 
     /// Writes a raw file (see `read_binary_raw`). Logs "writing binary_raw...", "open file ok" and
@@ -131,6 +131,7 @@ public:
     void subdivide();
 
 private:
+    void allocate_uninitialised(unsigned int nb_vertices, unsigned int nb_triangles);
     bool read_raw_arrays(oxp_mesh_file& file, unsigned int new_nb_vertices,
                          unsigned int new_nb_triangles);
     bool read_stl_records(oxp_mesh_file& file, unsigned int nb_records, std::uint64_t& nb_read);

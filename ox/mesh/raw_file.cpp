@@ -86,7 +86,7 @@ bool ox_triangle_set::read_raw_arrays(oxp_mesh_file& file, unsigned int new_nb_v
     if (vertex_bytes + triangle_bytes > file.remaining()) {
         return false;
     }
-    allocate(new_nb_vertices, new_nb_triangles);
+    allocate_uninitialised(new_nb_vertices, new_nb_triangles);
     return file.read(vertices.get(), vertex_bytes) && file.read(triangles.get(), triangle_bytes);
 }
 

@@ -91,7 +91,7 @@ bool ox_triangle_set::read_stl_records(oxp_mesh_file& file, unsigned int nb_reco
         nb_read = std::min<std::uint64_t>(nb_records, bytes_held / record_bytes);
         return false;
     }
-    allocate(static_cast<unsigned int>(new_nb_vertices), nb_records);
+    allocate_uninitialised(static_cast<unsigned int>(new_nb_vertices), nb_records);
     const bool complete = read_corners(file, nb_records, vertices.get());
     nb_read = (bytes_held - file.remaining()) / record_bytes;
     for (unsigned int i = 0; i < nb_vertices; ++i) {

@@ -4,9 +4,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
-#include <vector>
 
 #include <ox/core/ox_log.h>
+#include <ox/mesh/internal/large_array.h>
 #include <ox/mesh/internal/side_index.h>
 
 namespace ox {
@@ -17,8 +17,9 @@ constexpr std::uint64_t max_count = (std::numeric_limits<std::uint32_t>::max)();
 
 /// The sides of a set of triangles, each once, in the order in which they are first met.
 struct numbered_sides {
-    std::vector<std::uint32_t> side_of_corner; // of the side that leaves each corner
-    std::vector<std::uint32_t> first_corner;   // the corner that each side was first met at
+    oxp_large_array<std::uint32_t> side_of_corner; // of the side that leaves each corner
+    oxp_large_array<std::uint32_t> first_corner;   // the corner that each side was first met at
+    std::uint32_t count = 0;
 };
 
 /// The side that leaves a corner, from its smaller to its larger vertex index.
@@ -33,12 +34,13 @@ numbered_sides number_sides(const unsigned int* triangles, std::uint32_t nb_corn
     const oxp_side_index index(nb_corners, nb_vertices,
                                [=](std::uint32_t corner) { return side_at(triangles, corner); });
     numbered_sides sides;
-    sides.side_of_corner.resize(nb_corners);
+    sides.side_of_corner = oxp_make_large_array<std::uint32_t>(nb_corners);
+    sides.first_corner = oxp_make_large_array<std::uint32_t>(nb_corners);
     for (std::uint32_t corner = 0; corner < nb_corners; ++corner) {
         const std::uint32_t first = index.first(side_at(triangles, corner));
         if (first == corner) {
-            sides.side_of_corner[corner] = static_cast<std::uint32_t>(sides.first_corner.size());
-            sides.first_corner.push_back(corner);
+            sides.first_corner[sides.count] = corner;
+            sides.side_of_corner[corner] = sides.count++;
         } else {
             sides.side_of_corner[corner] = sides.side_of_corner[first];
         }
@@ -64,25 +66,26 @@ void ox_triangle_set::subdivide() {
         ox_log_thread_safe("too many triangles");
         return;
     }
-    const numbered_sides sides = number_sides(triangles.get(), 3 * nb_triangles, nb_vertices);
-    if (nb_vertices + sides.first_corner.size() > max_count) {
+    const std::uint32_t nb_corners = 3 * nb_triangles;
+    const numbered_sides sides = number_sides(triangles.get(), nb_corners, nb_vertices);
+    if (std::uint64_t{nb_vertices} + sides.count > max_count) {
         ox_log_thread_safe("too many triangles");
         return;
     }
-    ox_triangle_set refined(nb_vertices + static_cast<unsigned int>(sides.first_corner.size()),
-                            4 * nb_triangles);
-    std::copy(vertices.get(), vertices.get() + nb_vertices, refined.vertices.get());
-    ox_3dvector* middle = refined.vertices.get() + nb_vertices;
-    for (const std::uint32_t corner : sides.first_corner) {
-        const oxp_side side = side_at(triangles.get(), corner);
-        *middle++ = (vertices[side.start] + vertices[side.end]) * 0.5f;
+    ox_triangle_set refined;
+    refined.allocate_uninitialised(nb_vertices + sides.count, 4 * nb_triangles);
+    ox_3dvector* const middles =
+        std::copy(vertices.get(), vertices.get() + nb_vertices, refined.vertices.get());
+    for (std::uint32_t i = 0; i < sides.count; ++i) {
+        const oxp_side side = side_at(triangles.get(), sides.first_corner[i]);
+        middles[i] = (vertices[side.start] + vertices[side.end]) * 0.5f;
     }
     unsigned int* out = refined.triangles.get();
-    for (std::size_t first = 0; first < sides.side_of_corner.size(); first += 3) {
-        const std::uint32_t* const side = sides.side_of_corner.data() + first;
-        const unsigned int middles[3] = {nb_vertices + side[0], nb_vertices + side[1],
-                                         nb_vertices + side[2]};
-        out = write_parts(triangles.get() + first, middles, out);
+    for (std::uint32_t first = 0; first < nb_corners; first += 3) {
+        const std::uint32_t* const side = &sides.side_of_corner[first];
+        const unsigned int m[3] = {nb_vertices + side[0], nb_vertices + side[1],
+                                   nb_vertices + side[2]};
+        out = write_parts(triangles.get() + first, m, out);
     }
     *this = refined;
 }

@@ -4,17 +4,9 @@
 #include <cstddef>
 
 #include <ox/core/ox_log.h>
+#include <ox/mesh/internal/large_array.h>
 
 namespace ox {
-
-namespace {
-
-template <typename T>
-std::shared_ptr<T[]> new_array(std::size_t count) {
-    return std::shared_ptr<T[]>(count == 0 ? nullptr : new T[count]);
-}
-
-} // namespace
 
 ox_triangle_set::ox_triangle_set() = default;
 
@@ -30,11 +22,22 @@ ox_triangle_set::~ox_triangle_set() = default;
 
 void ox_triangle_set::allocate(unsigned int new_nb_vertices, unsigned int new_nb_triangles) {
     const bool keeps_vertices = new_nb_vertices == nb_vertices;
-    const bool keeps_triangles = new_nb_triangles == nb_triangles;
-    std::shared_ptr<ox_3dvector[]> new_vertices =
-        keeps_vertices ? vertices : new_array<ox_3dvector>(new_nb_vertices);
-    std::shared_ptr<unsigned int[]> new_triangles =
-        keeps_triangles ? triangles : new_array<unsigned int>(std::size_t{3} * new_nb_triangles);
+    allocate_uninitialised(new_nb_vertices, new_nb_triangles);
+    if (!keeps_vertices) {
+        std::fill(vertices.get(), vertices.get() + nb_vertices, ox_3dvector());
+    }
+}
+
+void ox_triangle_set::allocate_uninitialised(unsigned int new_nb_vertices,
+                                             unsigned int new_nb_triangles) {
+    std::shared_ptr<ox_3dvector[]> new_vertices = vertices;
+    if (new_nb_vertices != nb_vertices) {
+        new_vertices = oxp_make_large_array<ox_3dvector>(new_nb_vertices);
+    }
+    std::shared_ptr<unsigned int[]> new_triangles = triangles;
+    if (new_nb_triangles != nb_triangles) {
+        new_triangles = oxp_make_large_array<unsigned int>(std::size_t{3} * new_nb_triangles);
+    }
     nb_vertices = new_nb_vertices;
     vertices.swap(new_vertices);
     nb_triangles = new_nb_triangles;
@@ -42,9 +45,13 @@ void ox_triangle_set::allocate(unsigned int new_nb_vertices, unsigned int new_nb
 }
 
 bool ox_triangle_set::has_valid_triangles() const {
+    // Without a branch for each index, several are compared at once.
     const unsigned int* const indices = triangles.get();
-    const bool valid = std::all_of(indices, indices + std::size_t{3} * nb_triangles,
-                                   [this](unsigned int index) { return index < nb_vertices; });
+    unsigned int largest = 0;
+    for (std::size_t i = 0; i < std::size_t{3} * nb_triangles; ++i) {
+        largest = std::max(largest, indices[i]);
+    }
+    const bool valid = nb_triangles == 0 || largest < nb_vertices;
     if (!valid) {
         ox_log_thread_safe("invalid triangle index");
     }

@@ -13,22 +13,20 @@ constexpr unsigned int axis_bits[3] = {1u, 2u, 4u};
 
 } // namespace
 
-bool oxp_octree_cell::contains(const ox_3dvector& p) const {
-    return origin.x <= p.x && p.x < origin.x + edge && //
-           origin.y <= p.y && p.y < origin.y + edge && //
-           origin.z <= p.z && p.z < origin.z + edge;
-}
-
-oxp_octree_cell oxp_octree_cell::grown_towards(const ox_3dvector& p, unsigned int& octant) const {
+oxp_octree_cell oxp_octree_cell::grown_towards(const ox_3dvector& p) const {
     oxp_octree_cell grown{origin, edge * 2.f};
-    octant = 0;
     for (unsigned int axis = 0; axis < 3; ++axis) {
         if (p.at(axis) < origin.at(axis)) {
             grown.origin[axis] = origin.at(axis) - edge;
-            octant += axis_bits[axis];
         }
     }
     return grown;
+}
+
+unsigned int oxp_octree_cell::octant_when_grown_towards(const ox_3dvector& p) const {
+    return (p.x < origin.x ? axis_bits[0] : 0u) + //
+           (p.y < origin.y ? axis_bits[1] : 0u) + //
+           (p.z < origin.z ? axis_bits[2] : 0u);
 }
 
 unsigned int oxp_octree_cell::octant_of(const ox_3dvector& p) const {
@@ -54,27 +52,18 @@ oxp_vertex_octree::oxp_vertex_octree() {
 }
 
 bool oxp_vertex_octree::can_contain(const ox_3dvector& p) const {
-    oxp_octree_cell cell = root_cell();
-    unsigned int octant = 0;
+    oxp_octree_cell cell = get_root();
     while (!cell.contains(p) && std::isfinite(cell.edge)) {
-        cell = cell.grown_towards(p, octant);
+        cell = cell.grown_towards(p);
     }
     return std::isfinite(cell.edge);
 }
 
 void oxp_vertex_octree::grow_towards(const ox_3dvector& p) {
-    unsigned int octant = 0;
-    const std::uint32_t grown = add_node(root_cell().grown_towards(p, octant));
+    const unsigned int octant = get_root().octant_when_grown_towards(p);
+    const std::uint32_t grown = add_node(get_root().grown_towards(p));
     nodes[grown].children[octant] = root;
     root = grown;
-}
-
-std::uint32_t oxp_vertex_octree::leaf_at_depth(const ox_3dvector& p, int levels) {
-    std::uint32_t reached = root;
-    for (int level = 0; level < levels; ++level) {
-        reached = child_towards(reached, p);
-    }
-    return reached;
 }
 
 std::uint32_t oxp_vertex_octree::leaf_below_size(const ox_3dvector& p, float leaf_size) {

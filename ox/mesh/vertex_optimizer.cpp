@@ -1,8 +1,14 @@
 #include <ox/mesh/ox_vertex_optimizer.h>
 
+#include <algorithm>
+#include <cstddef>
+#include <limits>
+#include <new>
+
+#include <ox/mesh/internal/large_array.h>
 #include <ox/mesh/internal/tolerances.h>
-#include <ox/mesh/internal/vertex_octree.h>
 #include <ox/mesh/internal/vertex_welder.h>
+#include <ox/mesh/internal/welded_leaves.h>
 
 namespace ox {
 
@@ -18,27 +24,36 @@ float leaf_size_for(float position_tolerance) {
 class ox_vertex_optimizer_state {
 public:
     ox_vertex_optimizer_state(float position_tolerance, float normal_tolerance)
-        : leaf_size(leaf_size_for(position_tolerance)),
-          welder(position_tolerance, normal_tolerance) {}
+        : welder(position_tolerance, normal_tolerance,
+                 oxp_welded_leaves(leaf_size_for(position_tolerance))) {
+        welder.keep_normals();
+    }
 
-    void add(const ox_3dvector& p, const ox_3dvector& n) { mapping.push_right(weld(p, n)); }
-
-    float leaf_size;
-    oxp_vertex_octree octree;
     oxp_vertex_welder welder;
     ox_list<unsigned int> mapping;
-
-private:
-    unsigned int weld(const ox_3dvector& p, const ox_3dvector& n) {
-        if (!octree.contains(p) && !octree.can_contain(p)) {
-            return welder.add_alone(p, n);
-        }
-        while (!octree.contains(p)) {
-            octree.grow_towards(p);
-        }
-        return welder.weld(octree.leaf_below_size(p, leaf_size), p, n);
-    }
 };
+
+namespace {
+
+/// Raises the capacity of a list so that `count` more elements fit, by half at least: adding a few
+/// at a time stays linear.
+void make_room(ox_list<unsigned int>& list, int count) {
+    const int size = list.size();
+    const int capacity = list.get_capacity();
+    const int largest = (std::numeric_limits<int>::max)();
+    if (count > largest - size) {
+        throw std::bad_array_new_length();
+    }
+    if (size + count > capacity) {
+        list.set_size(
+            std::max(size + count, capacity + std::min(capacity / 2, largest - capacity)));
+        list.set_size(size);
+        oxp_prefer_large_pages(list.get_data() + size,
+                               sizeof(unsigned int) * static_cast<std::size_t>(count));
+    }
+}
+
+} // namespace
 
 ox_vertex_optimizer::ox_vertex_optimizer(float position_tolerance, float normal_tolerance)
     : state(std::make_shared<ox_vertex_optimizer_state>(position_tolerance, normal_tolerance)) {}
@@ -56,11 +71,22 @@ void ox_vertex_optimizer::add_vertices(const ox_list<ox_3dvector>& vertices) {
 void ox_vertex_optimizer::add_vertices(const ox_list<ox_3dvector>& vertices,
                                        const ox_3dvector& normal) {
     // Both arguments may lie in the lists that grow below.
-    const int nb_vertices = vertices.size();
+    const int nb_vertices = std::max(vertices.size(), 0);
     const ox_3dvector n = normal;
-    for (int i = 0; i < nb_vertices; ++i) {
-        const ox_3dvector p = vertices.at(i);
-        state->add(p, n);
+    oxp_vertex_welder& welder = state->welder;
+    ox_list<unsigned int>& mapping = state->mapping;
+    make_room(mapping, nb_vertices);
+    welder.expect(static_cast<std::size_t>(nb_vertices));
+    oxp_vertex_welder::candidate block[welding_block];
+    for (int first = 0; first < nb_vertices; first += static_cast<int>(welding_block)) {
+        const int count = std::min(static_cast<int>(welding_block), nb_vertices - first);
+        for (int i = 0; i < count; ++i) {
+            const ox_3dvector& p = vertices.at(first + i);
+            block[i] = {p, n, welder.cell_of(p)};
+        }
+        const int nb_before = mapping.size();
+        welder.weld(block, static_cast<std::size_t>(count), mapping.get_data() + nb_before);
+        mapping.set_size(nb_before + count);
     }
 }
 

@@ -11,153 +11,180 @@ namespace ox {
 
 namespace {
 
-constexpr std::size_t first_bucket_count = 64;
-
-/// The leaf of a vertex that is in none; the octree never has as many cells.
-constexpr std::uint32_t no_leaf = 0xFFFFFFFFu;
-
-std::uint64_t bits_of(double value) {
-    std::uint64_t bits = 0;
-    std::memcpy(&bits, &value, sizeof bits);
-    return bits;
-}
-
-/// One round of a multiplicative hash: the high bits of the product reach down.
-std::uint64_t mixed(std::uint64_t hash, std::uint64_t value) {
-    hash = (hash ^ value) * 0x9E3779B97F4A7C15u;
-    return hash ^ (hash >> 32);
-}
-
 bool is_nan(const ox_3dvector& v) {
     return std::isnan(v.x) || std::isnan(v.y) || std::isnan(v.z);
 }
 
+bool has_same_bits(const ox_3dvector& a, const ox_3dvector& b) {
+    return std::memcmp(&a, &b, sizeof a) == 0;
+}
+
+/// Raises the capacity of a list to at least `capacity`, where that is possible.
+void reserve(ox_list<ox_3dvector>& list, std::size_t capacity) {
+    constexpr std::size_t largest = (std::numeric_limits<int>::max)();
+    const int count = list.size();
+    list.set_size(static_cast<int>(std::min(capacity, largest)));
+    list.set_size(count);
+}
+
 } // namespace
 
-oxp_vertex_welder::oxp_vertex_welder(float weld_distance, float weld_normal_distance)
+oxp_vertex_welder::oxp_vertex_welder(float weld_distance, float weld_normal_distance,
+                                     const oxp_welded_leaves& leaves_of_octree)
     : position_tolerance(weld_distance), normal_tolerance(weld_normal_distance),
-      buckets(first_bucket_count, none) {
-    // An infinite tolerance joins the two farthest floats, whose difference is still finite in
-    // double precision.
-    const double finite_tolerance = std::min(weld_distance, (std::numeric_limits<float>::max)());
-    search_reach = search_reach_in_tolerances * finite_tolerance;
-    search_cells_per_unit = 1.0 / std::max(search_cell_in_reaches * search_reach, min_search_cell);
+      welds_nothing(!(weld_distance >= 0.f) || !(weld_normal_distance >= 0.f)),
+      search_grid(weld_distance), leaves(leaves_of_octree) {}
+
+void oxp_vertex_welder::expect(std::size_t nb_vertices) {
+    const std::size_t expected = places.size() + nb_vertices / expected_vertices_at_a_place;
+    if (expected > places.get_room()) {
+        make_room(expected);
+    }
 }
 
-std::uint32_t oxp_vertex_welder::weld(std::uint32_t leaf, const ox_3dvector& p,
-                                      const ox_3dvector& n) {
+void oxp_vertex_welder::weld(const candidate* vertices, std::size_t count, unsigned int* indices) {
+    for (std::size_t i = 0; i < count; ++i) {
+        places.prefetch(vertices[i].cell);
+    }
+    for (std::size_t i = 0; i < count; ++i) {
+        indices[i] = weld_one(vertices[i]);
+    }
+    narrow_crowded_cells();
+}
+
+std::uint32_t oxp_vertex_welder::weld_one(const candidate& v) {
+    if (welds_nothing || !leaves.reach(v.position, positions)) {
+        return add_alone(v);
+    }
+    const leaf reached = leaves.leaf_of(v.position);
+    const std::uint32_t lone = find_lone(v, reached);
+    if (lone != none) {
+        return lone;
+    }
+    const neighbours found = find_neighbours(v, reached);
+    ++nb_searches;
+    nb_candidates += found.nb_candidates;
+    if (found.first != none) {
+        return found.first;
+    }
     // What can join nothing is kept out of the chains: thousands of broken normals at one place
     // would make every search there a long one.
-    if (!(position_tolerance >= 0.f) || !(normal_tolerance >= 0.f) || is_nan(n)) {
-        return add_alone(p, n);
-    }
-    const std::uint32_t found = find(leaf, p, n);
-    if (found != none) {
-        return found;
-    }
-    const std::uint32_t welded = add_alone(p, n);
-    places[welded].leaf = leaf;
-    if (places.size() > buckets.size()) {
-        enlarge_table();
-    } else {
-        chain(welded);
-    }
-    return welded;
+    return is_nan(v.normal) ? add_alone(v) : add(v, reached, !found.any);
 }
 
-std::uint32_t oxp_vertex_welder::add_alone(const ox_3dvector& p, const ox_3dvector& n) {
-    const std::uint32_t welded = static_cast<std::uint32_t>(places.size());
-    places.push_back({no_leaf, none});
-    positions.push_right(p);
-    normals.push_right(n);
-    return welded;
+/// The lone vertex at the place of v, if its normal agrees and it is found at once.
+std::uint32_t oxp_vertex_welder::find_lone(const candidate& v, const leaf& reached) const {
+    const oxp_place_table::place& newest = places.newest(v.cell + reached.key);
+    if (newest.marked && is_repeated(newest.number, newest.position, v, reached)) {
+        return newest.number;
+    }
+    std::uint32_t welded = newest.number;
+    for (int i = 0; i < candidates_for_repetition && welded != none; ++i) {
+        const ox_3dvector& position = positions.at(static_cast<int>(welded));
+        if (places.is_marked(welded) && is_repeated(welded, position, v, reached)) {
+            return welded;
+        }
+        welded = places.older(welded);
+    }
+    return none;
 }
 
-std::uint32_t oxp_vertex_welder::find(std::uint32_t leaf, const ox_3dvector& p,
-                                      const ox_3dvector& n) const {
-    double xs[3], ys[3], zs[3];
-    const int nb_xs = grid_coordinates_near(p.x, xs);
-    const int nb_ys = grid_coordinates_near(p.y, ys);
-    const int nb_zs = grid_coordinates_near(p.z, zs);
-    std::uint32_t first = none;
-    for (int i = 0; i < nb_xs; ++i) {
-        for (int j = 0; j < nb_ys; ++j) {
-            for (int k = 0; k < nb_zs; ++k) {
-                const std::uint32_t newest = buckets[bucket_of(leaf, xs[i], ys[j], zs[k])];
-                first = std::min(first, find_in_chain(newest, leaf, p, n));
+oxp_vertex_welder::neighbours oxp_vertex_welder::find_neighbours(const candidate& v,
+                                                                 const leaf& reached) const {
+    std::uint64_t cells[oxp_search_grid::max_near];
+    const int nb_cells = search_grid.keys_near(v.position, cells);
+    neighbours found;
+    for (int i = 0; i < nb_cells; ++i) {
+        std::uint32_t welded = places.newest(cells[i] + reached.key).number;
+        for (; welded != none; welded = places.older(welded)) {
+            ++found.nb_candidates;
+            const ox_3dvector& position = positions.at(static_cast<int>(welded));
+            if (is_close(position, v.position) &&
+                leaves.shares(reached, v.position, welded, position)) {
+                found.any = true;
+                if (welded < found.first && agrees(welded, v.normal)) {
+                    found.first = welded;
+                }
             }
         }
     }
-    return first;
+    return found;
 }
 
-std::uint32_t oxp_vertex_welder::find_in_chain(std::uint32_t newest, std::uint32_t leaf,
-                                               const ox_3dvector& p, const ox_3dvector& n) const {
-    std::uint32_t first = none;
-    for (std::uint32_t welded = newest; welded != none; welded = places[welded].next) {
-        if (places[welded].leaf == leaf && welded < first && welds(welded, p, n)) {
-            first = welded;
-        }
-    }
-    return first;
-}
-
-bool oxp_vertex_welder::welds(std::uint32_t welded, const ox_3dvector& p,
-                              const ox_3dvector& n) const {
-    const ox_3dvector& position = positions.at(static_cast<int>(welded));
-    const ox_3dvector& normal = normals.at(static_cast<int>(welded));
+bool oxp_vertex_welder::is_close(const ox_3dvector& position, const ox_3dvector& p) const {
     return std::fabs(p.x - position.x) <= position_tolerance &&
            std::fabs(p.y - position.y) <= position_tolerance &&
-           std::fabs(p.z - position.z) <= position_tolerance &&
-           std::fabs(n.x - normal.x) + std::fabs(n.y - normal.y) + std::fabs(n.z - normal.z) <=
-               normal_tolerance;
+           std::fabs(p.z - position.z) <= position_tolerance;
 }
 
-/// Never decreases with the coordinate, whatever the rounding. The sum makes -0 a 0.
-double oxp_vertex_welder::grid_coordinate(double coordinate) const {
-    return std::floor(coordinate * search_cells_per_unit) + 0.0;
+/// Makes a welded vertex that no other ever joins.
+std::uint32_t oxp_vertex_welder::add_alone(const candidate& v) {
+    append(v);
+    leaves.add_outside();
+    places.add_unchained();
+    return static_cast<std::uint32_t>(positions.size() - 1);
 }
 
-/// The grid coordinates of everything within the tolerance, each once. The reach is half a cell to
-/// both sides together, so its two ends name all cells there are; where the coordinate is so large
-/// that whole cells are lost in rounding, only equal coordinates weld, and the middle is theirs.
-int oxp_vertex_welder::grid_coordinates_near(float coordinate, double (&found)[3]) const {
-    const double middle = coordinate;
-    const double below = grid_coordinate(middle - search_reach);
-    const double above = grid_coordinate(middle + search_reach);
-    int nb_found = 0;
-    found[nb_found++] = grid_coordinate(middle);
-    if (below != found[0]) {
-        found[nb_found++] = below;
+std::uint32_t oxp_vertex_welder::add(const candidate& v, const leaf& reached, bool is_lone) {
+    append(v);
+    leaves.add(reached);
+    places.add(v.cell + reached.key, v.position, is_lone);
+    return static_cast<std::uint32_t>(positions.size() - 1);
+}
+
+/// Makes room for one more welded vertex everywhere before it adds anything, so that memory that
+/// runs out leaves the welded vertices as they were.
+void oxp_vertex_welder::append(const candidate& v) {
+    if (places.size() == places.get_room()) {
+        make_room(places.size() + 1);
     }
-    if (above != found[0]) {
-        found[nb_found++] = above;
+    leaves.make_room_for_one();
+    if (positions.size() == 0) {
+        first_normal = v.normal;
+    } else if (has_one_normal && !has_same_bits(v.normal, first_normal)) {
+        keep_normals();
+        has_one_normal = false;
     }
-    return nb_found;
-}
-
-std::size_t oxp_vertex_welder::bucket_of(std::uint32_t leaf, double x, double y, double z) const {
-    std::uint64_t hash = mixed(leaf, bits_of(x));
-    hash = mixed(hash, bits_of(y));
-    hash = mixed(hash, bits_of(z));
-    return static_cast<std::size_t>(hash) & (buckets.size() - 1);
-}
-
-void oxp_vertex_welder::chain(std::uint32_t welded) {
-    const ox_3dvector& p = positions.at(static_cast<int>(welded));
-    const std::size_t bucket = bucket_of(places[welded].leaf, grid_coordinate(p.x),
-                                         grid_coordinate(p.y), grid_coordinate(p.z));
-    places[welded].next = buckets[bucket];
-    buckets[bucket] = welded;
-}
-
-void oxp_vertex_welder::enlarge_table() {
-    buckets.assign(buckets.size() * 2, none);
-    for (std::uint32_t welded = 0; welded < places.size(); ++welded) {
-        if (places[welded].leaf != no_leaf) {
-            chain(welded);
-        }
+    positions.push_right(v.position);
+    if (keeps_normals) {
+        normals.push_right(v.normal);
     }
+}
+
+void oxp_vertex_welder::keep_normals() {
+    reserve(normals, places.get_room());
+    while (normals.size() < positions.size()) {
+        normals.push_right(first_normal);
+    }
+    keeps_normals = true;
+}
+
+void oxp_vertex_welder::make_room(std::size_t at_least) {
+    const std::size_t grown = places.get_room() + places.get_room() / 2;
+    const std::size_t room = std::max({at_least, grown, first_welding_room});
+    reserve(positions, room);
+    if (keeps_normals) {
+        reserve(normals, room);
+    }
+    rebuild(room);
+}
+
+void oxp_vertex_welder::rebuild(std::size_t room) {
+    places.make_room(room, positions.get_data(), [this](std::uint32_t welded) {
+        const ox_3dvector& position = positions.at(static_cast<int>(welded));
+        return search_grid.key_of(position) + leaves.key_of(welded, position);
+    });
+}
+
+void oxp_vertex_welder::narrow_crowded_cells() {
+    if (nb_searches < searches_to_average) {
+        return;
+    }
+    if (nb_candidates > crowded_candidates * nb_searches && search_grid.halve_cells()) {
+        rebuild(places.get_room());
+    }
+    nb_searches = 0;
+    nb_candidates = 0;
 }
 
 } // namespace ox

@@ -173,7 +173,7 @@ TEST(OxMesh, ListsOfNegativeSizeAreEmptyMeshes) {
 
 TEST(OxMesh, OppositesEqualThoseOfThePlainVersionOnThousandsOfRandomMeshes) {
     support::generator random(632);
-    for (int round = 0; round < 3000; ++round) {
+    for (int round = 0; round < 10000; ++round) {
         const int nb_vertices = random.between(1, 12);
         plain_mesh plain;
         plain.vertices.resize(static_cast<std::size_t>(nb_vertices));

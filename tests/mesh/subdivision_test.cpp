@@ -88,7 +88,7 @@ TEST(Subdivision, CopiesKeepTheCoarseMesh) {
 
 TEST(Subdivision, EqualsThePlainVersionOnThousandsOfRandomMeshes) {
     support::generator random(631);
-    for (int round = 0; round < 3000; ++round) {
+    for (int round = 0; round < 10000; ++round) {
         const int nb_vertices = random.between(1, 20);
         plain_mesh mesh;
         for (int i = 0; i < nb_vertices; ++i) {

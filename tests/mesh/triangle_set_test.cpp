@@ -9,7 +9,9 @@
 
 namespace {
 
+using mesh_support::contents_of;
 using mesh_support::cube;
+using mesh_support::same_bits;
 using mesh_support::set_of;
 using ox::ox_3dvector;
 using ox::ox_triangle_set;
@@ -100,6 +102,31 @@ TEST(OxTriangleSet, AllocationThatFailsLeavesTheSetAsItWas) {
     EXPECT_EQ(set.get_nb_vertices(), 8u);
     EXPECT_EQ(set.get_nb_triangles(), 12u);
     EXPECT_EQ(set.get_vertices()[7], ox_3dvector(1.f, 1.f, 1.f));
+}
+
+/// Whatever the operation has got to when memory runs out, the set is whole.
+TEST(OxTriangleSet, MemoryThatRunsOutLeavesTheSetAsItWas) {
+    const mesh_support::plain_mesh field = mesh_support::height_field(20);
+    int nb_failures = 0;
+    for (std::size_t limit = 1 << 10; limit < (1 << 20); limit += 1 << 10) {
+        for (const bool welds : {true, false}) {
+            ox_triangle_set set = set_of(field);
+            bool failed = false;
+            allocation_meter::start(limit);
+            try {
+                welds ? set.optimize(0.1f, 0.01f) : set.subdivide();
+            } catch (const std::bad_alloc&) {
+                failed = true;
+            }
+            allocation_meter::stop();
+            if (failed) {
+                ++nb_failures;
+                EXPECT_TRUE(same_bits(contents_of(set).vertices, field.vertices));
+                EXPECT_EQ(contents_of(set).triangles, field.triangles);
+            }
+        }
+    }
+    EXPECT_GT(nb_failures, 10);
 }
 
 } // namespace

@@ -3,8 +3,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <limits>
+#include <new>
 #include <type_traits>
 
+#include "allocation_meter.h"
 #include "mesh_support.h"
 
 namespace {
@@ -176,6 +178,30 @@ TEST(OxVertexOptimizer, CopiesShareOneState) {
         EXPECT_EQ(second.get_mapping().size(), 1);
     }
     EXPECT_EQ(copy.get_optimized_vertices().size(), 1);
+}
+
+/// Whatever has been welded when memory runs out, the lists fit each other and work goes on.
+TEST(OxVertexOptimizer, MemoryThatRunsOutKeepsWhatWasWelded) {
+    const auto vertices = list_of(mesh_support::height_field(20).vertices);
+    int nb_failures = 0;
+    for (std::size_t limit = 1 << 10; limit < (1 << 18); limit += 1 << 10) {
+        ox_vertex_optimizer optimizer(0.1f, 0.1f);
+        optimizer.add_vertices(list_of<ox_3dvector>({{1e7f, -1e7f, 0.f}}), ox_3dvector(0, 0, 1));
+        allocation_meter::start(limit);
+        try {
+            optimizer.add_vertices(vertices, ox_3dvector(0, 1, 0));
+        } catch (const std::bad_alloc&) {
+            ++nb_failures;
+        }
+        allocation_meter::stop();
+        EXPECT_EQ(optimizer.get_optimized_normals().size(),
+                  optimizer.get_optimized_vertices().size());
+        optimizer.add_vertices(vertices, ox_3dvector(0, 1, 0));
+        EXPECT_EQ(optimizer.get_optimized_vertices().size(), 1 + vertices.size());
+        EXPECT_EQ(optimizer.get_optimized_normals().size(), 1 + vertices.size());
+        EXPECT_EQ(optimizer.get_mapping().at(0), 0u);
+    }
+    EXPECT_GT(nb_failures, 10);
 }
 
 } // namespace

@@ -12,7 +12,8 @@ namespace ox {
 /// they lie in memory: all platforms of the library are little-endian.
 class oxp_mesh_file {
 public:
-    /// Opens `path` as fopen does with `mode`; a null path opens nothing.
+    /// Opens `path` as fopen does with `mode`; a null path opens nothing. Pipes, devices and
+    /// sockets are not opened for reading.
     oxp_mesh_file(const char* path, const char* mode);
 
     /// Tells whether the file was opened.
@@ -28,8 +29,7 @@ public:
     /// Hands everything written to the system; false when there is no room for it.
     bool finish_writing() { return std::fflush(stream.get()) == 0; }
 
-    /// The bytes between the place of reading and the end of the file as it was opened. A file
-    /// whose size cannot be asked for, such as a pipe, is taken to hold `unmeasured_file_bytes`.
+    /// The bytes between the place of reading and the end of the file as it was opened.
     std::uint64_t remaining() const { return size > position ? size - position : 0; }
 
 private:

@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <vector>
 
+#include <ox/mesh/internal/large_array.h>
+
 namespace ox {
 
 /// A side of a triangle: two vertex indices in order.
@@ -16,9 +18,10 @@ struct oxp_side {
 
 /// Finds the first of a numbered sequence of sides that runs from one vertex to another.
 ///
-/// The sides are sorted into one range for each start vertex, ordered by end vertex and number.
-/// Neighbouring triangles mostly name neighbouring vertices, so building and searching stay close
-/// in memory, which a hash table over the sides would not.
+/// The sides are sorted into one range for each start vertex. A short range, as at nearly every
+/// vertex of a mesh, is in order of number and read through; a longer one is ordered by end vertex
+/// and number and searched. Neighbouring triangles mostly name neighbouring vertices, so building
+/// and searching stay close in memory, which a hash table over the sides would not.
 class oxp_side_index {
 public:
     /// What `first` returns when there is no such side.
@@ -33,8 +36,9 @@ public:
             return side.start < nb_vertices && side.end < nb_vertices;
         };
         for (std::uint32_t i = 0; i < nb_sides; ++i) {
-            if (is_valid(side_at(i))) {
-                ++range_ends[side_at(i).start];
+            const oxp_side side = side_at(i);
+            if (is_valid(side)) {
+                ++range_ends[side.start];
             }
         }
         std::uint32_t nb_before = 0;
@@ -43,14 +47,17 @@ public:
             place = nb_before; // grows to the end of the range while it is filled
             nb_before += nb_here;
         }
-        entries.resize(nb_before);
+        entries = oxp_make_large_array<std::uint64_t>(nb_before);
         for (std::uint32_t i = 0; i < nb_sides; ++i) {
-            if (is_valid(side_at(i))) {
-                entries[range_ends[side_at(i).start]++] = entry(side_at(i).end, i);
+            const oxp_side side = side_at(i);
+            if (is_valid(side)) {
+                entries[range_ends[side.start]++] = entry(side.end, i);
             }
         }
         for (std::uint32_t vertex = 0; vertex < nb_vertices; ++vertex) {
-            std::sort(entries.begin() + range_begin(vertex), entries.begin() + range_ends[vertex]);
+            if (!is_short(vertex)) {
+                std::sort(range_begin(vertex), range_end(vertex));
+            }
         }
     }
 
@@ -60,9 +67,15 @@ public:
         if (side.start >= range_ends.size()) {
             return none;
         }
-        const auto begin = entries.begin() + range_begin(side.start);
-        const auto end = entries.begin() + range_ends[side.start];
-        const auto found = std::lower_bound(begin, end, entry(side.end, 0));
+        const std::uint64_t* const end = range_end(side.start);
+        const std::uint64_t* found = range_begin(side.start);
+        if (is_short(side.start)) {
+            while (found != end && *found >> 32 != side.end) {
+                ++found;
+            }
+        } else {
+            found = std::lower_bound(found, end, entry(side.end, 0));
+        }
         return found != end && *found >> 32 == side.end ? static_cast<std::uint32_t>(*found) : none;
     }
 
@@ -71,12 +84,27 @@ private:
         return std::uint64_t{end} << 32 | number;
     }
 
-    std::uint32_t range_begin(std::uint32_t vertex) const {
+    /// Sides at a vertex up to which reading is as fast as searching: two cache lines.
+    static constexpr std::uint32_t short_range = 16;
+
+    std::uint32_t begin_of(std::uint32_t vertex) const {
         return vertex == 0 ? 0 : range_ends[vertex - 1];
     }
 
-    std::vector<std::uint32_t> range_ends; // in `entries`, one for each vertex
-    std::vector<std::uint64_t> entries;    // end vertex and number, by start vertex
+    bool is_short(std::uint32_t vertex) const {
+        return range_ends[vertex] - begin_of(vertex) <= short_range;
+    }
+
+    std::uint64_t* range_begin(std::uint32_t vertex) const {
+        return entries.get() + begin_of(vertex);
+    }
+
+    std::uint64_t* range_end(std::uint32_t vertex) const {
+        return entries.get() + range_ends[vertex];
+    }
+
+    std::vector<std::uint32_t> range_ends;  // in `entries`, one for each vertex
+    oxp_large_array<std::uint64_t> entries; // end vertex and number, by start vertex
 };
 
 } // namespace ox

@@ -1,7 +1,7 @@
 #ifndef OX_MESH_INTERNAL_TOLERANCES_H
 #define OX_MESH_INTERNAL_TOLERANCES_H
 
-#include <cstdint>
+#include <cstddef>
 
 namespace ox {
 
@@ -9,9 +9,9 @@ namespace ox {
 /// a model of ordinary size needs few doublings.
 constexpr float first_root_edge = 1.f;
 
-/// Levels between the root and the leaves when a finished triangle set is welded: 512 cells along
-/// each axis.
-constexpr int set_octree_depth = 9;
+/// Edge of the root, in edges of the cells above the leaves, when a finished triangle set is
+/// welded: the leaves lie nine levels below the root, 512 along each axis.
+constexpr float set_root_in_leaf_parents = 256.f;
 
 /// Doublings of the root that welding a triangle set may take: a model that needs more is broken,
 /// not large.
@@ -27,19 +27,47 @@ constexpr float min_leaf_size = 1.f;
 
 /// Distance within which candidates for welding are collected, in position tolerances: beyond 1
 /// by more than the rounding of a single-precision difference.
-constexpr double search_reach_in_tolerances = 2.0;
+constexpr double search_reach_in_tolerances = 1.001;
 
-/// Edge of the cells that candidates are hashed by, in search reaches: most searches stay in one
-/// cell, and a cell still holds few vertices.
-constexpr double search_cell_in_reaches = 4.0;
+/// Edge of the cells that candidates are hashed by, in search reaches. Wide cells keep most
+/// searches in one cell; where vertices lie so close that many share a cell, it is halved down to
+/// the narrowest, which holds few whose distance is beyond the tolerance.
+constexpr double widest_search_cell_in_reaches = 64.0;
+constexpr double narrowest_search_cell_in_reaches = 4.0;
+
+/// Candidates that a search looks at on average before the cells are too wide: some share a bucket
+/// by chance.
+constexpr std::size_t crowded_candidates = 3;
+
+/// Candidates that are looked at for a repetition of a vertex before all within the tolerance are
+/// searched: in crowded cells few vertices are repetitions.
+constexpr int candidates_for_repetition = 4;
+
+/// Searches over which that average is taken.
+constexpr std::size_t searches_to_average = 4096;
 
 /// Smallest edge, in model units, of the cells that candidates are hashed by: below the smallest
 /// single-precision number, so that a tolerance of 0 keeps different coordinates apart.
 constexpr double min_search_cell = 1e-60;
 
-/// Bytes taken to be in a file whose size cannot be asked for, such as a pipe: an endless device
-/// must not fill the memory.
-constexpr std::uint64_t unmeasured_file_bytes = std::uint64_t{64} << 20;
+/// How many of the vertices given to a welder are expected to join one welded vertex. In a closed
+/// mesh of triangles about six meet at each place; less leaves room for borders and sharp edges.
+constexpr std::size_t expected_vertices_at_a_place = 5;
+
+/// Vertices that a welder is given at a time: their searches wait for memory together, and all of
+/// them fit the processor's first-level cache. Whole triangles, so a multiple of 3.
+constexpr std::size_t welding_block = 192;
+
+/// Welded vertices that a welder first makes room for.
+constexpr std::size_t first_welding_room = 64;
+
+/// Normal tolerance from which unit normals always agree: the sum over the axes is at most
+/// 2 * sqrt(3), and below 6 for normals of tiny triangles, whose length is lost in underflow.
+constexpr float indifferent_normal_tolerance = 8.f;
+
+/// Root edge up to which the normal of every triangle in the octree is finite: products of two
+/// differences stay below 2^124.
+constexpr float max_root_edge_of_finite_normals = 1152921504606846976.f; // 2^60
 
 } // namespace ox
 

@@ -15,11 +15,18 @@ struct oxp_octree_cell {
     float edge = 0.f;
 
     /// Tells whether the cell contains p; no cell contains a NaN or infinite coordinate.
-    bool contains(const ox_3dvector& p) const;
+    bool contains(const ox_3dvector& p) const {
+        return origin.x <= p.x && p.x < origin.x + edge && //
+               origin.y <= p.y && p.y < origin.y + edge && //
+               origin.z <= p.z && p.z < origin.z + edge;
+    }
 
-    /// The cell of twice the edge that extends this one towards p. `octant` becomes the place of
-    /// this cell in it: bit 0 for the upper half in x, bit 1 in y, bit 2 in z.
-    oxp_octree_cell grown_towards(const ox_3dvector& p, unsigned int& octant) const;
+    /// The cell of twice the edge that extends this one towards p.
+    oxp_octree_cell grown_towards(const ox_3dvector& p) const;
+
+    /// The octant that this cell becomes when it is grown towards p: bit 0 for the upper half in x,
+    /// bit 1 in y, bit 2 in z.
+    unsigned int octant_when_grown_towards(const ox_3dvector& p) const;
 
     /// The octant of this cell that p falls into.
     unsigned int octant_of(const ox_3dvector& p) const;
@@ -33,22 +40,23 @@ struct oxp_octree_cell {
 /// The root begins as the cell [0, 1) and is doubled until it holds every vertex; a former root
 /// stays below the new one with the origin it had, which after rounding may differ from the origin
 /// its parent would give it. So the leaf of a vertex is found by walking, never by computing it
-/// from the coordinates. All cells live in one array; a leaf is known by its index in it.
+/// from the coordinates, unless nothing was rounded (see oxp_leaf_grid). All cells live in one
+/// array; a leaf is known by its index in it.
 class oxp_vertex_octree {
 public:
     oxp_vertex_octree();
 
+    /// The root.
+    const oxp_octree_cell& get_root() const { return nodes[root].cell; }
+
     /// Tells whether the root contains p.
-    bool contains(const ox_3dvector& p) const { return root_cell().contains(p); }
+    bool contains(const ox_3dvector& p) const { return get_root().contains(p); }
 
     /// Tells whether doubling the root, while its edge is finite, ends in a root that contains p.
     bool can_contain(const ox_3dvector& p) const;
 
     /// Doubles the root once, towards p.
     void grow_towards(const ox_3dvector& p);
-
-    /// The cell `levels` below the root that p falls into; missing cells are made. O(levels).
-    std::uint32_t leaf_at_depth(const ox_3dvector& p, int levels);
 
     /// The first cell on the way from the root to p whose edge is below `leaf_size`, which is
     /// positive; missing cells are made. O(log(root edge / leaf_size)).
@@ -62,7 +70,6 @@ private:
         std::array<std::uint32_t, 8> children;
     };
 
-    const oxp_octree_cell& root_cell() const { return nodes[root].cell; }
     std::uint32_t add_node(const oxp_octree_cell& cell);
     std::uint32_t child_towards(std::uint32_t parent, const ox_3dvector& p);
 

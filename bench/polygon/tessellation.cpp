@@ -1,0 +1,88 @@
+#include <cmath>
+
+#include <bench/peers/glu.h>
+#include <bench/support/shape_facts.h>
+
+#include "workloads.h"
+
+namespace bench {
+namespace {
+
+using ox::ox_3dvector;
+using ox::ox_list;
+using ox::ox_polygon;
+
+constexpr double pi = 3.14159265358979323846;
+
+// The outline has 20 vertices a hole, and each hole 20: 100 holes in an outline of 2,000.
+constexpr long vertices_a_hole = 20;
+constexpr double hole_pitch = 12.0;
+constexpr double hole_radius = 4.0;
+
+// A circle whose radius swells and shrinks `waves` times by `depth`.
+ox_list<ox_3dvector> wavy_circle(double x, double y, double radius, double depth, int waves,
+                                 long count) {
+    ox_list<ox_3dvector> contour;
+    for (long i = 0; i < count; ++i) {
+        const double angle = 2.0 * pi * static_cast<double>(i) / static_cast<double>(count);
+        const double r = radius + depth * std::sin(waves * angle);
+        contour.push_right(ox_3dvector(static_cast<float>(x + r * std::cos(angle)),
+                                       static_cast<float>(y + r * std::sin(angle)), 0.0f));
+    }
+    return contour;
+}
+
+ox_polygon outline_with_holes(long holes) {
+    const double side = std::ceil(std::sqrt(static_cast<double>(holes)));
+    const double middle = 0.5 * (side - 1.0) * hole_pitch;
+    ox_polygon polygon;
+    polygon.add_contour(
+        wavy_circle(middle, middle, 0.75 * side * hole_pitch, 2.0, 40, vertices_a_hole * holes));
+    for (long i = 0; i < holes; ++i) {
+        const long columns = static_cast<long>(side);
+        polygon.add_contour(wavy_circle(hole_pitch * static_cast<double>(i % columns),
+                                        hole_pitch * static_cast<double>(i / columns), hole_radius,
+                                        0.0, 0, vertices_a_hole));
+    }
+    return polygon;
+}
+
+std::shared_ptr<const std::vector<peers::wide_contour>> wide_contours(ox_polygon& polygon) {
+    const auto made = std::make_shared<std::vector<peers::wide_contour>>();
+    const ox_3dvector* v = polygon.get_contour_vertices().get_data();
+    for (const unsigned int size : polygon.get_contour_sizes()) {
+        peers::wide_contour contour;
+        for (unsigned int i = 0; i < size; ++i, ++v) {
+            contour.push_back(
+                {static_cast<double>(v->x), static_cast<double>(v->y), static_cast<double>(v->z)});
+        }
+        made->push_back(contour);
+    }
+    return made;
+}
+
+contest tessellate(long holes) {
+    const auto merged = std::make_shared<ox_polygon>(outline_with_holes(holes));
+    contest rules;
+    rules.ours = make_contestant(
+        "ox_polygon", [=] { return ox_polygon(*merged); },
+        [](ox_polygon& polygon) { polygon.get_tesselation_triangles(); },
+        [](ox_polygon& polygon) {
+            return std::vector<fact>{
+                {"triangles", polygon.get_tesselation_triangles().size() / 3.0, 0.0},
+                {"area", area_of(polygon), 1e-9}};
+        });
+    rules.peers = {peers::glu_tessellation(wide_contours(*merged))};
+    rules.goal = 1.05;
+    return rules;
+}
+
+} // namespace
+
+workload tessellation_with_holes() {
+    return workload{
+        "outline with holes tessellated", "holes", {25, 100, 400}, {25, 50, 100}, tessellate}
+        .judged_from(100);
+}
+
+} // namespace bench

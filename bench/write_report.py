@@ -4,8 +4,8 @@
 usage: write_report.py NOTES ROWS... > docs/benchmarks.md
 
 ROWS are the files that the benchmark programs wrote with --rows, one JSON object a line. NOTES is
-written by hand and included as it stands: below a heading with a workload's name it explains why a
-goal is not met.
+written by hand: below a heading with a workload's name it explains why a goal is not met. Such a
+note is left out where this run meets the workload's goals; the rest is included as it stands.
 """
 
 import datetime
@@ -27,6 +27,9 @@ PEER_PACKAGES = [
     "libpolyclipping-dev",
     "libssl-dev",
 ]
+
+# Begins a note about one workload.
+NOTE_MARK = "\n### "
 
 UNITS = [(1.0, "s"), (1e-3, "ms"), (1e-6, "µs"), (0.0, "ns")]
 
@@ -167,12 +170,22 @@ def is_unmet(row):
     return row.get("verdict") == "NOT MET"
 
 
+def unmet_workloads(rows):
+    return list(dict.fromkeys(row["workload"] for row in rows if is_unmet(row)))
+
+
+def needed_notes(notes, unmet):
+    general, *explanations = notes.split(NOTE_MARK)
+    needed = [note for note in explanations if note.split("\n", 1)[0] in unmet]
+    return NOTE_MARK.join([general] + needed)
+
+
 def unmet_summary(rows, notes):
     judged = [row for row in rows if row.get("verdict") in ("met", "NOT MET")]
     unmet = [row for row in judged if is_unmet(row)]
     lines = [f"{len(judged) - len(unmet)} of {len(judged)} goals are met."]
-    for workload in dict.fromkeys(row["workload"] for row in unmet):
-        known = f"### {workload}\n" in notes
+    for workload in unmet_workloads(rows):
+        known = f"{NOTE_MARK}{workload}\n" in notes
         lines.append(f"- Not met in full: {workload}" + (", see [Notes](#notes)." if known
                                                          else ". No note explains it yet."))
     return "\n".join(lines)
@@ -197,7 +210,7 @@ def main():
     notes_path, *rows_paths = sys.argv[1:]
     rows = load_rows(rows_paths)
     with open(notes_path, encoding="utf-8") as file:
-        notes = file.read()
+        notes = needed_notes(file.read(), unmet_workloads(rows))
     programs = [row for row in rows if row["kind"] == "program"]
     print(INTRODUCTION)
     print(describe_run(programs) + "\n")

@@ -89,15 +89,15 @@ bool derive_plane(ox_polygon_data& polygon) {
     return polygon.plane_defined;
 }
 
-// The first contour of a batch is mostly the only one: its list gets no room to spare.
-void append(ox_list<ox_3dvector>& pending, const ox_list<ox_3dvector>& vertices) {
-    const int before = pending.size();
-    const int needed = before + vertices.size();
-    if (before > 0 && needed > pending.get_capacity()) {
-        pending.set_size(std::max(needed, before + before / 2));
+// The first contour is mostly the only one: its list gets no room to spare.
+void append(ox_list<ox_3dvector>& list, const ox_3dvector* vertices, int size) {
+    const int before = list.size();
+    const int needed = before + size;
+    if (before > 0 && needed > list.get_capacity()) {
+        list.set_size(std::max(needed, before + before / 2));
     }
-    pending.set_size(needed);
-    std::copy(vertices.begin(), vertices.end(), pending.begin() + before);
+    list.set_size(needed);
+    std::copy(vertices, vertices + size, list.begin() + before);
 }
 
 void drop_pending(ox_polygon_data& polygon) {
@@ -175,9 +175,7 @@ void ox_polygon_data::compute_contours() {
 
 void ox_polygon_data::append_contour(const ox_3dvector* vertices, unsigned int size, bool outer,
                                      int parent) {
-    for (unsigned int i = 0; i < size; ++i) {
-        contour_vertices.push_right(vertices[i]);
-    }
+    append(contour_vertices, vertices, static_cast<int>(size));
     contour_orientations.push_right(outer);
     contour_parents.push_right(parent);
     contour_sizes.push_right(size); // last: no size without its vertices, even without memory
@@ -231,7 +229,7 @@ void ox_polygon::add_contour(const ox_list<ox_3dvector>& vertices) {
     }
     const int pending = data->pending_vertices.size();
     try {
-        append(data->pending_vertices, vertices);
+        append(data->pending_vertices, vertices.get_data(), vertices.size());
         data->pending_sizes.push_right(static_cast<unsigned int>(vertices.size()));
     } catch (...) { // no memory: vertices without a size would go to the next contour
         data->pending_vertices.set_size(pending);

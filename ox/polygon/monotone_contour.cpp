@@ -30,30 +30,33 @@ cInt largest_coordinate(const IntPoint* points, std::size_t size) {
     return std::max({box.high.X, box.high.Y, -box.low.X, -box.low.Y});
 }
 
-std::size_t without_repeated(IntPoint* points, std::size_t size) {
-    std::size_t kept = static_cast<std::size_t>(std::unique(points, points + size) - points);
-    while (kept > 1 && points[kept - 1] == points[0]) {
-        --kept;
-    }
-    return kept;
+// Whether no corner is left at `vertex`: it repeats a neighbour, the contour goes straight on
+// there, or it is the tip of a spike.
+bool is_without_corner(const IntPoint& before, const IntPoint& vertex, const IntPoint& after) {
+    return turn(difference(vertex, before), difference(after, vertex)) == 0;
 }
 
-// Drops the vertices at which a contour without repeated points goes straight on. Those that stay
-// keep their directions, so one round finds all. False at a spike, where it turns back.
-bool drop_straight(IntPoint* points, std::size_t& size) {
-    const IntPoint first = points[0];
-    IntPoint previous = points[size - 1];
+// Drops the vertices without a corner, as the library does when it takes a contour; the corners
+// that stay begin at `points`. Dropping a tip can make the next one of its neighbours. Which one
+// goes first does not matter: of two neighbours that could go, the other one still can, and both
+// ways lead to the same corners. False when fewer than three stay.
+bool drop_all_but_corners(IntPoint*& points, std::size_t& size) {
     std::size_t kept = 0;
     for (std::size_t i = 0; i < size; ++i) {
-        const IntPoint current = points[i];
-        const IntPoint incoming = difference(current, previous);
-        const IntPoint outgoing = difference(i + 1 < size ? points[i + 1] : first, current);
-        if (turn(incoming, outgoing) != 0) {
-            points[kept++] = current;
-        } else if (incoming.X * outgoing.X + incoming.Y * outgoing.Y < 0) {
-            return false;
+        while (kept >= 2 && is_without_corner(points[kept - 2], points[kept - 1], points[i])) {
+            --kept;
         }
-        previous = current;
+        points[kept++] = points[i];
+    }
+    while (kept >= 3) {
+        if (is_without_corner(points[kept - 2], points[kept - 1], points[0])) {
+            --kept;
+        } else if (is_without_corner(points[kept - 1], points[0], points[1])) {
+            ++points;
+            --kept;
+        } else {
+            break;
+        }
     }
     size = kept;
     return size >= 3;
@@ -141,7 +144,7 @@ private:
 // Whether the sides are apart at every level with a vertex, the ends excepted: then they are in
 // between.
 bool are_sides_apart(const monotone_contour& contour) {
-    const cInt highest = contour.points[contour.high_right].Y;
+    const cInt highest = contour.highest();
     side_walk right(contour, true);
     side_walk left(contour, false);
     while (true) {
@@ -212,8 +215,7 @@ bool read_monotone_contour(IntPoint* points, std::size_t size, monotone_contour&
     if (largest > farthest_monotone_coordinate) {
         return false;
     }
-    size = without_repeated(points, size);
-    if (size < 3 || !drop_straight(points, size)) {
+    if (!drop_all_but_corners(points, size)) {
         return false;
     }
     put_lowest_last(points, size);
@@ -224,7 +226,7 @@ bool read_monotone_contour(IntPoint* points, std::size_t size, monotone_contour&
 }
 
 bool monotone_contour::surrounds(const grid_box& box) const {
-    if (box.low.Y <= points[size - 1].Y || box.high.Y >= points[high_right].Y) {
+    if (box.low.Y <= points[size - 1].Y || box.high.Y >= highest()) {
         return false;
     }
     // The edges of either side that reach from the lowest to the highest level of the box.

@@ -241,7 +241,7 @@ public:
 
     /// Makes one new polygon per outer boundary, with the holes directly inside it; the caller
     /// deletes them. A hole keeps its parent's index in this polygon. With fewer than two outer
-    /// boundaries the list holds this polygon itself, which must not be deleted.
+    /// boundaries the list holds this polygon itself, which must not be deleted. O(n).
     ox_list<ox_polygon*> split_to_polygons();
 
     /// Returns a list that holds this polygon itself when it is one convex contour, otherwise an

@@ -23,7 +23,7 @@ using ClipperLib::cInt;
 constexpr int none = -1;
 
 struct separate_contour {
-    grid_box box;
+    grid_box box; // of all points, the tips of spikes included
     monotone_contour shape;
     int around = none;            // the contour directly around this one
     bool clip = false;            // of the second group
@@ -178,7 +178,7 @@ std::vector<bool> place_contours(separate_contour_list& contours,
 std::vector<int> kept_in_sweep_order(const separate_contour_list& contours,
                                      const std::vector<bool>& kept) {
     std::vector<contour_level> levels =
-        levels_of(contours, [](const separate_contour& c) { return c.box.high.Y; });
+        levels_of(contours, [](const separate_contour& c) { return c.shape.highest(); });
     std::sort(levels.begin(), levels.end(),
               [](const contour_level& a, const contour_level& b) { return b.first < a.first; });
     std::vector<int> order;

@@ -1,3 +1,4 @@
+#include <cstddef>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -8,27 +9,6 @@
 
 namespace ox {
 
-namespace {
-
-// Appends an outer boundary of `source` and the holes directly inside it. The holes keep the
-// index that their parent has in `source`: callers match pieces with the source by it.
-void append_with_holes(ox_polygon_data& piece, const ox_polygon_data& source, int outer) {
-    int first = 0;
-    for (int contour = 0; contour < source.contour_sizes.size(); ++contour) {
-        const unsigned int size = source.contour_sizes[contour];
-        const ox_3dvector* vertices = source.contour_vertices.get_data() + first;
-        const bool is_hole = !source.contour_orientations[contour];
-        if (contour == outer) {
-            piece.append_contour(vertices, size, true, -1);
-        } else if (is_hole && source.contour_parents[contour] == outer) {
-            piece.append_contour(vertices, size, false, outer);
-        }
-        first += static_cast<int>(size);
-    }
-}
-
-} // namespace
-
 ox_list<ox_polygon*> ox_polygon::split_to_polygons() {
     if (count_outer_contours() < 2) {
         ox_list<ox_polygon*> itself;
@@ -36,11 +16,22 @@ ox_list<ox_polygon*> ox_polygon::split_to_polygons() {
         return itself;
     }
     std::vector<std::unique_ptr<ox_polygon>> pieces;
+    // By contour, what an outer one became. Parents come before what lies inside them.
+    std::vector<ox_polygon_data*> piece_of(static_cast<std::size_t>(data->contour_sizes.size()));
+    const ox_3dvector* vertices = data->contour_vertices.get_data();
     for (int contour = 0; contour < data->contour_sizes.size(); ++contour) {
+        const unsigned int size = data->contour_sizes[contour];
+        const int parent = data->contour_parents[contour];
         if (data->contour_orientations[contour]) {
             pieces.push_back(std::make_unique<ox_polygon>(data->point, data->normal));
-            append_with_holes(*pieces.back()->data, *data, contour);
+            piece_of[static_cast<std::size_t>(contour)] = pieces.back()->data;
+            pieces.back()->data->append_contour(vertices, size, true, -1);
+        } else {
+            // Holes keep this index of their parent: callers match pieces with the whole by it.
+            piece_of[static_cast<std::size_t>(parent)]->append_contour(vertices, size, false,
+                                                                       parent);
         }
+        vertices += size;
     }
     return hand_over(std::move(pieces));
 }

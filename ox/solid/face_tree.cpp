@@ -104,7 +104,8 @@ std::vector<int> face_tree::find_faces_at(const ox_3dvector& point, const ox_3dv
             }
         }
     }
-    std::sort(found.begin(), found.end());
+    // Leaf by leaf, the faces come in long runs, which quicksort takes badly.
+    std::stable_sort(found.begin(), found.end());
     return found;
 }
 

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <numeric>
 
 #include <ox/solid/internal/point_grid.h>
 #include <ox/solid/internal/tolerances.h>
@@ -38,15 +39,33 @@ bool is_finite(const ox_3dvector& p) {
 
 point_grid::point_grid(const std::vector<ox_3dvector>& points, float reach_of_points)
     : reach(static_cast<double>(reach_of_points)) {
-    entries.reserve(points.size());
+    std::vector<entry> unsorted;
+    unsorted.reserve(points.size());
     for (std::size_t i = 0; i < points.size(); ++i) {
         const cell_hashes own = cells_around(points[i], 0.0);
         if (own.count > 0) {
-            entries.push_back({own.items[0], i});
+            unsorted.push_back({own.items[0], i});
         }
     }
-    std::sort(entries.begin(), entries.end(),
-              [](const entry& a, const entry& b) { return a.cell < b.cell; });
+    sort_into_buckets(unsorted);
+}
+
+// A counting sort: counts each bucket, adds up to where the buckets end, and fills them from there
+// to their starts.
+void point_grid::sort_into_buckets(const std::vector<entry>& unsorted) {
+    std::size_t buckets = 1;
+    while (buckets < unsorted.size()) {
+        buckets *= 2;
+    }
+    starts.assign(buckets + 1, 0);
+    for (const entry& e : unsorted) {
+        ++starts[bucket_of(e.cell)];
+    }
+    std::partial_sum(starts.begin(), starts.end(), starts.begin());
+    entries.resize(unsorted.size());
+    for (auto e = unsorted.rbegin(); e != unsorted.rend(); ++e) {
+        entries[--starts[bucket_of(e->cell)]] = *e;
+    }
 }
 
 point_grid::cell_hashes point_grid::cells_around(const ox_3dvector& p, double distance) const {
@@ -74,13 +93,6 @@ point_grid::cell_hashes point_grid::cells_around(const ox_3dvector& p, double di
     hashes.count =
         static_cast<int>(std::unique(hashes.items, hashes.items + hashes.count) - hashes.items);
     return hashes;
-}
-
-const point_grid::entry* point_grid::find_cell(cell_hash cell) const {
-    const auto found =
-        std::lower_bound(entries.begin(), entries.end(), cell,
-                         [](const entry& e, cell_hash searched) { return e.cell < searched; });
-    return entries.data() + (found - entries.begin());
 }
 
 } // namespace ox

@@ -111,6 +111,41 @@ void disguise(generator& random, spots& shape) {
     }
 }
 
+// Lets the way overshoot corners by a unit or more and turn back, as that between faces of
+// neighbours does when each has rounded the common corner in a frame of its own. Some of the tips
+// lie beside the way: then they stay.
+void add_spikes(generator& random, spots& shape) {
+    for (std::size_t i = shape.size(); i-- > 0;) {
+        if (random.one_in(2)) {
+            continue;
+        }
+        const spot before = shape[(i + shape.size() - 1) % shape.size()];
+        const spot corner = shape[i];
+        const int times = random.between(1, 3);
+        const spot step{(corner.x > before.x) - (corner.x < before.x),
+                        (corner.y > before.y) - (corner.y < before.y)};
+        const bool whole = random.one_in(4); // past the corner by the whole way to it
+        const spot tip{corner.x + times * (whole ? corner.x - before.x : step.x),
+                       corner.y + times * (whole ? corner.y - before.y : step.y)};
+        shape.insert(shape.begin() + static_cast<std::ptrdiff_t>(i), tip);
+        if (random.one_in(3)) { // there and back again
+            shape.insert(shape.begin() + static_cast<std::ptrdiff_t>(i), {corner, tip, corner});
+        }
+    }
+}
+
+// Every corner twice, the second one up to a unit beside the first.
+spots doubled_corners(generator& random, const spots& shape) {
+    spots result;
+    for (const spot& s : shape) {
+        result.push_back(s);
+        const bool along_x = random.one_in(2);
+        const int beside = random.between(-1, 1);
+        result.push_back({s.x + (along_x ? beside : 0), s.y + (along_x ? 0 : beside)});
+    }
+    return result;
+}
+
 spots random_shape(generator& random, bool tidy, int size) {
     spots shape;
     switch (random.between(0, tidy ? 6 : 9)) {
@@ -224,6 +259,18 @@ void add_wall_with_openings(generator& random, const canvas& paper, twins& targe
     add_rows(random, paper, inner_cell(random, paper.tidy, {{}, size}), columns, rows, target);
 }
 
+spots spiked_shape(generator& random, bool tidy, int size) {
+    spots shape = random_shape(random, tidy, size);
+    if (random.one_in(2)) {
+        shape = doubled_corners(random, shape);
+    }
+    if (random.one_in(2)) {
+        add_spikes(random, shape);
+    }
+    disguise(random, shape);
+    return shape;
+}
+
 } // namespace
 
 TEST(SeparateContours, SingleContoursAreMergedAsTheClippingLibraryDoes) {
@@ -234,6 +281,43 @@ TEST(SeparateContours, SingleContoursAreMergedAsTheClippingLibraryDoes) {
         const int size = sizes[random.between(0, 6)];
         twins pair;
         pair.add(paper.draw(random_shape(random, paper.tidy, size)));
+        merge_and_compare(pair);
+    }
+}
+
+TEST(SeparateContours, SpikesAreLeftOutAsTheClippingLibraryDoes) {
+    generator random(40116);
+    for (int round = 0; round < 60000 && !testing::Test::HasFailure(); ++round) {
+        const canvas paper = random_canvas(random);
+        const int sizes[] = {1, 2, 3, 5, 10, 100, 10000};
+        twins pair;
+        pair.add(paper.draw(spiked_shape(random, paper.tidy, sizes[random.between(0, 6)])));
+        merge_and_compare(pair);
+    }
+}
+
+TEST(SeparateContours, RowsOfSpikedContoursAreMergedAsTheClippingLibraryDoes) {
+    generator random(40117);
+    for (int round = 0; round < 3000 && !testing::Test::HasFailure(); ++round) {
+        const canvas paper = random_canvas(random);
+        twins pair;
+        pair.set_plane(ox_3dvector(), paper.axes.z);
+        const int count = random.between(1, 40);
+        const int size = random.between(10, 200);
+        const int room = paper.tidy ? 8 * size : size + random.between(0, 4);
+        for (int i = 0; i < count; ++i) {
+            pair.add(paper.draw(spiked_shape(random, paper.tidy, size),
+                                {room * i, random.between(0, 1) * random.between(0, 9)}));
+        }
+        if (random.one_in(2)) { // all around them
+            const int margin = 4 * room;
+            const int right = room * count + margin;
+            pair.add(paper.draw({{-margin, -margin},
+                                 {right, -margin},
+                                 {right + 1, -margin},
+                                 {right, margin},
+                                 {-margin, margin}}));
+        }
         merge_and_compare(pair);
     }
 }

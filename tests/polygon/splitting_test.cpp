@@ -1,8 +1,12 @@
+#include <algorithm>
 #include <limits>
+#include <vector>
 
 #include <gtest/gtest.h>
 
 #include <ox/polygon/ox_polygon.h>
+#include <tests/polygon/polygon_checks.h>
+#include <tests/polygon/random_regions.h>
 #include <tests/support/random_shapes.h>
 
 namespace {
@@ -30,6 +34,31 @@ ox_polygon polygon_of(const ox_list<ox_3dvector>& vertices) {
 void delete_all(const ox_list<ox_polygon*>& pieces) {
     for (ox_polygon* piece : pieces) {
         delete piece;
+    }
+}
+
+// The plain way to find what a piece holds: a look at all contours.
+std::vector<int> contours_of_piece(ox_polygon& polygon, int outer) {
+    std::vector<int> contours;
+    for (int c = 0; c < polygon_checks::count_contours(polygon); ++c) {
+        const bool is_hole = !polygon.get_contour_orientations().at(c);
+        if (c == outer || (is_hole && polygon.get_contour_parents().at(c) == outer)) {
+            contours.push_back(c);
+        }
+    }
+    return contours;
+}
+
+void expect_piece(ox_polygon& piece, ox_polygon& polygon, int outer) {
+    const std::vector<int> contours = contours_of_piece(polygon, outer);
+    ASSERT_EQ(polygon_checks::count_contours(piece), static_cast<int>(contours.size()));
+    int next = 0;
+    for (const int c : contours) {
+        EXPECT_EQ(piece.get_contour_orientations().at(next), c == outer);
+        EXPECT_EQ(piece.get_contour_parents().at(next), c == outer ? -1 : outer);
+        const ox_list<ox_3dvector> expected = polygon_checks::contour_of(polygon, c);
+        const ox_list<ox_3dvector> found = polygon_checks::contour_of(piece, next++);
+        EXPECT_TRUE(std::equal(found.begin(), found.end(), expected.begin(), expected.end()));
     }
 }
 
@@ -116,6 +145,27 @@ TEST(OxPolygonSplitToPolygons, MakesIslandsInHolesPiecesOfTheirOwn) {
     EXPECT_FLOAT_EQ(pieces.at(0)->get_area(), 20.0f);
     EXPECT_FLOAT_EQ(pieces.at(1)->get_area(), 4.0f);
     delete_all(pieces);
+}
+
+TEST(OxPolygonSplitToPolygons, MakesThePiecesThatALookAtAllContoursFinds) {
+    support::generator random(40118);
+    for (int round = 0; round < 10000 && !testing::Test::HasFailure(); ++round) {
+        ox_polygon polygon =
+            random_regions::tangle(random, random.between(4, 16), random.between(5, 60));
+        if (polygon.count_outer_contours() < 2) {
+            continue;
+        }
+        const ox_list<ox_polygon*> pieces = polygon.split_to_polygons();
+        ASSERT_EQ(pieces.size(), polygon.count_outer_contours());
+        int outer = -1;
+        for (ox_polygon* piece : pieces) {
+            do {
+                ++outer;
+            } while (!polygon.get_contour_orientations().at(outer));
+            expect_piece(*piece, polygon, outer);
+        }
+        delete_all(pieces);
+    }
 }
 
 TEST(OxPolygonSplitToPolygons, PiecesOutliveTheirSource) {

@@ -32,15 +32,21 @@ struct monotone_contour {
     std::size_t high_right = 0; ///< index of the highest vertex, of two the right one
     std::size_t high_left = 0;  ///< index of the highest vertex, of two the left one
 
+    /// The highest level: tips of spikes do not count.
+    ClipperLib::cInt highest() const { return points[high_right].Y; }
+
     /// Whether the box lies inside, clear of both sides at every level. O(log size) plus the
     /// vertices at the levels of the box.
     bool surrounds(const grid_box& box) const;
 };
 
 /// Brings `size` points of a closed contour into the order in which the clipping library would
-/// answer them, without the repeated and straight vertices that it leaves out. False, with the
+/// answer them, without the vertices that it leaves out: repeated ones, those at which the contour
+/// goes straight on, and the tips of spikes, at which it turns back along its way. False, with the
 /// points in an unspecified state, for a contour that is not of this kind or so thin, flat or far
 /// away that roundings inside the library could decide: then only the library knows. O(size).
+///
+/// The contour's points lie among the given ones, not always from the first on.
 bool read_monotone_contour(ClipperLib::IntPoint* points, std::size_t size,
                            monotone_contour& contour);
 

@@ -5,8 +5,15 @@
 namespace ox {
 
 contour_lists::contour_lists(std::size_t contour_count, std::size_t vertex_count)
-    : vertices(static_cast<int>(vertex_count)), sizes(static_cast<int>(contour_count)),
-      orientations(static_cast<int>(contour_count)), parents(static_cast<int>(contour_count)) {}
+    : orientations(static_cast<int>(contour_count)), parents(static_cast<int>(contour_count)),
+      vertices(static_cast<int>(vertex_count)), sizes(static_cast<int>(contour_count)) {}
+
+contour_lists::contour_lists(std::size_t vertex_count, ox_list<ox_3dvector>&& vertex_memory,
+                             ox_list<unsigned int>&& size_memory)
+    : orientations(1), parents(1), vertices(std::move(vertex_memory)),
+      sizes(std::move(size_memory)) {
+    vertices.set_size(static_cast<int>(vertex_count));
+}
 
 void contour_lists::begin_contour(std::size_t size, bool hole, int parent) {
     sizes[contours] = static_cast<unsigned int>(size);

@@ -7,7 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <vector>
+#include <utility>
 
 #include <ox/polygon/internal/contour_lists.h>
 #include <ox/polygon/internal/integer_grid.h>
@@ -28,11 +28,11 @@ bool is_finite(const ox_3dvector& v) {
 // Newell's idea with a fixed fan of neighbours: the sum of the cross products of successive edges.
 ox_3dvector sum_of_edge_crosses(const ox_3dvector* v, unsigned int n) {
     ox_3dvector sum;
-    for (unsigned int i = 0; i < n; ++i) {
-        const ox_3dvector& a = v[i];
-        const ox_3dvector& b = v[(i + 1) % n];
-        const ox_3dvector& c = v[(i + 2) % n];
-        sum += ox_cross(b - a, c - b);
+    ox_3dvector incoming = v[1 % n] - v[0];
+    for (unsigned int i = 1; i <= n; ++i) {
+        const ox_3dvector outgoing = v[(i + 1) % n] - v[i % n];
+        sum += ox_cross(incoming, outgoing);
+        incoming = outgoing;
     }
     return sum;
 }
@@ -40,10 +40,10 @@ ox_3dvector sum_of_edge_crosses(const ox_3dvector* v, unsigned int n) {
 enum class plane_source { good, flat, outside_grid };
 
 // Gives `polygon` the plane of a contour: through its first vertex, with the normal on the side
-// from which the contour runs counter-clockwise. Unless the result is `good`, the plane of
-// `polygon` is left in an unspecified state.
-plane_source take_plane_of(ox_polygon_data& polygon, const ox_3dvector* contour,
-                           unsigned int size) {
+// from which the contour runs counter-clockwise. `path` becomes the contour in that plane's frame.
+// Unless the result is `good`, the plane of `polygon` is left in an unspecified state.
+plane_source take_plane_of(ox_polygon_data& polygon, const ox_3dvector* contour, unsigned int size,
+                           grid_path& path) {
     polygon.point = contour[0];
     polygon.normal = sum_of_edge_crosses(contour, size);
     const float length = polygon.normal.size();
@@ -55,25 +55,25 @@ plane_source take_plane_of(ox_polygon_data& polygon, const ox_3dvector* contour,
     }
     polygon.normal.normalize();
     polygon.normal.build_axis(polygon.dx, polygon.dy);
-    ClipperLib::Path path(size);
-    if (!contour_to_grid(polygon, contour, size, path.data())) {
+    if (!path.take(polygon, contour, size)) {
         return plane_source::outside_grid;
     }
-    if (!ClipperLib::Orientation(path)) {
+    if (!path.is_counter_clockwise()) {
         polygon.normal = -polygon.normal;
         polygon.normal.build_axis(polygon.dx, polygon.dy);
+        path.take(polygon, contour, size);
     }
     return plane_source::good;
 }
 
 // Takes the plane of the first pending contour that fits the grid. False when there is none, or
-// when that contour is flat: the polygon then has a zero normal.
-bool derive_plane(ox_polygon_data& polygon) {
+// when that contour is flat: the polygon then has a zero normal. `path` becomes that contour.
+bool derive_plane(ox_polygon_data& polygon, grid_path& path) {
     const ox_3dvector point_before = polygon.point;
     const ox_3dvector* contour = polygon.pending_vertices.get_data();
     plane_source source = plane_source::outside_grid;
     for (const unsigned int size : polygon.pending_sizes) {
-        source = take_plane_of(polygon, contour, size);
+        source = take_plane_of(polygon, contour, size, path);
         if (source != plane_source::outside_grid) {
             break;
         }
@@ -118,18 +118,20 @@ void replace_by_pending_triangle(ox_polygon_data& polygon) {
 }
 
 // A lone contour is the most common of all, and mostly one that need not be merged with itself.
-bool take_single_contour(ox_polygon_data& polygon) {
+// `path` is that contour if it has points.
+bool take_single_contour(ox_polygon_data& polygon, grid_path& path) {
     if (polygon.contour_sizes.size() != 0 || polygon.pending_sizes.size() != 1) {
         return false;
     }
-    std::vector<ClipperLib::IntPoint> points(polygon.pending_sizes[0]);
+    const bool is_on_grid =
+        path.size() > 0 ||
+        path.take(polygon, polygon.pending_vertices.get_data(), polygon.pending_sizes[0]);
     monotone_contour contour;
-    if (!contour_to_grid(polygon, polygon.pending_vertices.get_data(), points.size(),
-                         points.data()) ||
-        !read_monotone_contour(points.data(), points.size(), contour)) {
+    if (!is_on_grid || !read_monotone_contour(path.data(), path.size(), contour)) {
         return false;
     }
-    contour_lists made(1, contour.size);
+    contour_lists made(contour.size, std::move(polygon.pending_vertices),
+                       std::move(polygon.pending_sizes));
     made.append(polygon, contour, false, -1);
     made.move_to(polygon);
     return true;
@@ -148,7 +150,8 @@ void merge_pending(ox_polygon_data& polygon) {
         return;
     }
     polygon.bounding_box.clear();
-    if (!polygon.plane_defined && !derive_plane(polygon)) {
+    grid_path path;
+    if (!polygon.plane_defined && !derive_plane(polygon, path)) {
         drop_pending(polygon);
         return;
     }
@@ -156,7 +159,7 @@ void merge_pending(ox_polygon_data& polygon) {
         replace_by_pending_triangle(polygon);
         return;
     }
-    if (!take_single_contour(polygon)) {
+    if (!take_single_contour(polygon, path)) {
         unite_with_pending(polygon);
     }
     drop_pending(polygon);

@@ -68,6 +68,29 @@ void grid_contours::reverse_each() {
     }
 }
 
+bool grid_path::take(const ox_polygon_data& plane, const ox_3dvector* vertices, std::size_t size) {
+    if (size > few.size()) {
+        many.resize(size);
+    }
+    count = size;
+    if (!contour_to_grid(plane, vertices, size, data())) {
+        count = 0;
+    }
+    return count > 0;
+}
+
+bool grid_path::is_counter_clockwise() {
+    const ClipperLib::IntPoint* points = data();
+    double area = 0.0;
+    for (std::size_t i = 0, before = count - 1; i < count; before = i++) {
+        const ClipperLib::IntPoint& a = points[before];
+        const ClipperLib::IntPoint& b = points[i];
+        area += (static_cast<double>(a.X) + static_cast<double>(b.X)) *
+                (static_cast<double>(a.Y) - static_cast<double>(b.Y));
+    }
+    return count < 3 || -area * 0.5 >= 0.0;
+}
+
 bool contour_to_grid(const ox_polygon_data& plane, const ox_3dvector* vertices, std::size_t size,
                      ClipperLib::IntPoint* points) {
     for (std::size_t i = 0; i < size; ++i) {

@@ -236,7 +236,7 @@ bool combine_separate_contours(const ox_polygon_data& plane, ClipperLib::ClipTyp
     std::vector<contour_level> upwards =
         levels_of(contours, [](const separate_contour& c) { return c.box.low.Y; });
     std::sort(upwards.begin(), upwards.end());
-    if (!nest_boxes(contours, upwards)) {
+    if (contours.size() > 1 && !nest_boxes(contours, upwards)) {
         return false;
     }
     grid_contours read_subjects = subjects;

@@ -47,22 +47,31 @@ struct sweep_vertex {
 };
 
 bool is_swept_before(const sweep_vertex& a, const sweep_vertex& b) {
-    return a.s != b.s ? a.s < b.s : a.t < b.t;
+    return (a.s < b.s) | ((a.s == b.s) & (a.t < b.t)); // without branches
 }
 
-// Leaves out the coordinate along which the normal is longest, as the tessellator does.
-sweep_vertex to_sweep(const ox_3dvector& v, const ox_3dvector& normal) {
-    int longest = std::fabs(normal.y) > std::fabs(normal.x) ? 1 : 0;
-    const float size = longest == 1 ? std::fabs(normal.y) : std::fabs(normal.x);
-    longest = std::fabs(normal.z) > size ? 2 : longest;
-    const float coordinates[] = {v.x, v.y, v.z};
-    const float components[] = {normal.x, normal.y, normal.z};
-    sweep_vertex result;
-    result.s = static_cast<double>(coordinates[(longest + 1) % 3]);
-    const double t = static_cast<double>(coordinates[(longest + 2) % 3]);
-    result.t = components[longest] > 0.0f ? t : -t;
-    return result;
-}
+// The plane of the tessellator's sweep: it leaves out the coordinate along which the normal is
+// longest.
+class sweep_plane {
+public:
+    explicit sweep_plane(const ox_3dvector& normal) {
+        unsigned int longest = std::fabs(normal.y) > std::fabs(normal.x) ? 1 : 0;
+        longest = std::fabs(normal.z) > std::fabs(normal.at(longest)) ? 2 : longest;
+        s_axis = (longest + 1) % 3;
+        t_axis = (longest + 2) % 3;
+        t_sign = normal.at(longest) > 0.0f ? 1.0 : -1.0;
+    }
+
+    sweep_vertex place(const ox_3dvector& v, std::size_t index) const {
+        return {static_cast<double>(v.at(s_axis)), t_sign * static_cast<double>(v.at(t_axis)),
+                index};
+    }
+
+private:
+    unsigned int s_axis;
+    unsigned int t_axis;
+    double t_sign;
+};
 
 // On which side of the line from `a` to `c` the vertex `b` between them lies.
 double side_of(const sweep_vertex& a, const sweep_vertex& b, const sweep_vertex& c) {
@@ -83,6 +92,29 @@ public:
 private:
     triangle_pattern_key key{1, 0}; // keys of different lengths differ
 };
+
+using swept_vertices = std::array<sweep_vertex, triangle_pattern::most_vertices>;
+
+// The vertices in the order of the sweep. They are counted to their places: the branches of a sort
+// would all be guesses.
+swept_vertices sweep(const ox_3dvector* contours, std::size_t size, const ox_3dvector& normal) {
+    const sweep_plane plane(normal);
+    swept_vertices given;
+    std::array<std::size_t, triangle_pattern::most_vertices> places{};
+    for (std::size_t i = 0; i < size; ++i) {
+        given[i] = plane.place(contours[i], i);
+        for (std::size_t j = 0; j < i; ++j) {
+            const bool before = is_swept_before(given[i], given[j]);
+            places[i] += before ? 0 : 1;
+            places[j] += before ? 1 : 0;
+        }
+    }
+    swept_vertices sorted;
+    for (std::size_t i = 0; i < size; ++i) {
+        sorted[places[i]] = given[i];
+    }
+    return sorted;
+}
 
 struct key_hash {
     std::size_t operator()(const triangle_pattern_key& key) const {
@@ -123,6 +155,8 @@ bool append_order(const sweep_vertex* sorted, std::size_t size, double extent, k
 // that is in doubt.
 bool append_sides(const sweep_vertex* sorted, std::size_t size, double extent, key_writer& key) {
     const double doubt = sweep_clearance * extent * extent;
+    std::uint64_t sides = 0;
+    unsigned int count = 0; // 56 for most_vertices
     for (std::size_t a = 0; a < size; ++a) {
         for (std::size_t b = a + 1; b < size; ++b) {
             for (std::size_t c = b + 1; c < size; ++c) {
@@ -130,10 +164,12 @@ bool append_sides(const sweep_vertex* sorted, std::size_t size, double extent, k
                 if (!(std::fabs(side) > doubt)) {
                     return false;
                 }
-                key.append(side > 0.0 ? 1 : 0, 1);
+                sides = sides << 1 | (side > 0.0 ? 1u : 0u);
+                ++count;
             }
         }
     }
+    key.append(sides, count);
     return true;
 }
 
@@ -177,12 +213,7 @@ std::optional<triangle_pattern_key> find_triangle_pattern_key(const ox_3dvector*
     if (size < 3 || size > triangle_pattern::most_vertices) {
         return std::nullopt;
     }
-    std::array<sweep_vertex, triangle_pattern::most_vertices> vertices;
-    for (std::size_t i = 0; i < size; ++i) {
-        vertices[i] = to_sweep(contours[i], normal);
-        vertices[i].index = i;
-    }
-    std::sort(vertices.data(), vertices.data() + size, is_swept_before);
+    const swept_vertices vertices = sweep(contours, size, normal);
     // Where all contours swept so far have ended, the tessellator goes on from far away, and the
     // next contour's place relative to that decides.
     if ((vertices[0].index < sizes[0]) != (vertices[size - 1].index < sizes[0])) {

@@ -22,6 +22,11 @@ public:
     /// Makes room for contours of so many vertices in total.
     contour_lists(std::size_t contours, std::size_t vertices);
 
+    /// Makes room for one contour of so many vertices, in the memory of a list of at least as many
+    /// and of a list of one size. Both are left as they are when there is none for the others.
+    contour_lists(std::size_t vertex_count, ox_list<ox_3dvector>&& vertex_memory,
+                  ox_list<unsigned int>&& size_memory);
+
     /// The number of contours appended so far.
     int count() const { return contours; }
 
@@ -41,10 +46,10 @@ public:
     void move_to(ox_polygon_data& polygon);
 
 private:
-    ox_list<ox_3dvector> vertices;
-    ox_list<unsigned int> sizes;
     ox_list<bool> orientations;
     ox_list<int> parents;
+    ox_list<ox_3dvector> vertices;
+    ox_list<unsigned int> sizes;
     int contours = 0;
     int points = 0;
 };

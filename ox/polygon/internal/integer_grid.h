@@ -1,6 +1,7 @@
 #ifndef OX_POLYGON_INTERNAL_INTEGER_GRID_H
 #define OX_POLYGON_INTERNAL_INTEGER_GRID_H
 
+#include <array>
 #include <cstddef>
 #include <vector>
 
@@ -42,6 +43,26 @@ private:
 
     std::vector<ClipperLib::IntPoint> points;
     std::vector<std::size_t> ends; ///< one past the last point of each contour
+};
+
+/// The points of one contour. Those of a small one, as most are, need no memory from the heap.
+class grid_path {
+public:
+    std::size_t size() const { return count; }
+    ClipperLib::IntPoint* data() { return count > few.size() ? many.data() : few.data(); }
+
+    /// Converts the vertices of a contour into the frame of `plane`. False, without points, when it
+    /// does not fit the grid.
+    bool take(const ox_polygon_data& plane, const ox_3dvector* vertices, std::size_t size);
+
+    /// Whether the contour runs counter-clockwise, or encloses nothing: what the clipping library
+    /// says, summed in its order.
+    bool is_counter_clockwise();
+
+private:
+    std::array<ClipperLib::IntPoint, 8> few;
+    std::vector<ClipperLib::IntPoint> many;
+    std::size_t count = 0;
 };
 
 /// Converts the `size` vertices of one contour into the frame of `plane`; the distance from the

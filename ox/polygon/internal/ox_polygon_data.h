@@ -14,24 +14,24 @@ enum class boolean_operation { unite, subtract, intersect };
 /// works on several polygons at once.
 struct ox_polygon_data {
     bool plane_defined = false;
+    bool contours_computed = false; ///< the pending contours have been merged
+    bool tesselation_computed = false;
+    bool best_center_computed = false;
     ox_3dvector point;  ///< of the plane, and the origin of the frame
     ox_3dvector normal; ///< unit length unless a transformation scaled it
     ox_3dvector dx;     ///< in-plane axes; (dx, dy, normal) is right-handed
     ox_3dvector dy;
     ox_list<ox_3dvector> pending_vertices; ///< of the contours added since the last merge
     ox_list<unsigned int> pending_sizes;
-    bool contours_computed = false; ///< the pending contours have been merged
     ox_list<ox_3dvector> contour_vertices;
     ox_list<unsigned int> contour_sizes;
     ox_list<bool> contour_orientations; ///< true for an outer boundary, false for a hole
     ox_list<int> contour_parents;       ///< -1 at the top level
     ox_box bounding_box;                ///< empty while unknown
-    bool best_center_computed = false;
     ox_3dvector best_center;
-    bool tesselation_computed = false;
+    float area = 0.0f; ///< of the triangles
     ox_list<ox_3dvector> tesselation_vertices;
     ox_list<unsigned int> tesselation_triangles;
-    float area = 0.0f;
 
     /// Merges the pending contours: the head of every query.
     void compute_contours();

@@ -67,7 +67,7 @@ bool is_crossed(ox_polygon& face, const ox_3dvector& point, const ox_3dvector& n
 TEST(FaceTree, FindsEveryFaceThatHasAnEdgeAcrossThePlane) {
     generator random(1);
     int crossed = 0;
-    for (int round = 0; round < 3000; ++round) {
+    for (int round = 0; round < 10000; ++round) {
         const float scale = any_scale(random);
         std::vector<ox_polygon> faces;
         std::vector<face_bounds> bounds;
@@ -167,7 +167,7 @@ std::vector<ox::face_plane> any_planes(generator& random) {
 TEST(PlaneIndex, FindsEveryLaterPlaneThatIsTheSameWithinTheTolerance) {
     generator random(4);
     int coplanar = 0;
-    for (int round = 0; round < 2000; ++round) {
+    for (int round = 0; round < 10000; ++round) {
         const std::vector<ox::face_plane> planes = any_planes(random);
         const ox::plane_index index(planes, tolerance);
         for (std::size_t i = 0; i < planes.size(); ++i) {

@@ -136,7 +136,7 @@ TEST(OxPolygonRegularDistribution, CoordinatesNearTheLargestFloatGiveNoPoints) {
 
 TEST(OxPolygonRegularDistribution, AgreesWithThePlainVersionOnTangles) {
     support::generator random(451);
-    for (int round = 0; round < 1500; ++round) {
+    for (int round = 0; round < 6000; ++round) {
         ox_polygon polygon = tangle(random, random.between(3, 9), 3);
         const float steps[] = {0.5f, 0.25f, 1.0f, 0.3f, 0.17f, 7.0f};
         expect_plain_grid(polygon, steps[random.between(0, 5)]);
@@ -146,7 +146,7 @@ TEST(OxPolygonRegularDistribution, AgreesWithThePlainVersionOnTangles) {
 
 TEST(OxPolygonRegularDistribution, AgreesWithThePlainVersionOnOutlinesAlongTheGrid) {
     support::generator random(452);
-    for (int round = 0; round < 2000; ++round) {
+    for (int round = 0; round < 5000; ++round) {
         ox_polygon polygon(ox_3dvector(0, 0, 0), ox_3dvector(0, 0, 1));
         const int rectangles = random.between(1, 6);
         for (int i = 0; i < rectangles; ++i) { // sides on the rows and columns of points
@@ -266,7 +266,7 @@ TEST(OxPolygonRandomDistribution, PointsAreSpreadEvenlyOverUnequalTriangles) {
 
 TEST(OxPolygonRandomDistribution, AgreesWithThePlainVersionOnRandomRegions) {
     support::generator random(456);
-    for (int round = 0; round < 2000; ++round) {
+    for (int round = 0; round < 10000; ++round) {
         ox_polygon flat = tangle(random, random.between(3, 12), 4);
         ox_polygon polygon = tilted(random, flat, 10.0f);
         const int seed = random.between(-100000, 100000);

@@ -179,7 +179,7 @@ TEST(OxPolygonRegularGrid, NullGridAndCountsBelow1SetNothing) {
 
 TEST(OxPolygonRegularGrid, AgreesWithThePlainVersionOnRandomRegionsAndGrids) {
     support::generator random(457);
-    for (int round = 0; round < 3000; ++round) {
+    for (int round = 0; round < 10000; ++round) {
         ox_polygon flat = tangle(random, random.between(3, 10), 3);
         ox_polygon polygon = random.one_in(2) ? flat : tilted(random, flat, 10.0f);
         if (!reference::has_reproducible_frame(polygon)) {

@@ -1,7 +1,7 @@
 #include <cstdio>
 #include <memory>
+#include <ox/internal/open_file.h>
 #include <ox/io/internal/csv_detection.h>
-#include <ox/io/internal/open_file.h>
 #include <ox/io/internal/ox_csv_state.h>
 #include <string>
 #include <utility>

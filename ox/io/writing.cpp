@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <ox/core/ox_log.h>
-#include <ox/io/internal/open_file.h>
+#include <ox/internal/open_file.h>
 #include <ox/io/internal/ox_csv_state.h>
 #include <ox/ox_functions.h>
 #include <ox/progress/ox_progress_manager.h>

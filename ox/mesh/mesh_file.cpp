@@ -17,11 +17,11 @@ bool is_readable_kind(const char* path) {
            type != std::filesystem::file_type::block && type != std::filesystem::file_type::socket;
 }
 
-std::FILE* open_file(const char* path, const char* mode) {
+open_file open(const char* path, const char* mode) {
     if (path == nullptr || (mode[0] == 'r' && !is_readable_kind(path))) {
         return nullptr;
     }
-    return std::fopen(path, mode);
+    return open_file(std::fopen(path, mode));
 }
 
 std::uint64_t size_of_file(const char* path) {
@@ -32,7 +32,7 @@ std::uint64_t size_of_file(const char* path) {
 
 } // namespace
 
-oxp_mesh_file::oxp_mesh_file(const char* path, const char* mode) : stream(open_file(path, mode)) {
+oxp_mesh_file::oxp_mesh_file(const char* path, const char* mode) : stream(open(path, mode)) {
     if (is_open()) {
         size = size_of_file(path);
     }

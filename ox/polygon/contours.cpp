@@ -9,6 +9,7 @@
 #include <cmath>
 #include <utility>
 
+#include <ox/internal/finite.h>
 #include <ox/polygon/internal/contour_lists.h>
 #include <ox/polygon/internal/integer_grid.h>
 #include <ox/polygon/internal/monotone_contour.h>
@@ -20,10 +21,6 @@ namespace ox {
 namespace {
 
 constexpr int fewest_pending_vertices = 3;
-
-bool is_finite(const ox_3dvector& v) {
-    return std::isfinite(v.x) && std::isfinite(v.y) && std::isfinite(v.z);
-}
 
 // Newell's idea with a fixed fan of neighbours: the sum of the cross products of successive edges.
 ox_3dvector sum_of_edge_crosses(const ox_3dvector* v, unsigned int n) {

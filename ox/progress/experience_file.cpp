@@ -1,18 +1,9 @@
 #include <cmath>
 #include <cstdio>
-#include <memory>
+#include <ox/internal/open_file.h>
 #include <ox/progress/internal/experience_file.h>
 
 namespace ox {
-
-namespace {
-
-struct file_closer {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using open_file = std::unique_ptr<std::FILE, file_closer>;
-
-} // namespace
 
 bool read_experience(const std::string& path, std::vector<phase_experience>& experience) {
     const open_file file(std::fopen(path.c_str(), "r"));

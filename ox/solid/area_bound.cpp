@@ -48,16 +48,6 @@ double measure_vector_area(const ox_3dvector* vertices, unsigned int size) {
     return 0.5 * std::sqrt(sum[0] * sum[0] + sum[1] * sum[1] + sum[2] * sum[2]);
 }
 
-double measure_square_diagonal(const face_bounds& bounds) {
-    double square = 0.0;
-    for (unsigned int axis = 0; axis < 3; ++axis) {
-        const double side =
-            static_cast<double>(bounds.high.at(axis)) - static_cast<double>(bounds.low.at(axis));
-        square += side * side;
-    }
-    return square;
-}
-
 /// Whether the first contour alone has more area than that, as it has few vertices and no other
 /// contour near it. Its triangles are then so few that one of them is too large to be flat: flat
 /// triangles may lose all of their area in Heron's formula.
@@ -70,7 +60,7 @@ bool is_first_contour_above(ox_polygon& polygon, float area) {
     const ox_3dvector* const vertices = polygon.get_contour_vertices().get_data();
     const face_bounds bounds(vertices, n);
     const double reach = bounds.get_reach();
-    const double square_diagonal = measure_square_diagonal(bounds);
+    const double square_diagonal = bounds.get_square_diagonal();
     // Where rounding lets the outline overlap itself, that much is filled evenly, so not at all.
     const double overlap = n * std::sqrt(square_diagonal) * overlap_rounding * reach;
     // A triangulation has fewer than two triangles per vertex; n sides cross fewer than

@@ -169,11 +169,11 @@ std::unique_ptr<ox_polygon> combination::find_cut(ox_polygon& piece, const opera
 /// small to count cuts nothing, but its size, which takes triangles to find, only matters where it
 /// has cut something.
 std::unique_ptr<ox_polygon> combination::cut_away(ox_polygon& face, const operand& solid) const {
-    auto piece = std::make_unique<ox_polygon>(face);
-    const polygon_pointer cut = find_cut(*piece, solid);
+    const polygon_pointer cut = find_cut(face, solid);
     if (!cut) {
         return nullptr;
     }
+    auto piece = std::make_unique<ox_polygon>(face);
     piece->substracts(*cut);
     const bool is_cut = !have_same_contours(*piece, face) && is_large_enough(*cut);
     return is_cut ? std::move(piece) : nullptr;

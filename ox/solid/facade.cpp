@@ -79,8 +79,8 @@ public:
     explicit facade(ox_polygon& region)
         : sizes(region.get_contour_sizes()), vertices(region.get_contour_vertices()),
           parents(region.get_contour_parents()), axes(region.get_normal()), bounds(region) {
-        const double diagonal = side(bounds.low, bounds.high).square();
-        gap = std::max(smallest_facade_gap, needed_gap(std::sqrt(diagonal)));
+        const double diagonal = std::sqrt(bounds.get_square_diagonal());
+        gap = std::max(smallest_facade_gap, needed_gap(diagonal));
     }
 
     bool has_area() {
@@ -166,8 +166,7 @@ private:
         unsigned int longest = 0;
         double length = -1.0;
         for (unsigned int axis = 0; axis < 3; ++axis) {
-            const double extent = static_cast<double>(bounds.high.at(axis)) -
-                                  static_cast<double>(bounds.low.at(axis));
+            const double extent = bounds.get_extent(axis);
             if (axes.is_kept(axis) && extent > length) {
                 length = extent;
                 longest = axis;

@@ -2,6 +2,7 @@
 #include <cmath>
 #include <limits>
 
+#include <ox/internal/finite.h>
 #include <ox/solid/internal/face_bounds.h>
 #include <ox/solid/internal/tolerances.h>
 
@@ -10,10 +11,6 @@ namespace ox {
 namespace {
 
 constexpr float highest = (std::numeric_limits<float>::max)();
-
-bool is_finite(const ox_3dvector& p) {
-    return std::isfinite(p.x) && std::isfinite(p.y) && std::isfinite(p.z);
-}
 
 double largest_magnitude(double a, double b) {
     return std::max(std::fabs(a), std::fabs(b));
@@ -54,6 +51,14 @@ double face_bounds::get_reach() const {
                                                   static_cast<double>(high.at(axis))));
     }
     return reach;
+}
+
+double face_bounds::get_square_diagonal() const {
+    double square = 0.0;
+    for (unsigned int axis = 0; axis < 3; ++axis) {
+        square += get_extent(axis) * get_extent(axis);
+    }
+    return square;
 }
 
 bool face_bounds::surely_apart_from(const ox_box& box, int vertex_count) const {

@@ -19,8 +19,7 @@ unsigned int longest_axis(const face_bounds& bounds) {
     unsigned int longest = 0;
     double length = -1.0;
     for (unsigned int axis = 0; axis < 3; ++axis) {
-        const double side =
-            static_cast<double>(bounds.high.at(axis)) - static_cast<double>(bounds.low.at(axis));
+        const double side = bounds.get_extent(axis);
         if (side > length) {
             length = side;
             longest = axis;

@@ -3,6 +3,7 @@
 #include <cstring>
 #include <numeric>
 
+#include <ox/internal/finite.h>
 #include <ox/solid/internal/point_grid.h>
 #include <ox/solid/internal/tolerances.h>
 
@@ -29,10 +30,6 @@ std::uint64_t mixed(std::uint64_t hash, double cell) {
     std::memcpy(&bits, &unsigned_zero, sizeof(bits));
     const std::uint64_t product = (hash ^ bits) * 0x9e3779b97f4a7c15U;
     return product ^ (product >> 32U);
-}
-
-bool is_finite(const ox_3dvector& p) {
-    return std::isfinite(p.x) && std::isfinite(p.y) && std::isfinite(p.z);
 }
 
 } // namespace

@@ -4,7 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
-#include <memory>
+
+#include <ox/internal/open_file.h>
 
 namespace ox {
 
@@ -33,11 +34,7 @@ public:
     std::uint64_t remaining() const { return size > position ? size - position : 0; }
 
 private:
-    struct closer {
-        void operator()(std::FILE* file) const { std::fclose(file); }
-    };
-
-    std::unique_ptr<std::FILE, closer> stream;
+    open_file stream;
     std::uint64_t size = 0;
     std::uint64_t position = 0;
 };

@@ -38,6 +38,14 @@ struct face_bounds {
     /// The largest magnitude of a coordinate of a point in the bounds.
     double get_reach() const;
 
+    /// How far the bounds reach along an axis.
+    double get_extent(unsigned int axis) const {
+        return static_cast<double>(high.at(axis)) - static_cast<double>(low.at(axis));
+    }
+
+    /// The square of the distance between `low` and `high`.
+    double get_square_diagonal() const;
+
     /// True only if a face of `vertex_count` vertices within these bounds is too far from the box
     /// for `ox_polygon::may_intersect`.
     bool surely_apart_from(const ox_box& box, int vertex_count) const;

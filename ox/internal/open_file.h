@@ -1,5 +1,5 @@
-#ifndef OX_IO_INTERNAL_OPEN_FILE_H
-#define OX_IO_INTERNAL_OPEN_FILE_H
+#ifndef OX_INTERNAL_OPEN_FILE_H
+#define OX_INTERNAL_OPEN_FILE_H
 
 #include <cstdio>
 #include <memory>

@@ -19,7 +19,7 @@ using int_hash = ox_hash<int, int>;
 void log_time(const char* phase, const ox_chrono& chrono, int count) {
     char line[128];
     std::snprintf(line, sizeof line, "%s %d : %f (%d)", phase, entries, chrono.elapsed(), count);
-    ox_log(line);
+    ox_log_thread_safe(line);
 }
 
 /// Logs how long `work` takes, and how many entries the container has afterwards.
@@ -36,7 +36,7 @@ void set_each_and_count(int_hash& hash) {
     for (int i = 0; i < entries; ++i) {
         hash.set(i, i);
         if (hash.size() != static_cast<unsigned int>(i + 1)) {
-            ox_log("erreur");
+            ox_log_thread_safe("erreur");
         }
     }
 }
@@ -44,7 +44,7 @@ void set_each_and_count(int_hash& hash) {
 void log_number_of_keys(const int_hash& hash) {
     char line[64];
     std::snprintf(line, sizeof line, "ox_hash size %d", hash.get_keys().size());
-    ox_log(line);
+    ox_log_thread_safe(line);
 }
 
 template <typename operation>

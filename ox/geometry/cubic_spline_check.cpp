@@ -1,10 +1,9 @@
 // The self-check of the cubic spline, against the sine.
 
 #include <cmath>
-#include <cstdio>
-#include <ox/core/ox_log.h>
 #include <ox/geometry/internal/tolerances.h>
 #include <ox/geometry/ox_cubic_spline.h>
+#include <ox/internal/log_line.h>
 
 namespace ox {
 
@@ -34,28 +33,24 @@ bool for_each_sample(const checker& check) {
 }
 
 void log_table(const char* title, const ox_list<float>& numbers) {
-    ox_log(title);
+    ox_log_thread_safe(title);
     for (const float number : numbers) {
-        char line[64];
-        std::snprintf(line, sizeof line, "\t%f", static_cast<double>(number));
-        ox_log(line);
+        log_line("\t%f", static_cast<double>(number));
     }
 }
 
 } // namespace
 
 void ox_cubic_spline::log_tables() {
-    ox_log("ox_cubic_spline::unitary_test did not pass : ");
+    ox_log_thread_safe("ox_cubic_spline::unitary_test did not pass : ");
     log_table("h:", widths);
     log_table("M:", second_derivatives);
     log_table("C:", linear_coefficients);
     log_table("C':", constant_coefficients);
-    ox_log("calculation");
+    ox_log_thread_safe("calculation");
     for_each_sample([this](float x) {
-        char line[160];
-        std::snprintf(line, sizeof line, "\tx = %f, %f - %f", static_cast<double>(x),
-                      static_cast<double>(compute(x)), sine(x));
-        ox_log(line);
+        log_line("\tx = %f, %f - %f", static_cast<double>(x), static_cast<double>(compute(x)),
+                 sine(x));
         return true;
     });
 }

@@ -1,10 +1,9 @@
 // The self-checks of the linear systems: random problems, solved and multiplied out again.
 
 #include <cmath>
-#include <cstdio>
-#include <ox/core/ox_log.h>
 #include <ox/core/ox_random.h>
 #include <ox/geometry/internal/tolerances.h>
+#include <ox/internal/log_line.h>
 #include <ox/ox_functions.h>
 
 namespace ox {
@@ -47,26 +46,14 @@ bool agree(const ox_list<float>& computed, const ox_list<float>& expected) {
     return true;
 }
 
-/// Logs a line whose format has one %d.
-void log_trial(const char* format, int trial) {
-    char line[64];
-    std::snprintf(line, sizeof line, format, trial);
-    ox_log(line);
-}
-
 void log_differences(const ox_list<float>& computed, const ox_list<float>& expected) {
-    char line[128];
     for (int i = 0; i < expected.size(); ++i) {
-        std::snprintf(line, sizeof line, "\t %f != %f", static_cast<double>(computed[i]),
-                      static_cast<double>(expected[i]));
-        ox_log(line);
+        log_line("\t %f != %f", static_cast<double>(computed[i]), static_cast<double>(expected[i]));
     }
 }
 
 bool log_result(int passed) {
-    char line[64];
-    std::snprintf(line, sizeof line, "result : %d / %d", passed, trials);
-    ox_log(line);
+    log_line("result : %d / %d", passed, trials);
     return passed == trials;
 }
 
@@ -74,13 +61,13 @@ bool check_inverse(ox_random& random, const ox_list<float>& identity, int trial)
     const ox_list<float> matrix = random_numbers(random, order * order);
     const ox_list<float> inverse = ox_reverse_matrix(matrix);
     if (inverse.size() == 0) {
-        log_trial("matrix %d is not inversible", trial);
+        log_line("matrix %d is not inversible", trial);
         return false;
     }
     const ox_list<float> computed = product(matrix, inverse, order);
     const bool passed = agree(computed, identity);
     if (!passed) {
-        log_trial("reverse matrix %d is wrong", trial);
+        log_line("reverse matrix %d is wrong", trial);
         log_differences(computed, identity);
     }
     return passed;
@@ -91,13 +78,13 @@ bool check_solution(ox_random& random, int trial) {
     const ox_list<float> right_side = random_numbers(random, order);
     const ox_list<float> solution = ox_solve_system(matrix, right_side);
     if (solution.size() == 0) {
-        log_trial("system %d is not inversible", trial);
+        log_line("system %d is not inversible", trial);
         return false;
     }
     const ox_list<float> computed = product(matrix, solution, 1);
     const bool passed = agree(computed, right_side);
     if (!passed) {
-        log_trial("system %d is wrong", trial);
+        log_line("system %d is wrong", trial);
         log_differences(computed, right_side);
     }
     return passed;
@@ -114,7 +101,7 @@ ox_list<float> identity_matrix() {
 } // namespace
 
 bool oxut_reverse_matrix() {
-    ox_log("oxut_reverse_matrix");
+    ox_log_thread_safe("oxut_reverse_matrix");
     ox_random random(check_seed);
     const ox_list<float> identity = identity_matrix();
     int passed = 0;
@@ -125,7 +112,7 @@ bool oxut_reverse_matrix() {
 }
 
 bool oxut_solve_system() {
-    ox_log("oxut_solve_system");
+    ox_log_thread_safe("oxut_solve_system");
     ox_random random(check_seed);
     int passed = 0;
     for (int trial = 0; trial < trials; ++trial) {

@@ -2,9 +2,8 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
-#include <cstdio>
 #include <limits>
-#include <ox/core/ox_log.h>
+#include <ox/internal/log_line.h>
 #include <ox/io/internal/csv_detection.h>
 #include <string_view>
 
@@ -128,10 +127,7 @@ private:
 };
 
 void log_score(char candidate, double mean, double deviation) {
-    char line[256];
-    std::snprintf(line, sizeof line, "Score for %c : %lf %lf = %lf", candidate, mean, deviation,
-                  mean - deviation);
-    ox_log_thread_safe(line);
+    log_line("Score for %c : %lf %lf = %lf", candidate, mean, deviation, mean - deviation);
 }
 
 /// The number of the candidate with the best score.

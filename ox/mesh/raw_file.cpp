@@ -1,10 +1,9 @@
 #include <ox/mesh/ox_triangle_set.h>
 
 #include <cstdint>
-#include <cstdio>
 #include <cstring>
 
-#include <ox/core/ox_log.h>
+#include <ox/internal/log_line.h>
 #include <ox/mesh/internal/mesh_file.h>
 
 namespace ox {
@@ -23,10 +22,8 @@ bool read_magic(oxp_mesh_file& file) {
 }
 
 void log_counts(unsigned int nb_vertices, unsigned int nb_triangles) {
-    char line[80];
-    std::snprintf(line, sizeof line, "reading %d vertices and %d triangles",
-                  static_cast<int>(nb_vertices), static_cast<int>(nb_triangles));
-    ox_log_thread_safe(line);
+    log_line("reading %d vertices and %d triangles", static_cast<int>(nb_vertices),
+             static_cast<int>(nb_triangles));
 }
 
 } // namespace

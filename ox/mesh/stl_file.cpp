@@ -2,12 +2,11 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdio>
 #include <cstring>
 #include <limits>
 #include <vector>
 
-#include <ox/core/ox_log.h>
+#include <ox/internal/log_line.h>
 #include <ox/mesh/internal/mesh_file.h>
 
 namespace ox {
@@ -30,9 +29,7 @@ constexpr std::size_t block_records = 4096;
 static_assert(3 * sizeof(ox_3dvector) == corners_bytes, "corners are stored as they lie");
 
 void log_number(const char* format, std::uint64_t number) {
-    char line[80];
-    std::snprintf(line, sizeof line, format, static_cast<int>(static_cast<std::uint32_t>(number)));
-    ox_log_thread_safe(line);
+    log_line(format, static_cast<int>(static_cast<std::uint32_t>(number)));
 }
 
 /// Reads `nb_records` records into three vertices each; false at the first block cut short.

@@ -2,9 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 #include <limits>
-#include <ox/core/ox_log.h>
+#include <ox/internal/log_line.h>
 #include <ox/internal/sweep_window.h>
 #include <ox/structure/internal/oxp_loadshare.h>
 #include <ox/structure/internal/slab_crossings.h>
@@ -36,13 +35,6 @@ float next_above(float y) {
 
 float next_below(float y) {
     return std::nextafter(y, -infinity);
-}
-
-template <typename... values>
-void log_line(const char* format, values... arguments) {
-    char line[256];
-    std::snprintf(line, sizeof line, format, arguments...);
-    ox_log(line);
 }
 
 double printed(float number) {

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <limits>
 
+#include <ox/internal/vectors.h>
 #include <ox/mesh/internal/tolerances.h>
 
 namespace ox {
@@ -13,10 +13,6 @@ namespace {
 
 bool is_nan(const ox_3dvector& v) {
     return std::isnan(v.x) || std::isnan(v.y) || std::isnan(v.z);
-}
-
-bool has_same_bits(const ox_3dvector& a, const ox_3dvector& b) {
-    return std::memcmp(&a, &b, sizeof a) == 0;
 }
 
 /// Raises the capacity of a list to at least `capacity`, where that is possible.
@@ -141,7 +137,7 @@ void oxp_vertex_welder::append(const candidate& v) {
     leaves.make_room_for_one();
     if (positions.size() == 0) {
         first_normal = v.normal;
-    } else if (has_one_normal && !has_same_bits(v.normal, first_normal)) {
+    } else if (has_one_normal && !have_same_bits(v.normal, first_normal)) {
         keep_normals();
         has_one_normal = false;
     }

@@ -9,7 +9,7 @@
 #include <cmath>
 #include <utility>
 
-#include <ox/internal/finite.h>
+#include <ox/internal/vectors.h>
 #include <ox/polygon/internal/contour_lists.h>
 #include <ox/polygon/internal/integer_grid.h>
 #include <ox/polygon/internal/monotone_contour.h>

@@ -2,7 +2,7 @@
 #include <cmath>
 #include <limits>
 
-#include <ox/internal/finite.h>
+#include <ox/internal/vectors.h>
 #include <ox/solid/internal/face_bounds.h>
 #include <ox/solid/internal/tolerances.h>
 

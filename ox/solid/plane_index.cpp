@@ -3,18 +3,13 @@
 #include <numeric>
 #include <tuple>
 
+#include <ox/internal/vectors.h>
 #include <ox/solid/internal/plane_index.h>
 #include <ox/solid/internal/tolerances.h>
 
 namespace ox {
 
 namespace {
-
-double place_along(const ox_3dvector& point, const ox_3dvector& normal) {
-    return static_cast<double>(point.x) * static_cast<double>(normal.x) +
-           static_cast<double>(point.y) * static_cast<double>(normal.y) +
-           static_cast<double>(point.z) * static_cast<double>(normal.z);
-}
 
 double manhattan_size(const ox_3dvector& v) {
     return std::fabs(static_cast<double>(v.x)) + std::fabs(static_cast<double>(v.y)) +
@@ -32,7 +27,7 @@ std::vector<plane_index::bundle> plane_index::make_bundles(const std::vector<fac
     std::iota(order.begin(), order.end(), std::size_t{0});
     const auto key = [&](std::size_t i) {
         const ox_3dvector& n = planes[i].normal;
-        return std::make_tuple(n.x, n.y, n.z, place_along(planes[i].point, n));
+        return std::make_tuple(n.x, n.y, n.z, exact_dot(planes[i].point, n));
     };
     std::sort(order.begin(), order.end(),
               [&](std::size_t a, std::size_t b) { return key(a) < key(b); });
@@ -43,7 +38,7 @@ std::vector<plane_index::bundle> plane_index::make_bundles(const std::vector<fac
             made.push_back({plane.normal, 0.0, {}});
         }
         made.back().reach = std::max(made.back().reach, manhattan_size(plane.point));
-        made.back().members.push_back({place_along(plane.point, plane.normal), i});
+        made.back().members.push_back({exact_dot(plane.point, plane.normal), i});
     }
     return made;
 }
@@ -62,7 +57,7 @@ std::vector<std::size_t> plane_index::find_later(std::size_t i) const {
     const face_plane& plane = planes[i];
     normals.visit_near(plane.normal, [&](std::size_t number) {
         const bundle& near = bundles[number];
-        const double place = place_along(plane.point, near.normal);
+        const double place = exact_dot(plane.point, near.normal);
         const double roundings = spare_roundings * rounding_allowance *
                                  (manhattan_size(plane.point) + near.reach) *
                                  (1.0 + manhattan_size(near.normal));

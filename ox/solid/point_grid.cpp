@@ -3,7 +3,7 @@
 #include <cstring>
 #include <numeric>
 
-#include <ox/internal/finite.h>
+#include <ox/internal/vectors.h>
 #include <ox/solid/internal/point_grid.h>
 #include <ox/solid/internal/tolerances.h>
 

@@ -4,16 +4,10 @@
 #include <ox/core/ox_list.h>
 #include <ox/geometry/ox_2dvector.h>
 #include <ox/geometry/ox_3dvector.h>
+#include <ox/internal/vectors.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
 
 namespace ox {
-
-/// The dot product in double precision, where products of floats do not round.
-inline double exact_dot(const ox_3dvector& a, const ox_3dvector& b) {
-    return static_cast<double>(a.x) * static_cast<double>(b.x) +
-           static_cast<double>(a.y) * static_cast<double>(b.y) +
-           static_cast<double>(a.z) * static_cast<double>(b.z);
-}
 
 /// The coordinates (u, v) of a point in the frame of a polygon, in single precision.
 inline ox_2dvector plane_coordinates(const ox_polygon_data& polygon, const ox_3dvector& p) {

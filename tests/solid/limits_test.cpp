@@ -100,44 +100,40 @@ TEST(OxSolidLimits, NestedOpeningsThatShareASideLeaveDoubledReveals) {
     EXPECT_FALSE(support::is_closed(solid));
 }
 
+/// The tools cut out of the wall at once.
+void expect_closed_cut(ox_solid& tools, int faces, double volume) {
+    ox_solid solid = wall();
+    solid.substracts(tools);
+    expect_solid(solid, faces, volume);
+    EXPECT_TRUE(support::is_closed(solid));
+}
+
 TEST(OxSolidLimits, SameToolUnitedWithItselfAndCutOnceIsRight) {
     ox_solid tools = opening(1.0f, 1.0f, 2.0f, 2.0f);
     ox_solid copy = tools;
     tools.unites(copy);
-    ox_solid solid = wall();
-    solid.substracts(tools);
-    expect_solid(solid, 10, wall_volume - 0.3);
-    EXPECT_TRUE(support::is_closed(solid));
+    expect_closed_cut(tools, 10, wall_volume - 0.3);
 }
 
 TEST(OxSolidLimits, NestedToolsUnitedFirstAndCutOnceAreRight) {
     ox_solid tools = opening(1.0f, 1.0f, 2.0f, 2.0f);
     ox_solid large = opening(1.0f, 0.5f, 3.0f, 2.5f);
     tools.unites(large);
-    ox_solid solid = wall();
-    solid.substracts(tools);
-    expect_solid(solid, 10, wall_volume - 0.3 * 4.0);
-    EXPECT_TRUE(support::is_closed(solid));
+    expect_closed_cut(tools, 10, wall_volume - 0.3 * 4.0);
 }
 
 TEST(OxSolidLimits, AbuttingToolsUnitedFirstAndCutOnceGiveOneOpening) {
     ox_solid tools = opening(1.0f, 1.0f, 2.0f, 2.0f);
     ox_solid beside = opening(2.0f, 1.0f, 3.0f, 2.0f);
     tools.unites(beside);
-    ox_solid solid = wall();
-    solid.substracts(tools);
-    expect_solid(solid, 10, wall_volume - 0.3 * 2.0);
-    EXPECT_TRUE(support::is_closed(solid));
+    expect_closed_cut(tools, 10, wall_volume - 0.3 * 2.0);
 }
 
 TEST(OxSolidLimits, OverlappingToolsUnitedFirstAndCutOnceAreRight) {
     ox_solid tools = opening(1.0f, 1.0f, 2.0f, 2.0f);
     ox_solid shifted = opening(1.5f, 1.5f, 2.5f, 2.5f);
     tools.unites(shifted);
-    ox_solid solid = wall();
-    solid.substracts(tools);
-    expect_solid(solid, 14, wall_volume - 0.3 * 1.75);
-    EXPECT_TRUE(support::is_closed(solid));
+    expect_closed_cut(tools, 14, wall_volume - 0.3 * 1.75);
 }
 
 } // namespace

@@ -114,7 +114,7 @@ TEST(OxLoadshare, StepOfHalfTheSpacingOfTheCoordinatesIsRaisedToTheSpacing) {
         ox_loadshare slab = slab_of(rectangle(0, low, 10, high));
         vertical_beam(slab, 5, low - 10, high + 10);
         slab.compute_weights(half_spacing);
-        EXPECT_NEAR(slab.get_weight(0), 5 * (high - low), 10 * 2 * half_spacing);
+        EXPECT_NEAR(slab.get_weight(0), 10 * (high - low), 10 * 4 * half_spacing);
     }
 }
 

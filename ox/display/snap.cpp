@@ -1,8 +1,12 @@
-#include <cmath>
-#include <ox/display/internal/tolerances.h>
 #include <ox/display/ox_snap.h>
 
+#include <cmath>
+
+#include <ox/display/internal/tolerances.h>
+
 namespace ox {
+
+using namespace internal;
 
 ox_snap::ox_snap(const ox_3dvector& point, float snap_tolerance, int degrees_of_freedom,
                  const ox_3dvector& constraint)

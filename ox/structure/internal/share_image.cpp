@@ -1,11 +1,13 @@
+#include <ox/structure/internal/share_image.h>
+
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <new>
-#include <ox/structure/internal/share_image.h>
+
 #include <ox/structure/internal/tolerances.h>
 
-namespace ox {
+namespace ox::internal {
 
 namespace {
 
@@ -32,7 +34,7 @@ bool share_image::start(const ox_box& slab, float step) {
     }
     width = static_cast<int>(columns);
     height = static_cast<int>(rows);
-    scale = 1.f / step;
+    scale = 1.0f / step;
     min_x = slab.origin.x;
     min_y = slab.origin.y;
     return true;
@@ -68,4 +70,4 @@ unsigned int share_color(unsigned int n) {
     return palette[n % 12];
 }
 
-} // namespace ox
+} // namespace ox::internal

@@ -8,6 +8,8 @@ namespace ox {
 ox_debug::ox_debug() = default;
 ox_debug::ox_debug(const ox_debug& source) = default;
 ox_debug& ox_debug::operator=(const ox_debug& source) = default;
+ox_debug::ox_debug(ox_debug&& source) = default;
+ox_debug& ox_debug::operator=(ox_debug&& source) = default;
 
 namespace {
 

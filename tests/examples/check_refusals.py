@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Gives every description of a table to a program, which must refuse it as `FILE:LINE: REASON`, with
-the stated exit status, without other output and without an output folder.
+the exit status 2, without other output and without an output folder.
 
-usage: check_refusals.py TABLE FOLDER STATUS PROGRAM
+usage: check_refusals.py TABLE FOLDER PROGRAM
 
 An entry of the table is a line `=== NAME | LINE | REASON` with the text below it; an empty line ends
 it. A fourth field `cut` takes the newline from the end of the text, `absent` keeps the file away.
@@ -24,7 +24,7 @@ def entries_of(table):
         yield name, line, reason, None if "absent" in flags else text
 
 
-def faults_of(program, status, folder, name, line, reason, text):
+def faults_of(program, folder, name, line, reason, text):
     description = folder / f"{name}.txt"
     output = folder / f"{name}-output"
     if text is not None:
@@ -33,8 +33,8 @@ def faults_of(program, status, folder, name, line, reason, text):
         [program, str(description), "--out", str(output)],
         capture_output=True, text=True, timeout=60, check=False)
     expected = f"{description}:{line}: {reason}\n"
-    if ended.returncode != status:
-        yield f"{name}: exit status {ended.returncode} instead of {status}"
+    if ended.returncode != 2:
+        yield f"{name}: exit status {ended.returncode} instead of 2"
     if ended.stderr != expected:
         yield f"{name}: told as\n{ended.stderr}instead of\n{expected}"
     if ended.stdout or output.exists():
@@ -42,12 +42,12 @@ def faults_of(program, status, folder, name, line, reason, text):
 
 
 def main():
-    table, folder, status, program = sys.argv[1:]
+    table, folder, program = sys.argv[1:]
     folder = pathlib.Path(folder)
     shutil.rmtree(folder, ignore_errors=True)
     folder.mkdir(parents=True)
     entries = list(entries_of(pathlib.Path(table).read_text()))
-    faults = [fault for e in entries for fault in faults_of(program, int(status), folder, *e)]
+    faults = [fault for e in entries for fault in faults_of(program, folder, *e)]
     print("\n".join(faults) or f"{len(entries)} descriptions were refused")
     return 1 if faults or not entries else 0
 

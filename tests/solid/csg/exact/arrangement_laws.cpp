@@ -37,8 +37,7 @@ int passes(const vector& from, const vector& to, const vector& point) {
     if (is_left_of_from == is_left_of_to) {
         return 0;
     }
-    const double y =
-        from[1] + (to[1] - from[1]) * ((point[0] - from[0]) / (to[0] - from[0]));
+    const double y = from[1] + (to[1] - from[1]) * ((point[0] - from[0]) / (to[0] - from[0]));
     return y <= point[1] ? 0 : (is_left_of_from ? 1 : -1);
 }
 

@@ -59,12 +59,8 @@ inline shape turned_inside_out(shape triangles) {
 /// A hexahedron from its corners: bit 0 of an index is x, bit 1 y, bit 2 z. The bits of
 /// `diagonals` choose how each of its faces is divided.
 inline shape hexahedron(const std::array<grid_point, 8>& c, unsigned int diagonals) {
-    static constexpr std::array<std::array<std::size_t, 4>, 6> faces = {{{0, 2, 3, 1},
-                                                                         {4, 5, 7, 6},
-                                                                         {0, 1, 5, 4},
-                                                                         {2, 6, 7, 3},
-                                                                         {0, 4, 6, 2},
-                                                                         {1, 3, 7, 5}}};
+    static constexpr std::array<std::array<std::size_t, 4>, 6> faces = {
+        {{0, 2, 3, 1}, {4, 5, 7, 6}, {0, 1, 5, 4}, {2, 6, 7, 3}, {0, 4, 6, 2}, {1, 3, 7, 5}}};
     shape triangles;
     for (std::size_t i = 0; i < faces.size(); ++i) {
         const std::array<std::size_t, 4>& f = faces[i];

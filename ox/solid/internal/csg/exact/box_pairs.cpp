@@ -35,9 +35,7 @@ public:
     void enter(std::vector<int> intervals, std::vector<int> points, int axis);
 
 private:
-    lower_end low_of(int box, int axis) const {
-        return {item(item(boxes, box).low, axis), box};
-    }
+    lower_end low_of(int box, int axis) const { return {item(item(boxes, box).low, axis), box}; }
     /// An upper end is behind every lower end of its value: boxes are closed.
     lower_end high_of(int box, int axis) const {
         return {item(item(boxes, box).high, axis), std::numeric_limits<int>::max()};

@@ -100,9 +100,8 @@ coincidence_list find_coincidences(const facet_complex& complex, const contact_l
                 {first, facet_index, matcher.heading_of(i) != matcher.heading_of(first)});
         }
     }
-    std::stable_sort(
-        result.covers.begin(), result.covers.end(),
-        [](const piece_cover& a, const piece_cover& b) { return a.piece < b.piece; });
+    std::stable_sort(result.covers.begin(), result.covers.end(),
+                     [](const piece_cover& a, const piece_cover& b) { return a.piece < b.piece; });
     result.first_cover.assign(list.pieces.size() + 1, 0);
     for (const piece_cover& cover : result.covers) {
         ++item(result.first_cover, cover.piece + 1);

@@ -130,7 +130,8 @@ vertex_sides contact_finder::sides_of(const facet& f, const facet& other, int ot
         const int vertex = f.vertices[i];
         if (vertex != other.vertices[0] && vertex != other.vertices[1] &&
             vertex != other.vertices[2]) {
-            sides[i] = side_of(item(complex.grid, vertex), item(complex.points.planes, other_plane));
+            sides[i] =
+                side_of(item(complex.grid, vertex), item(complex.points.planes, other_plane));
         }
     }
     return sides;
@@ -237,8 +238,8 @@ void contact_finder::impose_point(int facet_index, const line_interval& interval
     }
 }
 
-void contact_finder::impose_segment(int facet_index, const line_interval& interval,
-                                    int plane_index, int a, int b) {
+void contact_finder::impose_segment(int facet_index, const line_interval& interval, int plane_index,
+                                    int a, int b) {
     if (interval.along < 0) {
         const bool is_upwards = complex.points.compare(a, b) < 0;
         contacts.segments.push_back(

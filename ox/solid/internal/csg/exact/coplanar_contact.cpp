@@ -11,11 +11,14 @@ namespace {
 
 using side_table = std::array<std::array<int, 3>, 3>;
 
-int next_of(int corner) { return (corner + 1) % 3; }
+int next_of(int corner) {
+    return (corner + 1) % 3;
+}
 
 /// True if a vertex lies in the facet or on its boundary.
 bool is_within(const side_table& table, int vertex) {
-    return item(table[0], vertex) >= 0 && item(table[1], vertex) >= 0 && item(table[2], vertex) >= 0;
+    return item(table[0], vertex) >= 0 && item(table[1], vertex) >= 0 &&
+           item(table[2], vertex) >= 0;
 }
 
 /// True if some side has every vertex of the other facet outside or on it, at or below a level.

@@ -23,8 +23,7 @@ edge_fans collect(const facet_complex& complex, const piece_list& list,
         }
     };
     visit_arcs([&](int, int arc) { ++item(fans.first_member, edge_of(arc) + 1); });
-    std::partial_sum(fans.first_member.begin(), fans.first_member.end(),
-                     fans.first_member.begin());
+    std::partial_sum(fans.first_member.begin(), fans.first_member.end(), fans.first_member.begin());
     fans.members.resize(static_cast<std::size_t>(fans.first_member.back()));
     std::vector<int> next = fans.first_member;
     visit_arcs([&](int i, int arc) {
@@ -38,11 +37,11 @@ edge_fans collect(const facet_complex& complex, const piece_list& list,
 /// 1 where the second half-plane is ahead of the first by less than half a turn.
 int radial_order::turn(half_plane a, half_plane b) const {
     const std::vector<plane>& planes = complex.points.planes;
-    const int sign =
-        line.is_of_planes
-            ? spin(item(planes, line.first), item(planes, line.second), *a.supporting, *b.supporting)
-            : spin(item(complex.grid, line.first), item(complex.grid, line.second), *a.supporting,
-                   *b.supporting);
+    const int sign = line.is_of_planes
+                         ? spin(item(planes, line.first), item(planes, line.second), *a.supporting,
+                                *b.supporting)
+                         : spin(item(complex.grid, line.first), item(complex.grid, line.second),
+                                *a.supporting, *b.supporting);
     return a.is_upward == b.is_upward ? sign : -sign;
 }
 

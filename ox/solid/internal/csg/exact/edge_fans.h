@@ -24,7 +24,9 @@ namespace ox::internal::csg::exact {
 // the other.
 
 /// The positive side of a piece, towards which the facet's normal points, or the other one.
-inline int side_of_piece(int piece, bool is_positive) { return 2 * piece + (is_positive ? 0 : 1); }
+inline int side_of_piece(int piece, bool is_positive) {
+    return 2 * piece + (is_positive ? 0 : 1);
+}
 
 /// A piece at an edge.
 struct fan_member {

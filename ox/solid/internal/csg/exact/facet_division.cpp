@@ -12,9 +12,13 @@ void facet_division::begin(int facet_number) {
     parts.clear();
 }
 
-void facet_division::add(const facet_edge& part) { parts.push_back(part); }
+void facet_division::add(const facet_edge& part) {
+    parts.push_back(part);
+}
 
-int facet_division::head_of(int half_edge) const { return item(origins, half_edge ^ 1); }
+int facet_division::head_of(int half_edge) const {
+    return item(origins, half_edge ^ 1);
+}
 
 /// 1 where, both upwards, the direction of the second part is counter-clockwise of the first.
 int facet_division::turn(int part, int other) const {
@@ -22,7 +26,8 @@ int facet_division::turn(int part, int other) const {
     const facet_edge& b = item(parts, other);
     const std::vector<plane>& planes = complex.points.planes;
     return a.sense * b.sense *
-           determinant_sign(item(planes, facet_index), item(planes, a.plane), item(planes, b.plane));
+           determinant_sign(item(planes, facet_index), item(planes, a.plane),
+                            item(planes, b.plane));
 }
 
 void facet_division::append_pieces(piece_list& list) {

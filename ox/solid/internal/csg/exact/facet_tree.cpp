@@ -15,7 +15,9 @@ constexpr int largest_leaf = 4;
 
 constexpr int vertical = 2;
 
-int sign_of(std::int64_t value) { return value > 0 ? 1 : (value < 0 ? -1 : 0); }
+int sign_of(std::int64_t value) {
+    return value > 0 ? 1 : (value < 0 ? -1 : 0);
+}
 
 /// The sign of a linear function of x and y that is 0 at the point itself, by its derivatives.
 template <int N>
@@ -68,9 +70,9 @@ wide<6> raised_height(const plane& p, const homogeneous_point& point) {
 int side_of_planes(const plane& p, const plane& q, const moved_point& point) {
     const wide<4> rise =
         raised_height(q, point.at) * p.normal[2] - raised_height(p, point.at) * q.normal[2];
-    return rise.sign() != 0 ? rise.sign()
-                            : sign_of_movement(-cross_coordinate(p, q, 1),
-                                               cross_coordinate(p, q, 0), point);
+    return rise.sign() != 0
+               ? rise.sign()
+               : sign_of_movement(-cross_coordinate(p, q, 1), cross_coordinate(p, q, 0), point);
 }
 
 /// True if two boxes' shadows hold the point, and a part of the box is below it.
@@ -83,7 +85,9 @@ bool is_below(const bounds& box, const grid_point& point) {
 
 } // namespace
 
-int moved_point::x_sign() const { return along.x != 0 ? sign_of(along.x) : sign_of(away.x); }
+int moved_point::x_sign() const {
+    return along.x != 0 ? sign_of(along.x) : sign_of(away.x);
+}
 
 int side_from_above(const facet_complex& complex, const edge& e, const moved_point& point) {
     const edge_line& line = e.line;
@@ -140,10 +144,9 @@ void facet_tree::build(int first, int end) {
     }
     const int half = first + (end - first) / 2;
     const auto middle = [&](int i) { return item(boxes, i).low[axis] + item(boxes, i).high[axis]; };
-    std::nth_element(order.begin() + first, order.begin() + half, order.begin() + end,
-                     [&](int a, int b) {
-                         return middle(a) != middle(b) ? middle(a) < middle(b) : a < b;
-                     });
+    std::nth_element(
+        order.begin() + first, order.begin() + half, order.begin() + end,
+        [&](int a, int b) { return middle(a) != middle(b) ? middle(a) < middle(b) : a < b; });
     build(first, half);
     nodes[number].second_child = count_of(nodes);
     build(half, end);
@@ -178,8 +181,7 @@ double facet_tree::height_bound(int facet_index, const moved_point& point) const
     const double y = p.near_normal[1] * static_cast<double>(point.at.y);
     const double error = 0x1p-40 * (std::fabs(p.near_offset) + std::fabs(x) + std::fabs(y));
     const double height = (p.near_offset - x - y) / p.near_normal[2];
-    return std::max(item(boxes, facet_index).low[2],
-                    height - error / std::fabs(p.near_normal[2]));
+    return std::max(item(boxes, facet_index).low[2], height - error / std::fabs(p.near_normal[2]));
 }
 
 int facet_tree::first_below(const moved_point& point) const {

@@ -23,7 +23,8 @@ facet_complex::facet_complex(const arrangement_input& input)
     for (int i = 0; i < count_of(input.triangles); ++i) {
         const operand_triangle& triangle = item(input.triangles, i);
         const std::array<int, 3>& v = triangle.vertices;
-        const plane supporting = plane_through(item(grid, v[0]), item(grid, v[1]), item(grid, v[2]));
+        const plane supporting =
+            plane_through(item(grid, v[0]), item(grid, v[1]), item(grid, v[2]));
         if (!is_degenerate(supporting)) {
             const std::array<int, 3> sides = {add_side(*this, v[0], v[1]),
                                               add_side(*this, v[1], v[2]),

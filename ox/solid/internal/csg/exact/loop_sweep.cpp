@@ -15,7 +15,8 @@ void loop_sweep::place_outer_loops() {
 /// 1 where a vertex is above the line of a part (on its left upwards), 0 on it, -1 below.
 int loop_sweep::side(int vertex, int part) const {
     const facet_edge& along = item(division.parts, part);
-    return -along.sense * division.complex.points.side(item(division.vertices, vertex), along.plane);
+    return -along.sense *
+           division.complex.points.side(item(division.vertices, vertex), along.plane);
 }
 
 /// The part whose low end is swept later is compared by it; of two from one vertex the direction

@@ -19,7 +19,9 @@ int highest_bit(std::uint64_t word) {
     return bit;
 }
 
-std::uint64_t bit_of(int number) { return std::uint64_t(1) << (number % word_bits); }
+std::uint64_t bit_of(int number) {
+    return std::uint64_t(1) << (number % word_bits);
+}
 
 } // namespace
 

@@ -72,9 +72,8 @@ void facet_divider::divide_sides() {
                 low = point;
             }
         }
-        list.side_edges.push_back(low == whole.low
-                                 ? side
-                                 : complex.edges.find_or_add(low, whole.high, whole.line));
+        list.side_edges.push_back(
+            low == whole.low ? side : complex.edges.find_or_add(low, whole.high, whole.line));
     }
     list.first_of_side.push_back(count_of(list.side_edges));
 }
@@ -94,8 +93,8 @@ void facet_divider::add_whole(int facet_index) {
     list.pieces.push_back({facet_index, first_arc, count_of(list.arcs) - first_arc});
 }
 
-void facet_divider::add_divided(int facet_index, const facet_segment* segments,
-                                int segment_count, const facet_point* points, int point_count) {
+void facet_divider::add_divided(int facet_index, const facet_segment* segments, int segment_count,
+                                const facet_point* points, int point_count) {
     const int axis = longest_axis(item(complex.points.planes, facet_index));
     division.begin(facet_index);
     for (const int side : item(complex.facets, facet_index).sides) {

@@ -12,16 +12,24 @@ namespace ox::internal::csg::exact {
 // An arc is an edge in one of its directions: twice its index, plus one downwards.
 
 /// An edge upwards or downwards.
-inline int arc_of(int edge, bool is_upwards) { return 2 * edge + (is_upwards ? 0 : 1); }
+inline int arc_of(int edge, bool is_upwards) {
+    return 2 * edge + (is_upwards ? 0 : 1);
+}
 
 /// The edge of an arc.
-inline int edge_of(int arc) { return arc / 2; }
+inline int edge_of(int arc) {
+    return arc / 2;
+}
 
 /// True if the arc runs from the low end of its edge to the high one.
-inline bool is_upward(int arc) { return arc % 2 == 0; }
+inline bool is_upward(int arc) {
+    return arc % 2 == 0;
+}
 
 /// The same edge the other way.
-inline int opposite(int arc) { return arc ^ 1; }
+inline int opposite(int arc) {
+    return arc ^ 1;
+}
 
 /// A cell of the subdivision of a facet: what no edge divides.
 struct piece {

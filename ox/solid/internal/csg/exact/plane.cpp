@@ -23,14 +23,18 @@ difference between(const grid_point& from, const grid_point& to) {
     return {to.x - from.x, to.y - from.y, to.z - from.z};
 }
 
-wide<2> product(std::int64_t a, std::int64_t b) { return make_wide(a) * make_wide(b); }
+wide<2> product(std::int64_t a, std::int64_t b) {
+    return make_wide(a) * make_wide(b);
+}
 
 /// a * d - b * c.
 wide<2> minor(std::int64_t a, std::int64_t b, std::int64_t c, std::int64_t d) {
     return product(a, d) - product(b, c);
 }
 
-wide<2> times(const wide<2>& a, std::int64_t b) { return resized<2>(a * make_wide(b)); }
+wide<2> times(const wide<2>& a, std::int64_t b) {
+    return resized<2>(a * make_wide(b));
+}
 
 wide<2> dot(const std::array<wide<2>, 3>& normal, const grid_point& point) {
     return times(normal[0], point.x) + times(normal[1], point.y) + times(normal[2], point.z);
@@ -50,7 +54,8 @@ plane make_plane(const std::array<wide<2>, 3>& normal, const grid_point& point) 
     return result;
 }
 
-/// A coordinate of the cross product of two normals in double, and the sum of the magnitudes that it is made of.
+/// A coordinate of the cross product of two normals in double, and the sum of the magnitudes that
+/// it is made of.
 struct near_minor {
     double value;
     double size;
@@ -119,7 +124,8 @@ int turn(const grid_point& a, const grid_point& b, const grid_point& c, int axis
     const int last = (axis + 2) % 3;
     const double left = static_cast<double>(item(u, next)) * static_cast<double>(item(v, last));
     const double right = static_cast<double>(item(u, last)) * static_cast<double>(item(v, next));
-    const int sign = certain_sign(left - right, filter_error * (std::fabs(left) + std::fabs(right)));
+    const int sign =
+        certain_sign(left - right, filter_error * (std::fabs(left) + std::fabs(right)));
     return sign != 2 ? sign
                      : minor(item(u, next), item(u, last), item(v, next), item(v, last)).sign();
 }

@@ -45,8 +45,7 @@ bool is_degenerate(const plane& p);
 int side_of(const grid_point& point, const plane& p);
 
 /// The sign of the determinant of b - a, c - a and d - a.
-int orientation(const grid_point& a, const grid_point& b, const grid_point& c,
-                const grid_point& d);
+int orientation(const grid_point& a, const grid_point& b, const grid_point& c, const grid_point& d);
 
 /// The sign of the determinant of b - a and c - a with an axis left out: positive where the three
 /// turn counter-clockwise seen from the positive end of that axis.

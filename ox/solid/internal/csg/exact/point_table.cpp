@@ -79,9 +79,8 @@ double rounded_quotient(const wide<5>& dividend, const wide<4>& divisor, bool& i
     const division whole = divide(shifted_left(positive, shift), positive_divisor);
     const bool is_long = (whole.quotient >> 53) != 0;
     std::uint64_t significand = is_long ? whole.quotient >> 1 : whole.quotient;
-    const int to_half =
-        is_long ? ((whole.quotient & 1) == 0 ? -1 : whole.remainder.sign())
-                : (whole.remainder + whole.remainder - positive_divisor).sign();
+    const int to_half = is_long ? ((whole.quotient & 1) == 0 ? -1 : whole.remainder.sign())
+                                : (whole.remainder + whole.remainder - positive_divisor).sign();
     is_exact = whole.remainder.is_zero() && !(is_long && (whole.quotient & 1) != 0);
     if (to_half > 0 || (to_half == 0 && (significand & 1) != 0)) {
         ++significand;
@@ -170,8 +169,7 @@ homogeneous_point point_table::exact(int point) const {
         return exact(item(crossings, point - count_of(grid)));
     }
     const grid_point& at = item(grid, point);
-    return {{resized<5>(make_wide(at.x)), resized<5>(make_wide(at.y)),
-             resized<5>(make_wide(at.z))},
+    return {{resized<5>(make_wide(at.x)), resized<5>(make_wide(at.y)), resized<5>(make_wide(at.z))},
             resized<4>(make_wide(1))};
 }
 
@@ -255,8 +253,7 @@ bool point_table::is_same(int point, const homogeneous_point& other,
     }
     const homogeneous_point own = exact(point);
     for (std::size_t axis = 0; axis < 3; ++axis) {
-        if (!(own.numerator[axis] * other.denominator ==
-              other.numerator[axis] * own.denominator)) {
+        if (!(own.numerator[axis] * other.denominator == other.numerator[axis] * own.denominator)) {
             return false;
         }
     }

@@ -51,9 +51,7 @@ public:
     int count() const { return static_cast<int>(rounded.size()); }
 
     /// The coordinates, each the exact one rounded to the nearest double.
-    const near_point& near(int point) const {
-        return rounded[static_cast<std::size_t>(point)];
-    }
+    const near_point& near(int point) const { return rounded[static_cast<std::size_t>(point)]; }
 
     /// All of them.
     const std::vector<near_point>& near_points() const { return rounded; }

@@ -20,8 +20,7 @@ int line_sense(const point_table& points, int first_plane, int second_plane) {
 
 const std::vector<facet_edge>& segment_splitter::split(int facet_number,
                                                        const facet_segment* segments,
-                                                       int segment_count,
-                                                       const facet_point* points,
+                                                       int segment_count, const facet_point* points,
                                                        int point_count) {
     facet_index = facet_number;
     gather(segments, segment_count);
@@ -116,8 +115,9 @@ void segment_splitter::meet_on_line(int a, int b) {
 
 /// The side of a segment's line on which a point of the facet lies.
 int segment_splitter::side(int point, const facet_segment& segment) const {
-    return point == segment.low || point == segment.high ? 0
-                                                         : complex.points.side(point, segment.plane);
+    return point == segment.low || point == segment.high
+               ? 0
+               : complex.points.side(point, segment.plane);
 }
 
 /// Divides a segment at a point of its line that is between its ends.

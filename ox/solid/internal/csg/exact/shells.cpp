@@ -31,8 +31,8 @@ struct shell_foot {
 /// Finds the shells and joins their cells.
 class shell_joiner {
 public:
-    shell_joiner(const facet_complex& owner, const piece_list& pieces,
-                 const coincidence_list& same, const edge_fans& sorted_fans)
+    shell_joiner(const facet_complex& owner, const piece_list& pieces, const coincidence_list& same,
+                 const edge_fans& sorted_fans)
         : complex(owner), list(pieces), coincidences(same), fans(sorted_fans),
           shells(count_of(owner.facets)), feet(owner.facets.size()) {
         join_facets();
@@ -146,7 +146,8 @@ moved_point shell_joiner::beside(const shell_foot& foot) const {
     const grid_point& to = at(chosen.far_vertex);
     const grid_point along = {to.x - from.x, to.y - from.y, to.z - from.z};
     return {from, along,
-            leaves_first(foot) ? grid_point{-along.z, 0, along.x} : grid_point{along.z, 0, -along.x}};
+            leaves_first(foot) ? grid_point{-along.z, 0, along.x}
+                               : grid_point{along.z, 0, -along.x}};
 }
 
 /// The side of a piece at a shell's foot that is turned to its outer cell: of the half-planes about
@@ -162,8 +163,8 @@ int shell_joiner::outer_side(const shell_foot& foot) const {
     const fan_member* nearest = nullptr;
     for (int k = item(fans.first_member, at_foot); k < item(fans.first_member, at_foot + 1); ++k) {
         const fan_member& member = item(fans.members, k);
-        if (nearest == nullptr || order(half_plane_of(complex, list, *nearest),
-                                        half_plane_of(complex, list, member))) {
+        if (nearest == nullptr ||
+            order(half_plane_of(complex, list, *nearest), half_plane_of(complex, list, member))) {
             nearest = &member;
         }
     }

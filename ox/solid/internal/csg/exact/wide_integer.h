@@ -100,7 +100,9 @@ struct wide {
 };
 
 /// A machine integer as a wide one.
-inline wide<1> make_wide(std::int64_t value) { return {{static_cast<std::uint64_t>(value)}}; }
+inline wide<1> make_wide(std::int64_t value) {
+    return {{static_cast<std::uint64_t>(value)}};
+}
 
 /// The same number in more words, or in fewer where it is known to fit.
 template <int M, int N>

@@ -1,4 +1,4 @@
-#include <ox/solid/internal/combination.h>
+#include <ox/solid/internal/boolean/combination.h>
 #include <ox/solid/internal/ox_solid_state.h>
 #include <ox/solid/ox_solid.h>
 

@@ -14,7 +14,7 @@
 #include <vector>
 
 #include <ox/solid/internal/ox_solid_state.h>
-#include <ox/solid/internal/plane_section.h>
+#include <ox/solid/internal/section/plane_section.h>
 #include <ox/solid/ox_solid.h>
 
 namespace ox {

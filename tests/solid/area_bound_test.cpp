@@ -1,6 +1,6 @@
 // Whatever the bound says of the area of a polygon, its triangles must say too.
 
-#include <ox/solid/internal/area_bound.h>
+#include <ox/solid/internal/area/area_bound.h>
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 // The structures that booleans and sections search with: what they find is compared with a look at
 // everything.
 
-#include <ox/solid/internal/face_bounds.h>
-#include <ox/solid/internal/face_tree.h>
-#include <ox/solid/internal/plane_index.h>
-#include <ox/solid/internal/section_chains.h>
+#include <ox/solid/internal/search/face_bounds.h>
+#include <ox/solid/internal/search/face_tree.h>
+#include <ox/solid/internal/search/plane_index.h>
+#include <ox/solid/internal/section/section_chains.h>
 
 #include <algorithm>
 #include <cmath>

@@ -7,8 +7,8 @@
 #include <ox/core/ox_list.h>
 #include <ox/geometry/ox_3dvector.h>
 #include <ox/polygon/ox_polygon.h>
-#include <ox/solid/internal/face_bounds.h>
-#include <ox/solid/internal/face_tree.h>
+#include <ox/solid/internal/search/face_bounds.h>
+#include <ox/solid/internal/search/face_tree.h>
 
 namespace ox {
 

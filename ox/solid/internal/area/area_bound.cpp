@@ -2,10 +2,10 @@
 #include <cmath>
 
 #include <ox/core/ox_list.h>
-#include <ox/solid/internal/area_bound.h>
-#include <ox/solid/internal/facade.h>
-#include <ox/solid/internal/face_bounds.h>
-#include <ox/solid/internal/kept_axes.h>
+#include <ox/solid/internal/area/area_bound.h>
+#include <ox/solid/internal/area/facade.h>
+#include <ox/solid/internal/search/face_bounds.h>
+#include <ox/solid/internal/area/kept_axes.h>
 #include <ox/solid/internal/tolerances.h>
 
 namespace ox {

@@ -4,7 +4,7 @@
 #include <numeric>
 
 #include <ox/internal/vectors.h>
-#include <ox/solid/internal/point_grid.h>
+#include <ox/solid/internal/search/point_grid.h>
 #include <ox/solid/internal/tolerances.h>
 
 namespace ox {

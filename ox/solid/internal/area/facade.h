@@ -1,5 +1,5 @@
-#ifndef OX_SOLID_INTERNAL_FACADE_H
-#define OX_SOLID_INTERNAL_FACADE_H
+#ifndef OX_SOLID_INTERNAL_AREA_FACADE_H
+#define OX_SOLID_INTERNAL_AREA_FACADE_H
 
 #include <ox/polygon/ox_polygon.h>
 

@@ -1,11 +1,11 @@
-#ifndef OX_SOLID_INTERNAL_KEPT_AXES_H
-#define OX_SOLID_INTERNAL_KEPT_AXES_H
+#ifndef OX_SOLID_INTERNAL_AREA_KEPT_AXES_H
+#define OX_SOLID_INTERNAL_AREA_KEPT_AXES_H
 
 #include <algorithm>
 #include <cmath>
 
 #include <ox/geometry/ox_3dvector.h>
-#include <ox/solid/internal/face_bounds.h>
+#include <ox/solid/internal/search/face_bounds.h>
 #include <ox/solid/internal/tolerances.h>
 
 namespace ox {

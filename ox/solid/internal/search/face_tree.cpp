@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <cstddef>
 
-#include <ox/solid/internal/face_tree.h>
+#include <ox/solid/internal/search/face_tree.h>
 
 namespace ox {
 

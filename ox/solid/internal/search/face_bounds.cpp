@@ -3,7 +3,7 @@
 #include <limits>
 
 #include <ox/internal/vectors.h>
-#include <ox/solid/internal/face_bounds.h>
+#include <ox/solid/internal/search/face_bounds.h>
 #include <ox/solid/internal/tolerances.h>
 
 namespace ox {

@@ -1,12 +1,12 @@
-#ifndef OX_SOLID_INTERNAL_PLANE_SECTION_H
-#define OX_SOLID_INTERNAL_PLANE_SECTION_H
+#ifndef OX_SOLID_INTERNAL_SECTION_PLANE_SECTION_H
+#define OX_SOLID_INTERNAL_SECTION_PLANE_SECTION_H
 
 #include <memory>
 
 #include <ox/core/ox_list.h>
 #include <ox/geometry/ox_3dvector.h>
 #include <ox/polygon/ox_polygon.h>
-#include <ox/solid/internal/face_tree.h>
+#include <ox/solid/internal/search/face_tree.h>
 
 namespace ox {
 

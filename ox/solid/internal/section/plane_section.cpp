@@ -13,8 +13,8 @@
 #include <cstddef>
 #include <vector>
 
-#include <ox/solid/internal/plane_section.h>
-#include <ox/solid/internal/section_chains.h>
+#include <ox/solid/internal/section/plane_section.h>
+#include <ox/solid/internal/section/section_chains.h>
 
 namespace ox {
 

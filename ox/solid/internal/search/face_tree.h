@@ -1,10 +1,10 @@
-#ifndef OX_SOLID_INTERNAL_FACE_TREE_H
-#define OX_SOLID_INTERNAL_FACE_TREE_H
+#ifndef OX_SOLID_INTERNAL_SEARCH_FACE_TREE_H
+#define OX_SOLID_INTERNAL_SEARCH_FACE_TREE_H
 
 #include <vector>
 
 #include <ox/geometry/ox_3dvector.h>
-#include <ox/solid/internal/face_bounds.h>
+#include <ox/solid/internal/search/face_bounds.h>
 
 namespace ox {
 

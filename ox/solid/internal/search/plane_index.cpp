@@ -4,7 +4,7 @@
 #include <tuple>
 
 #include <ox/internal/vectors.h>
-#include <ox/solid/internal/plane_index.h>
+#include <ox/solid/internal/search/plane_index.h>
 #include <ox/solid/internal/tolerances.h>
 
 namespace ox {

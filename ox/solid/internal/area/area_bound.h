@@ -1,5 +1,5 @@
-#ifndef OX_SOLID_INTERNAL_AREA_BOUND_H
-#define OX_SOLID_INTERNAL_AREA_BOUND_H
+#ifndef OX_SOLID_INTERNAL_AREA_AREA_BOUND_H
+#define OX_SOLID_INTERNAL_AREA_AREA_BOUND_H
 
 #include <ox/polygon/ox_polygon.h>
 

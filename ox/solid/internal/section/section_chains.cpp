@@ -1,7 +1,7 @@
 #include <cstddef>
 
-#include <ox/solid/internal/point_grid.h>
-#include <ox/solid/internal/section_chains.h>
+#include <ox/solid/internal/search/point_grid.h>
+#include <ox/solid/internal/section/section_chains.h>
 #include <ox/solid/internal/tolerances.h>
 
 namespace ox {

@@ -1,5 +1,5 @@
-#ifndef OX_SOLID_INTERNAL_POINT_GRID_H
-#define OX_SOLID_INTERNAL_POINT_GRID_H
+#ifndef OX_SOLID_INTERNAL_SEARCH_POINT_GRID_H
+#define OX_SOLID_INTERNAL_SEARCH_POINT_GRID_H
 
 #include <cstddef>
 #include <cstdint>

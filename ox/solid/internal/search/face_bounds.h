@@ -1,5 +1,5 @@
-#ifndef OX_SOLID_INTERNAL_FACE_BOUNDS_H
-#define OX_SOLID_INTERNAL_FACE_BOUNDS_H
+#ifndef OX_SOLID_INTERNAL_SEARCH_FACE_BOUNDS_H
+#define OX_SOLID_INTERNAL_SEARCH_FACE_BOUNDS_H
 
 #include <ox/geometry/ox_3dvector.h>
 #include <ox/geometry/ox_box.h>

@@ -15,10 +15,10 @@
 #include <utility>
 #include <vector>
 
-#include <ox/solid/internal/area_bound.h>
-#include <ox/solid/internal/combination.h>
-#include <ox/solid/internal/plane_index.h>
-#include <ox/solid/internal/plane_section.h>
+#include <ox/solid/internal/area/area_bound.h>
+#include <ox/solid/internal/boolean/combination.h>
+#include <ox/solid/internal/search/plane_index.h>
+#include <ox/solid/internal/section/plane_section.h>
 #include <ox/solid/internal/same_bits.h>
 #include <ox/solid/ox_solid.h>
 

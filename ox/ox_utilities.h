@@ -33,6 +33,7 @@
 #include <ox/polygon/ox_polygon_projection.h>
 #include <ox/progress/ox_progress_manager.h>
 #include <ox/progress/ox_thread.h>
+#include <ox/solid/ox_csg.h>
 #include <ox/solid/ox_solid.h>
 #include <ox/structure/ox_loadshare.h>
 

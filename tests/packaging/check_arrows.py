@@ -14,7 +14,7 @@ FLOORS = {
     "core": {"functions", "vectors"},
     "geometry": {"core", "functions", "vectors"},
     "polygon": {"core", "geometry", "functions", "vectors"},
-    "solid": {"core", "geometry", "polygon", "functions", "vectors"},
+    "solid": {"core", "geometry", "polygon", "mesh", "progress", "functions", "vectors"},
     "mesh": {"core", "geometry", "functions", "vectors"},
     "structure": {"core", "geometry", "functions", "vectors"},
     "progress": {"core", "geometry", "functions", "vectors"},

@@ -1,160 +1,110 @@
+#include <ox/solid/internal/face_cache.h>
+
 #include <cstddef>
-#include <cstdint>
-#include <cstdlib>
 #include <utility>
 
-#include <ox/solid/internal/face_cache.h>
-#include <ox/solid/internal/ox_solid_state.h>
+#include <ox/internal/polygon_access.h>
 #include <ox/solid/internal/same_bits.h>
 
-namespace ox {
-
-/// Reads the faces of a primary storage one after another.
-class face_cache::storage_reader {
-public:
-    explicit storage_reader(const ox_solid_state& primary_storage) : storage(primary_storage) {}
-
-    /// False behind the last face, and behind the first index that is missing or out of range.
-    bool has_more() const {
-        return !is_inconsistent && next.size_index < storage.contour_sizes.size();
-    }
-
-    /// Where the next face begins.
-    origin get_place() const { return {next, ox_3dvector(), false}; }
-
-    /// Passes over a face that is known to be there.
-    void skip_face() {
-        do {
-            next.index += std::abs(storage.contour_sizes[next.size_index++]);
-        } while (has_more_contours());
-    }
-
-    /// Makes the next face; null when not even its outer contour can be read. Of a face that is
-    /// not there completely the contours before the inconsistency are kept.
-    std::unique_ptr<ox_polygon> read_face() {
-        if (!gather_contour()) {
-            return nullptr;
-        }
-        auto face = std::make_unique<ox_polygon>();
-        face->add_contour(contour);
-        while (has_more_contours() && gather_contour()) {
-            face->add_contour(contour);
-        }
-        return face;
-    }
-
-private:
-    bool has_more_contours() const {
-        return next.size_index < storage.contour_sizes.size() &&
-               storage.contour_sizes[next.size_index] < 1;
-    }
-
-    bool gather_contour() {
-        contour.clear();
-        is_inconsistent = true;
-        for (std::int64_t left = std::abs(std::int64_t{storage.contour_sizes[next.size_index]});
-             left > 0; --left) {
-            if (next.index >= storage.contours.size()) {
-                return false;
-            }
-            const unsigned int index = storage.contours[next.index++];
-            if (index >= storage.count_vertices()) {
-                return false;
-            }
-            contour.push_right(storage.vertices[static_cast<int>(index)]);
-        }
-        ++next.size_index;
-        is_inconsistent = false;
-        return true;
-    }
-
-    const ox_solid_state& storage;
-    storage_place next;
-    bool is_inconsistent = false;
-    ox_list<ox_3dvector> contour;
-};
-
-face_cache::face_cache(std::vector<std::unique_ptr<ox_polygon>> known) {
-    list.set_size(static_cast<int>(known.size()));
-    for (int i = 0; i < list.size(); ++i) {
-        list[i] = known[static_cast<std::size_t>(i)].release();
-    }
-}
-
-face_cache& face_cache::operator=(face_cache&& other) noexcept {
-    if (this != &other) {
-        const face_cache retired(std::move(*this));
-        list = std::move(other.list);
-        origins = std::move(other.origins);
-        is_complete = other.is_complete;
-        bounds = std::move(other.bounds);
-        tree = std::move(other.tree);
-    }
-    return *this;
-}
-
-face_cache::~face_cache() {
-    for (ox_polygon* polygon : list) {
-        delete polygon;
-    }
-}
+namespace ox::internal {
 
 // Faces
 
-const ox_list<ox_polygon*>& face_cache::get_list(const ox_solid_state& storage) {
-    if (!is_complete || list.size() == 0) {
-        make_missing_faces(storage);
+const ox_list<ox_polygon*>& face_cache::get_list() {
+    if (!is_complete) {
+        make_missing_faces();
     }
     return list;
 }
 
-void face_cache::make_missing_faces(const ox_solid_state& storage) {
-    origins.clear();
+void face_cache::make_missing_faces() {
+    owned_faces made; // null for the faces that are there
+    std::vector<origin> made_origins;
     storage_reader reader(storage);
-    for (int face = 0; reader.has_more(); ++face) {
-        origin made = reader.get_place();
-        if (face < list.size() && list[face] != nullptr) {
+    while (reader.has_more()) {
+        const std::size_t i = made.size();
+        const storage_place place = reader.get_place();
+        const bool is_known = i < faces.size() && faces[i];
+        if (is_known) {
             reader.skip_face();
-        } else {
-            std::unique_ptr<ox_polygon> polygon = reader.read_face();
-            if (!polygon) {
-                break;
-            }
-            if (face == list.size()) {
-                list.push_right(nullptr); // the place first: a polygon never lives without an owner
-            }
-            list[face] = polygon.release();
         }
-        made.normal = list[face]->get_normal();
-        origins.push_back(made);
-        origins.back().had_contours_of_storage = has_contours_of_storage(storage, face);
+        made.push_back(is_known ? nullptr : reader.read_face());
+        if (!is_known && !made[i]) {
+            made.pop_back();
+            break;
+        }
+        ox_polygon& face = is_known ? *faces[i] : *made[i];
+        made_origins.push_back({place, face.get_normal(), has_contours_of(place, face)});
     }
+    show(std::move(made), std::move(made_origins));
+}
+
+/// Joins the faces made to those known. Nothing changes before all memory is there.
+void face_cache::show(owned_faces made, std::vector<origin> made_origins) {
+    ox_list<ox_polygon*> shown(static_cast<int>(made.size()));
+    for (std::size_t i = 0; i < made.size(); ++i) {
+        if (!made[i]) {
+            made[i] = std::move(faces[i]);
+        }
+        polygon_access::set_counted(*made[i], audience == face_audience::caller);
+        shown[static_cast<int>(i)] = made[i].get();
+    }
+    faces = std::move(made);
+    list = std::move(shown);
+    origins = std::move(made_origins);
     is_complete = true;
 }
 
-std::unique_ptr<ox_polygon> face_cache::release(int face) {
-    return std::unique_ptr<ox_polygon>(std::exchange(list[face], nullptr));
+owned_faces face_cache::retire() noexcept {
+    list.clear();
+    origins.clear();
+    is_complete = false;
+    bounds.clear();
+    tree.reset();
+    return std::exchange(faces, {});
 }
 
-// Settled faces
+void face_cache::keep(owned_faces known) noexcept {
+    for (const std::unique_ptr<ox_polygon>& face : known) {
+        if (face) {
+            polygon_access::set_counted(*face, false);
+            polygon_access::forget_best_center(*face);
+        }
+    }
+    faces = std::move(known);
+}
 
-bool face_cache::is_settled(const ox_solid_state& storage, int face) const {
+// Reproducible faces
+
+bool face_cache::is_reproducible(int face) const {
     const origin& made = origins[static_cast<std::size_t>(face)];
-    return made.had_contours_of_storage && have_same_bits(list[face]->get_normal(), made.normal) &&
-           have_same_bits(list[face]->get_point(), list[face]->get_contour_vertices()[0]) &&
-           has_contours_of_storage(storage, face);
+    ox_polygon& polygon = *list[face];
+    // A face without contours has no first vertex to compare.
+    return made.had_contours_of_storage && polygon.get_contour_vertices().size() > 0 &&
+           have_same_bits(polygon.get_normal(), made.normal) &&
+           have_same_bits(polygon.get_point(), polygon.get_contour_vertices()[0]) &&
+           has_contours_of(made.place, polygon);
 }
 
-bool face_cache::has_contours_of_storage(const ox_solid_state& storage, int face) const {
-    storage_place place = origins[static_cast<std::size_t>(face)].place;
-    return storage.holds_face(*list[face], place);
+bool face_cache::is_all_reproducible() const {
+    for (int i = 0; i < list.size(); ++i) {
+        if (!is_reproducible(i)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool face_cache::has_contours_of(const storage_place& place, ox_polygon& face) const {
+    storage_place next = place;
+    return storage.holds_face(face, next);
 }
 
 // Searching
 
 const std::vector<face_bounds>& face_cache::refresh_bounds() {
     std::vector<face_bounds> found;
-    found.reserve(static_cast<std::size_t>(list.size()));
+    found.reserve(faces.size());
     for (ox_polygon* face : list) {
         found.emplace_back(*face);
     }
@@ -175,4 +125,4 @@ const face_tree& face_cache::get_tree() {
     return *tree;
 }
 
-} // namespace ox
+} // namespace ox::internal

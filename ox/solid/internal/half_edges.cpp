@@ -1,13 +1,10 @@
+#include <ox/solid/internal/half_edges.h>
+
 #include <cstdint>
 #include <cstdlib>
-#include <memory>
 #include <utility>
-#include <vector>
 
-#include <ox/solid/internal/half_edges.h>
-#include <ox/solid/internal/ox_solid_state.h>
-
-namespace ox {
+namespace ox::internal {
 
 namespace {
 
@@ -23,44 +20,39 @@ struct contour_run {
 };
 
 /// Reads the vertex index at a place of the contours; false when there is none in range.
-bool read_index(const ox_solid_state& state, std::int64_t place, unsigned int& index) {
-    if (place >= state.contours.size()) {
+bool read_index(const solid_storage& storage, std::int64_t place, unsigned int& index) {
+    if (place >= storage.contours.size()) {
         return false;
     }
-    index = state.contours[static_cast<int>(place)];
-    return index < state.count_vertices();
-}
-
-void append_half_edge(ox_solid_state& state, std::unique_ptr<ox_solid_half_edge> half_edge,
-                      outgoing_edges& outgoing) {
-    outgoing[half_edge->start].push_back(half_edge.get());
-    state.half_edges.push_right(half_edge.get());
-    half_edge.release();
+    index = storage.contours[static_cast<int>(place)];
+    return index < storage.count_vertices();
 }
 
 /// Makes the half-edges of one contour, up to the first index that is missing or out of range.
-void build_contour(ox_solid_state& state, const contour_run& contour, outgoing_edges& outgoing) {
+void build_contour(half_edge_set& set, const solid_storage& storage, const contour_run& contour,
+                   outgoing_edges& outgoing) {
     for (std::int64_t j = 0; j < contour.size; ++j) {
         auto half_edge = std::make_unique<ox_solid_half_edge>();
-        if (!read_index(state, contour.first + j, half_edge->start) ||
-            !read_index(state, contour.first + (j + 1) % contour.size, half_edge->end)) {
+        if (!read_index(storage, contour.first + j, half_edge->start) ||
+            !read_index(storage, contour.first + (j + 1) % contour.size, half_edge->end)) {
             return;
         }
         half_edge->position = static_cast<unsigned int>(j);
         half_edge->contour = contour.number;
         half_edge->face = contour.face;
-        append_half_edge(state, std::move(half_edge), outgoing);
+        outgoing[half_edge->start].push_back(half_edge.get());
+        set.edges.push_back(std::move(half_edge));
     }
 }
 
-void build_contours(ox_solid_state& state, outgoing_edges& outgoing) {
+void build_contours(half_edge_set& set, const solid_storage& storage, outgoing_edges& outgoing) {
     contour_run contour = {0, 0, 0, 0};
-    for (const int size : state.contour_sizes) {
+    for (const int size : storage.contour_sizes) {
         if (size > 0) {
             contour.face = contour.number;
         }
         contour.size = std::abs(std::int64_t{size});
-        build_contour(state, contour, outgoing);
+        build_contour(set, storage, contour, outgoing);
         contour.first += contour.size;
         ++contour.number;
     }
@@ -76,27 +68,19 @@ ox_solid_half_edge* find_opposite(const ox_solid_half_edge& half_edge,
     return nullptr;
 }
 
-void join_opposites(ox_solid_state& state, const outgoing_edges& outgoing) {
-    state.half_edges_closed = true;
-    for (ox_solid_half_edge* half_edge : state.half_edges) {
-        if (half_edge->opposite == nullptr) {
-            half_edge->opposite = find_opposite(*half_edge, outgoing);
-        }
-        if (half_edge->opposite == nullptr) {
-            state.half_edges_closed = false;
-        }
-    }
-}
-
 } // namespace
 
-void build_half_edges(ox_solid_state& state) {
-    if (state.half_edges.size() > 0) {
+void half_edge_set::build(const solid_storage& storage) {
+    if (!edges.empty()) {
         return;
     }
-    outgoing_edges outgoing(state.count_vertices());
-    build_contours(state, outgoing);
-    join_opposites(state, outgoing);
+    outgoing_edges outgoing(storage.count_vertices());
+    build_contours(*this, storage, outgoing);
+    is_closed = true;
+    for (const std::unique_ptr<ox_solid_half_edge>& half_edge : edges) {
+        half_edge->opposite = find_opposite(*half_edge, outgoing);
+        is_closed = is_closed && half_edge->opposite != nullptr;
+    }
 }
 
-} // namespace ox
+} // namespace ox::internal

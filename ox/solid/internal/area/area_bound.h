@@ -3,7 +3,7 @@
 
 #include <ox/polygon/ox_polygon.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// True only if `polygon.get_area()` is above `area` (squared model units), told from the contours
 /// without making triangles; false tells nothing. It is true for the common cases: a first
@@ -12,6 +12,6 @@ namespace ox {
 /// apart. O(n log n) for n vertices.
 bool is_area_surely_above(ox_polygon& polygon, float area);
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

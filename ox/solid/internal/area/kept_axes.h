@@ -8,7 +8,7 @@
 #include <ox/solid/internal/search/face_bounds.h>
 #include <ox/solid/internal/tolerances.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// The axes that the tessellator surely keeps when it flattens a polygon: it drops the one on
 /// which the normal is longest. What lies apart on a kept axis is apart for the tessellator.
@@ -43,6 +43,6 @@ private:
     bool kept[3];
 };
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

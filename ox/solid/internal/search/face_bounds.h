@@ -5,7 +5,7 @@
 #include <ox/geometry/ox_box.h>
 #include <ox/polygon/ox_polygon.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// The very extremes of a set of points on each axis, without the roundings that an `ox_box` picks
 /// up, for rejections that must never be wrong: each `surely_...` test leaves room for all
@@ -56,6 +56,6 @@ struct face_bounds {
                              float tolerance) const;
 };
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -7,7 +7,7 @@
 #include <ox/geometry/ox_3dvector.h>
 #include <ox/solid/internal/search/point_grid.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// The plane of a face.
 struct face_plane {
@@ -48,6 +48,6 @@ private:
     point_grid normals;
 };
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -8,7 +8,7 @@
 #include <ox/polygon/ox_polygon.h>
 #include <ox/solid/internal/search/face_tree.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// The region of the plane through `point` with `normal` that lies inside the solid bounded by
 /// `faces`, as a polygon in that plane; none when the plane meets no face. A vertex no farther than
@@ -18,6 +18,6 @@ std::unique_ptr<ox_polygon> plane_section(const ox_list<ox_polygon*>& faces, con
                                           const ox_3dvector& point, const ox_3dvector& normal,
                                           float tolerance);
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -58,7 +58,7 @@ inline unsigned int draw_below(unsigned int n, mersenne_twister& engine) {
 
 } // namespace
 
-// Unsigned arithmetic wraps around, so every pair of bounds is a range of at least one number.
+/// Unsigned arithmetic wraps around, so every pair of bounds is a range of at least one number.
 int ox_random::dice(int a, int b) {
     const unsigned int first = static_cast<unsigned int>(a);
     const unsigned int span = static_cast<unsigned int>(b) - first;
@@ -68,7 +68,7 @@ int ox_random::dice(int a, int b) {
     return span == 0 ? a : static_cast<int>(first + draw_below(span + 1, state->engine));
 }
 
-// The same as dice(0, steps), by divisions whose divisor the compiler knows.
+/// The same as dice(0, steps), by divisions whose divisor the compiler knows.
 float ox_random::dice_0_1() {
     constexpr unsigned int steps = 1000000;
     return static_cast<float>(draw_below(steps + 1, state->engine)) / static_cast<float>(steps);

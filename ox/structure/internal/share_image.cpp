@@ -62,7 +62,7 @@ void share_image::paint(float y, float left, float right, float beam, unsigned i
     line[pixel(beam, min_x, width)] = 0;
 }
 
-// The ninth and the tenth colour are the same.
+/// The ninth and the tenth colour are the same.
 unsigned int share_color(unsigned int n) {
     static const unsigned int palette[] = {0xFF0000FFu, 0xFF00FF00u, 0xFFFF0000u, 0xFFFFFF00u,
                                            0xFFFF00FFu, 0xFF00FFFFu, 0xFFFFFF64u, 0xFFFF64FFu,

@@ -123,7 +123,7 @@ TEST_F(OxListAllocation, MovingAllocatesNothing) {
     expect_intact();
 }
 
-TEST(OxListAllocation, MovedValueThatFindsNoRoomStaysWithTheCaller) {
+TEST_F(OxListAllocation, MovedValueThatFindsNoRoomStaysWithTheCaller) {
     ox::ox_list<rationed> list;
     rationed value(7);
     rationed::refused = true;

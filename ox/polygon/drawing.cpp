@@ -1,6 +1,5 @@
+#include <ox/internal/opengl_headers.h>
 #include <ox/polygon/ox_polygon.h>
-
-#include <GL/gl.h>
 
 namespace ox {
 

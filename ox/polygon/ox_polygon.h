@@ -11,6 +11,10 @@ namespace ox {
 
 struct ox_polygon_data;
 
+namespace internal {
+struct polygon_access;
+}
+
 /// A planar region: one plane (a point and a normal) and closed contours in it, which together
 /// bound the region, with holes and with islands inside holes.
 ///
@@ -349,6 +353,8 @@ public:
                                        const ox_3dvector& c);
 
 private:
+    friend struct internal::polygon_access;
+
     ox_polygon_data* data;
 };
 

@@ -3,6 +3,7 @@
 #include <atomic>
 #include <memory>
 
+#include <ox/internal/polygon_access.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
 #include <ox/polygon/ox_polygon.h>
 
@@ -17,6 +18,7 @@ std::atomic<int> living_polygons{0};
 ox_polygon_data* ox_polygon_data::copy() {
     compute_contours();
     std::unique_ptr<ox_polygon_data> made(new ox_polygon_data(*this));
+    made->counted = true;
     made->bounding_box.clear();
     if (!tesselation_computed) {
         made->tesselation_vertices.clear();
@@ -53,6 +55,7 @@ ox_polygon::ox_polygon(const ox_polygon& source) : data(source.data->copy()) {
 ox_polygon& ox_polygon::operator=(const ox_polygon& source) {
     if (this != &source) {
         ox_polygon_data* copied = source.data->copy();
+        copied->counted = data->counted;
         delete data;
         data = copied;
     }
@@ -60,7 +63,9 @@ ox_polygon& ox_polygon::operator=(const ox_polygon& source) {
 }
 
 ox_polygon::~ox_polygon() {
-    --living_polygons;
+    if (data->counted) {
+        --living_polygons;
+    }
     delete data;
 }
 
@@ -75,5 +80,21 @@ int ox_polygon::get_instanced() {
 double ox_polygon::get_compute_contour_time() {
     return 0.0;
 }
+
+namespace internal {
+
+void polygon_access::set_counted(ox_polygon& polygon, bool counted) noexcept {
+    if (polygon.data->counted != counted) {
+        polygon.data->counted = counted;
+        living_polygons += counted ? 1 : -1;
+    }
+}
+
+void polygon_access::forget_best_center(ox_polygon& polygon) noexcept {
+    polygon.data->best_center_computed = false;
+    polygon.data->best_center = ox_3dvector();
+}
+
+} // namespace internal
 
 } // namespace ox

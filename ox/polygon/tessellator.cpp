@@ -6,15 +6,7 @@
 #include <exception>
 #include <memory>
 
-#if defined(_WIN32)
-#include <windows.h>
-#endif
-
-#include <GL/glu.h>
-
-#if !defined(CALLBACK)
-#define CALLBACK
-#endif
+#include <ox/internal/opengl_headers.h>
 
 namespace ox {
 namespace {

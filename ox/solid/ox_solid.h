@@ -142,6 +142,32 @@ public:
     /// establishes that.
     bool check_manifold() const;
 
+    // Measures, in double precision, of the primary storage as it is
+    //
+    // Nothing is cached. Faces end where the lists contradict each other, as those of `get_faces`
+    // do, but no face is rounded to a grid or left out for its size.
+
+    /// The volume that the faces enclose, in cubic model units: negative for a shell that is inside
+    /// out, 0 without faces. Each contour counts as the triangles about its first vertex, seen from
+    /// the centre of the box around all finite vertices; the place of the centre matters only where
+    /// the shell is open. Not a number where a vertex of a face is not finite. O(n).
+    double get_volume() const;
+
+    /// The area of all faces, in square model units. Holes are taken off their faces; they must run
+    /// against the outer contours. Of a face that is not planar it is the area of its outline seen
+    /// from where that is largest. Not a number where a vertex of a face is not finite. O(n).
+    double get_surface_area() const;
+
+    /// The edges, or the parts of them, that no edge of the opposite direction covers, as pairs of
+    /// points from start to end; empty for a closed shell, and of two edges for one opposite, one
+    /// is open. Points nearer to each other than `tolerance` (model units) are one, in chains, and
+    /// an edge counts as divided at the ends of others that lie along it within `tolerance`. A
+    /// tolerance below 0 or not a number counts as 0: then only equal points are one. An edge with
+    /// an end that is not finite is covered by none. The pairs come in ascending order of the
+    /// vertices. O(n log n) for n edges, and O(log n) for each end along an edge that has no
+    /// opposite between the same points, as long as few different points lie within a tolerance.
+    ox_list<ox_3dvector> get_open_edges(float tolerance) const;
+
     // Booleans, in place
     //
     // Each face of one solid is cut by the cross-section of the other in that face's plane, and the

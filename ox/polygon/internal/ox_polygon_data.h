@@ -13,6 +13,7 @@ enum class boolean_operation { unite, subtract, intersect };
 /// The record behind an `ox_polygon`. Its operations do what the polygon's do, for the code that
 /// works on several polygons at once.
 struct ox_polygon_data {
+    bool counted = true; ///< among the living polygons
     bool plane_defined = false;
     bool contours_computed = false; ///< the pending contours have been merged
     bool tesselation_computed = false;

@@ -140,6 +140,9 @@ void region_sweep::collect_edges(const std::vector<region_edge>& given) {
     std::vector<crossing> crossings;
     crossings.reserve(given.size());
     for (const region_edge& edge : given) {
+        if (edge.from == edge.to) {
+            continue;
+        }
         const bool rises = is_before(at(edge.from), at(edge.to));
         crossings.push_back({rises ? edge.from : edge.to,
                              rises ? edge.to : edge.from,
@@ -184,15 +187,12 @@ void region_sweep::sort_vertices() {
 }
 
 bool region_sweep::run() {
-    for (std::size_t i = 0; i < order.size(); ++i) {
-        if (i > 0 && !is_before(at(order[i - 1]), at(order[i]))) {
+    for (std::size_t i = 1; i < order.size(); ++i) {
+        if (!is_before(at(order[i - 1]), at(order[i]))) {
             return false; // two vertices at one place
         }
-        if (!meet(order[i])) {
-            return false;
-        }
     }
-    return true;
+    return std::all_of(order.begin(), order.end(), [this](int vertex) { return meet(vertex); });
 }
 
 gap& region_sweep::gap_below(edge_status::iterator position) {

@@ -5,35 +5,33 @@
 #include <examples/building/obj_file.h>
 #include <examples/building/report.h>
 
+#include <examples/support/command_line.h>
 #include <examples/support/output_folder.h>
-#include <examples/support/png_file.h>
+#include <examples/support/pictures.h>
+#include <examples/support/program.h>
 #include <examples/support/progress.h>
-#include <examples/support/single_input.h>
 
-#include <cstdio>
-#include <exception>
-#include <stdexcept>
 #include <string>
 
 namespace {
 
-/// The process's exit status.
-enum status { all_well = 0, refused = 1, volume_off = 2 };
-
-void write_files(ox_examples::output_folder& folder, const building::description& d,
+/// True where the pictures are among the files.
+bool write_files(ox_examples::output_folder& folder, const building::description& d,
                  std::vector<building::element>& elements) {
     building::write_obj(folder.add(d.name + ".obj"), elements);
-    ox_examples::write_png(folder.add(d.name + ".png"), building::draw_view(elements));
+    ox_examples::pictures pictures(folder);
+    pictures.add(d.name + ".png", [&] { return building::draw_view(elements); });
     for (std::size_t storey = 0; storey < d.storeys.size(); ++storey) {
         building::floor_plan plan = building::plan_of(d, elements, storey);
-        ox_examples::write_png(folder.add("plan-" + std::to_string(storey) + ".png"),
-                               building::draw_plan(plan, building::bounding_box(elements)));
+        pictures.add("plan-" + std::to_string(storey) + ".png",
+                     [&] { return building::draw_plan(plan, building::bounding_box(elements)); });
     }
     folder.publish();
+    return pictures.complete();
 }
 
 /// From the description to the files and the table.
-status run(const ox_examples::single_input& wanted) {
+ox_examples::exit_status run(const ox_examples::single_input& wanted) {
     const building::description d = building::read_description(wanted.file);
     ox_examples::output_folder folder(wanted.folder, d.name);
     std::vector<building::element> elements;
@@ -41,20 +39,18 @@ status run(const ox_examples::single_input& wanted) {
         ox_examples::progress steps(building::count_steps(d));
         elements = building::assemble(d, steps);
     }
-    write_files(folder, d, elements);
-    return building::report(d.name, elements) ? all_well : volume_off;
+    const bool complete = write_files(folder, d, elements);
+    if (!building::report(d.name, elements)) {
+        return ox_examples::off;
+    }
+    return complete ? ox_examples::all_well : ox_examples::failed;
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    try {
-        return run(ox_examples::parse_single_input(argc, argv));
-    } catch (const std::invalid_argument&) {
-        std::fprintf(stderr, "usage: %s DESCRIPTION [--out DIR]\n", argv[0]);
-        return refused;
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "%s\n", error.what());
-        return refused;
-    }
+    CLI::App line("Makes the solids of a building, measures and draws them.", "ox_building");
+    ox_examples::single_input wanted;
+    ox_examples::add_single_input(line, wanted);
+    return ox_examples::run_program(line, argc, argv, [&] { return run(wanted); });
 }

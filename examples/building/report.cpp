@@ -1,6 +1,7 @@
 #include <examples/building/report.h>
 
 #include <examples/building/measures.h>
+#include <examples/support/utf8.h>
 
 #include <cstdio>
 
@@ -9,8 +10,8 @@ namespace building {
 namespace {
 
 void print_row(const std::string& name, const measures& m, double seconds) {
-    std::printf("%-22s %7d %10d %12.3f %12.4f %9.3f\n", name.c_str(), m.faces, m.triangles, m.area,
-                m.volume, seconds);
+    std::printf("%s %7d %10d %12.3f %12.4f %9.3f\n", ox_examples::padded(name, 22).c_str(), m.faces,
+                m.triangles, m.area, m.volume, seconds);
 }
 
 } // namespace

@@ -2,10 +2,10 @@
 #include <examples/curves/drawing.h>
 #include <examples/curves/tracing.h>
 
+#include <examples/support/command_line.h>
 #include <examples/support/output_folder.h>
-#include <examples/support/png_file.h>
+#include <examples/support/pictures.h>
 #include <examples/support/program.h>
-#include <examples/support/single_input.h>
 
 #include <cstdio>
 
@@ -25,19 +25,21 @@ void report(const curves::description& d) {
     }
 }
 
-void run(const ox_examples::single_input& wanted) {
+ox_examples::exit_status run(const ox_examples::single_input& wanted) {
     const curves::description d = curves::read_description(wanted.file);
     ox_examples::output_folder folder(wanted.folder, d.name);
-    ox_examples::write_png(folder.add(d.name + ".png"), curves::draw_curves(d));
+    ox_examples::pictures pictures(folder);
+    pictures.add(d.name + ".png", [&] { return curves::draw_curves(d); });
     folder.publish();
     report(d);
+    return pictures.complete() ? ox_examples::all_well : ox_examples::failed;
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    return ox_examples::run_program("ox_curves DESCRIPTION [--out DIR]", [&] {
-        run(ox_examples::parse_single_input(argc, argv));
-        return ox_examples::all_well;
-    });
+    CLI::App line("Draws three curves of the same points.", "ox_curves");
+    ox_examples::single_input wanted;
+    ox_examples::add_single_input(line, wanted);
+    return ox_examples::run_program(line, argc, argv, [&] { return run(wanted); });
 }

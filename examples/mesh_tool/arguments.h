@@ -1,26 +1,27 @@
 #ifndef OX_EXAMPLES_MESH_TOOL_ARGUMENTS_H
 #define OX_EXAMPLES_MESH_TOOL_ARGUMENTS_H
 
+#include <examples/support/command_line.h>
+
 #include <string>
+#include <utility>
 
 namespace mesh_tool {
 
 /// What the command line asks for.
 struct arguments {
-    std::string file;       // a mesh file, empty to generate one
-    int field_size = 0;     // squares along each side of the generated field
-    float position = 1e-4f; // welding tolerance, in model units
-    float normal = 10.f;    // welding tolerance; 10 welds across all edges
-    int levels = 0;         // of subdivision
-    bool y_is_up = false;   // in the picture
-    std::string folder;     // for the files, empty for none
+    std::string file;   // a mesh file, empty to generate one
+    int field_size = 0; // squares along each side of the generated field
+    /// Tolerances of welding: a distance in model units, and one of normals; 10 welds across all
+    /// edges.
+    std::pair<float, float> weld = {1e-4f, 10.0f};
+    int levels = 0;       // of subdivision
+    bool y_is_up = false; // in the picture
+    std::string folder;   // for the files, empty for none
 };
 
-/// The text that explains the command line.
-extern const char* const usage;
-
-/// Reads the command line. Throws `std::invalid_argument` with the reason when it makes no sense.
-arguments parse(int argc, char** argv);
+/// Declares the command line, which changes `wanted`.
+void declare(CLI::App& line, arguments& wanted);
 
 } // namespace mesh_tool
 

@@ -4,20 +4,15 @@
 #include <examples/mesh_tool/obj_file.h>
 #include <examples/mesh_tool/source.h>
 #include <examples/support/output_folder.h>
-#include <examples/support/png_file.h>
+#include <examples/support/pictures.h>
+#include <examples/support/program.h>
 #include <examples/support/progress.h>
 
-#include <ox/core/ox_log.h>
-
 #include <cstdio>
-#include <exception>
 #include <filesystem>
 #include <stdexcept>
 
 namespace {
-
-/// The process's exit status.
-enum status { all_well = 0, refused = 1, wrong_command_line = 2 };
 
 using mesh_tool::arguments;
 using ox_examples::progress;
@@ -34,7 +29,8 @@ std::string name_of(const arguments& wanted) {
                                : std::filesystem::path(wanted.file).stem().string();
 }
 
-void write_files(const arguments& wanted, ox::ox_triangle_set& mesh, progress& steps) {
+/// True where the picture is among the files.
+bool write_files(const arguments& wanted, ox::ox_triangle_set& mesh, progress& steps) {
     const std::string name = name_of(wanted);
     ox_examples::output_folder folder(wanted.folder, name);
     steps.advance("writing");
@@ -43,8 +39,10 @@ void write_files(const arguments& wanted, ox::ox_triangle_set& mesh, progress& s
     }
     mesh_tool::write_obj(folder.add(name + ".obj"), mesh);
     steps.advance("drawing");
-    ox_examples::write_png(folder.add(name + ".png"), mesh_tool::draw_view(mesh, wanted.y_is_up));
+    ox_examples::pictures pictures(folder);
+    pictures.add(name + ".png", [&] { return mesh_tool::draw_view(mesh, wanted.y_is_up); });
     folder.publish();
+    return pictures.complete();
 }
 
 void report(const std::string& name, unsigned int nb_vertices_before,
@@ -62,36 +60,28 @@ void report(const std::string& name, unsigned int nb_vertices_before,
     std::printf("area             %.6g\n", mesh_tool::surface_area(mesh));
 }
 
-void run(const arguments& wanted) {
+ox_examples::exit_status run(const arguments& wanted) {
     progress steps(2 + wanted.levels + (wanted.folder.empty() ? 0 : 2));
     steps.advance("reading");
     ox::ox_triangle_set mesh = load(wanted);
     const unsigned int nb_vertices_before = mesh.get_nb_vertices();
     steps.advance("welding");
-    mesh.optimize(wanted.position, wanted.normal);
+    mesh.optimize(wanted.weld.first, wanted.weld.second);
     for (int level = 1; level <= wanted.levels; ++level) {
         steps.advance("subdividing, level " + std::to_string(level));
         mesh.subdivide();
     }
-    if (!wanted.folder.empty()) {
-        write_files(wanted, mesh, steps);
-    }
+    const bool complete = wanted.folder.empty() || write_files(wanted, mesh, steps);
     steps.end();
     report(name_of(wanted), nb_vertices_before, mesh);
+    return complete ? ox_examples::all_well : ox_examples::failed;
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    ox_log_set(false); // the working folder stays as it is
-    try {
-        run(mesh_tool::parse(argc, argv));
-        return all_well;
-    } catch (const std::invalid_argument& error) {
-        std::fprintf(stderr, "%s\n%s", error.what(), mesh_tool::usage);
-        return wrong_command_line;
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "%s\n", error.what());
-        return refused;
-    }
+    CLI::App line("Measures, welds, refines, converts and draws a triangle mesh.", "ox_mesh_tool");
+    arguments wanted;
+    mesh_tool::declare(line, wanted);
+    return ox_examples::run_program(line, argc, argv, [&] { return run(wanted); });
 }

@@ -1,8 +1,8 @@
 #include <examples/mesh_tool/source.h>
+#include <examples/support/input_file.h>
 
 #include <cmath>
 #include <filesystem>
-#include <stdexcept>
 
 namespace mesh_tool {
 
@@ -20,10 +20,12 @@ ox::ox_3dvector hill(int i, int j, int n) {
 } // namespace
 
 ox::ox_triangle_set read_mesh(const std::string& path) {
+    ox_examples::require_readable(path);
     ox::ox_triangle_set mesh;
     const bool raw = std::filesystem::path(path).extension() == ".raw";
     if (!(raw ? mesh.read_binary_raw(path.c_str()) : mesh.read_binary_stl(path.c_str()))) {
-        throw std::runtime_error(path + ": no sound " + (raw ? "raw" : "binary STL") + " file");
+        throw ox_examples::input_error(path + ": no sound " + (raw ? "raw" : "binary STL") +
+                                       " file");
     }
     return mesh;
 }

@@ -1,6 +1,8 @@
 #ifndef OX_EXAMPLES_PROGRESS_ARGUMENTS_H
 #define OX_EXAMPLES_PROGRESS_ARGUMENTS_H
 
+#include <examples/support/command_line.h>
+
 #include <string>
 
 namespace progress_example {
@@ -12,11 +14,8 @@ struct arguments {
     int nb_threads = 1;
 };
 
-/// The text that explains the command line.
-extern const char* const usage;
-
-/// Reads the command line. Throws `std::invalid_argument` with the reason when it makes no sense.
-arguments parse(int argc, char** argv);
+/// Declares the command line, which changes `wanted`.
+void declare(CLI::App& line, arguments& wanted);
 
 } // namespace progress_example
 

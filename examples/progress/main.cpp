@@ -5,21 +5,15 @@
 #include <examples/progress/production.h>
 #include <examples/progress/reporter.h>
 #include <examples/support/output_folder.h>
-
-#include <ox/core/ox_log.h>
+#include <examples/support/program.h>
 
 #include <cstdio>
-#include <exception>
-#include <stdexcept>
 
 namespace {
 
 using progress_example::arguments;
 using progress_example::product;
 using progress_example::reporter;
-
-/// The process's exit status. The last one is what shells expect after Ctrl-C.
-enum status { all_well = 0, refused = 1, wrong_command_line = 2, stopped = 130 };
 
 const char* const mesh_name = "tower.raw";
 
@@ -43,7 +37,7 @@ void explain_stop(const product& made, const std::string& phase, const std::stri
     }
 }
 
-status run(const arguments& wanted) {
+ox_examples::exit_status run(const arguments& wanted) {
     ox_examples::output_folder folder(wanted.folder, "tower");
     const std::string path = folder.add(mesh_name);
     reporter progress(wanted.folder + "/durations.txt");
@@ -56,23 +50,18 @@ status run(const arguments& wanted) {
     progress.finish();
     report(made, progress);
     if (progress.stopped_in().empty()) {
-        return all_well;
+        return ox_examples::all_well;
     }
     explain_stop(made, progress.stopped_in(), wanted.folder);
-    return stopped;
+    return ox_examples::stopped;
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    ox_log_set(false); // the working folder stays as it is
-    try {
-        return run(progress_example::parse(argc, argv));
-    } catch (const std::invalid_argument& error) {
-        std::fprintf(stderr, "%s\n%s", error.what(), progress_example::usage);
-        return wrong_command_line;
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "%s\n", error.what());
-        return refused;
-    }
+    CLI::App line("Cuts and welds a tower of wall panels under a progress bar that learns.",
+                  "ox_progress");
+    arguments wanted;
+    progress_example::declare(line, wanted);
+    return ox_examples::run_program(line, argc, argv, [&] { return run(wanted); });
 }

@@ -1,4 +1,5 @@
 #include <examples/slab/legend.h>
+#include <examples/support/utf8.h>
 
 #include <algorithm>
 #include <cmath>
@@ -22,7 +23,7 @@ constexpr double swatch_pitch = 26;
 constexpr double letter_height = 14;
 
 /// Longer names are cut: they would run into their loads.
-constexpr int longest_name = 18;
+constexpr std::size_t longest_name = 18;
 
 const colour ink = {0.13f, 0.13f, 0.15f};
 const colour paper = {1, 1, 1};
@@ -77,10 +78,11 @@ void draw_swatch(unsigned int rgba, const pixel_point& top_left) {
 
 void draw_entry(const std::string& name, double load, const pixel_point& start) {
     char text[80];
-    std::snprintf(text, sizeof text, "%-*.*s %9.2f kN", longest_name, longest_name, name.c_str(),
-                  load);
+    std::snprintf(text, sizeof text, " %9.2f kN", load);
+    const std::string shown = ox_examples::first_characters(name, longest_name);
     ox_examples::set_colour(ink);
-    ox_examples::draw_text(text, {start.x, start.y + letter_height / 2}, letter_height);
+    ox_examples::draw_text(ox_examples::padded(shown, longest_name) + text,
+                           {start.x, start.y + letter_height / 2}, letter_height);
 }
 
 } // namespace

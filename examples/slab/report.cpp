@@ -1,9 +1,11 @@
 #include <examples/slab/report.h>
+#include <examples/support/utf8.h>
 
 #include <ox/io/ox_csv.h>
 
 #include <cmath>
 #include <cstdio>
+#include <filesystem>
 #include <stdexcept>
 
 namespace slab {
@@ -28,8 +30,8 @@ bool report(const description& d, const sharing& shares) {
     const std::vector<double> per_metre = line_loads(d, shares);
     std::printf("%-16s %10s %10s %10s\n", "beam", "length m", "load kN", "kN/m");
     for (std::size_t i = 0; i < d.beams.size(); ++i) {
-        std::printf("%-16s %10.2f %10.2f %10.2f\n", d.beams[i].name.c_str(), d.beams[i].length(),
-                    shares.loads[i], per_metre[i]);
+        std::printf("%s %10.2f %10.2f %10.2f\n", ox_examples::padded(d.beams[i].name, 16).c_str(),
+                    d.beams[i].length(), shares.loads[i], per_metre[i]);
     }
     const double weight = shares.area * d.weight;
     const double ratio = shares.total() / weight;
@@ -61,7 +63,9 @@ void write_table(const std::string& path, const description& d, const sharing& s
     table.add_column("length m", lengths, 2);
     table.add_column("load kN", loads, 2);
     table.add_column("kN/m", loads_per_metre, 2);
-    if (!table.write_file(path)) {
+    const bool opened = table.write_file(path);
+    std::error_code error;
+    if (!opened || std::filesystem::file_size(path, error) != table.write_string().size()) {
         throw std::runtime_error(path + ": the table cannot be written");
     }
 }

@@ -1,34 +1,29 @@
 #ifndef OX_EXAMPLES_SUPPORT_COMMAND_LINE_H
 #define OX_EXAMPLES_SUPPORT_COMMAND_LINE_H
 
+#include <CLI/CLI.hpp>
+
 #include <string>
 
 namespace ox_examples {
 
-/// Says that the command line makes no sense: throws `std::invalid_argument` with the reason.
-[[noreturn]] void refuse(const std::string& reason);
+/// Accepts numbers from `lowest` to `highest`; anything else is no `wanted`.
+CLI::Validator number_between(double lowest, double highest, const std::string& wanted);
 
-/// The words of a command line, taken one after the other. What is missing or unfit is refused.
-class command_line {
-public:
-    command_line(int argc, char** argv) : count(argc), words(argv) {}
+/// Accepts whole numbers from 1 to `highest`; anything else is no `wanted`.
+CLI::Validator count_up_to(int highest, const std::string& wanted);
 
-    bool at_end() const { return next >= count; }
+/// Declares the option `--out FOLDER`, which changes `folder`.
+CLI::Option* add_output_folder(CLI::App& line, std::string& folder, const std::string& explanation);
 
-    /// The next word; `wanted` names it for the message when there is none.
-    std::string take(const std::string& wanted);
-
-    /// The next word as a finite number from 0 up.
-    float take_tolerance(const std::string& wanted);
-
-    /// The next word as a whole number from 1 to `highest`.
-    int take_count(const std::string& wanted, int highest);
-
-private:
-    int next = 1;
-    int count;
-    char** words;
+/// What the command line `DESCRIPTION [--out FOLDER]` asks for.
+struct single_input {
+    std::string file;
+    std::string folder = "."; ///< for the files that are written
 };
+
+/// Declares such a command line, which changes `wanted`.
+void add_single_input(CLI::App& line, single_input& wanted);
 
 } // namespace ox_examples
 

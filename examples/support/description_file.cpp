@@ -11,13 +11,16 @@ namespace {
 /// Bytes. A hundred times the largest description we know; larger files are no descriptions.
 constexpr std::uintmax_t largest_file = 1 << 20;
 
+const std::string byte_order_mark = "\xEF\xBB\xBF";
+
 } // namespace
 
 std::vector<std::string> read_lines(const std::string& path) {
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(path, error)) {
-        throw description_error(path, 0, "no such file");
+    const std::string obstacle = obstacle_to_reading(path);
+    if (!obstacle.empty()) {
+        throw description_error(path, 0, obstacle);
     }
+    std::error_code error;
     if (std::filesystem::file_size(path, error) > largest_file) {
         throw description_error(path, 0, "too large for a description");
     }
@@ -28,6 +31,9 @@ std::vector<std::string> read_lines(const std::string& path) {
     }
     if (!file.eof()) {
         throw description_error(path, 0, "the file cannot be read");
+    }
+    if (!lines.empty() && lines[0].rfind(byte_order_mark, 0) == 0) {
+        lines[0].erase(0, byte_order_mark.size());
     }
     return lines;
 }

@@ -1,17 +1,18 @@
 #ifndef OX_EXAMPLES_SUPPORT_DESCRIPTION_FILE_H
 #define OX_EXAMPLES_SUPPORT_DESCRIPTION_FILE_H
 
-#include <stdexcept>
+#include <examples/support/input_file.h>
+
 #include <string>
 #include <vector>
 
 namespace ox_examples {
 
 /// What is wrong with a description, as `file:line: reason`; line 0 stands for the file as a whole.
-class description_error : public std::runtime_error {
+class description_error : public input_error {
 public:
     description_error(const std::string& file, int line, const std::string& reason)
-        : std::runtime_error(file + ":" + std::to_string(line) + ": " + reason) {}
+        : input_error(file + ":" + std::to_string(line) + ": " + reason) {}
 };
 
 /// Refuses a description unless a condition holds.
@@ -30,8 +31,8 @@ private:
     std::string file;
 };
 
-/// The lines of the file at `path`, which must be a plain one (a device has no end) of at most a
-/// megabyte. Throws `description_error`.
+/// The lines of the file at `path`, which must be a plain one of at most a megabyte, without the
+/// byte order mark that some editors put before the first. Throws `description_error`.
 std::vector<std::string> read_lines(const std::string& path);
 
 } // namespace ox_examples

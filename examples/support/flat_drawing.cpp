@@ -1,10 +1,12 @@
 #include <examples/support/flat_drawing.h>
 
 #include <examples/support/stroke_font.h>
+#include <examples/support/utf8.h>
 
 #include <GL/gl.h>
 
 #include <cmath>
+#include <string_view>
 
 namespace ox_examples {
 
@@ -83,8 +85,10 @@ void draw_ring(const pixel_point& centre, double radius, double width) {
 void draw_text(const std::string& text, const pixel_point& start, double height) {
     const double unit = height / stroke_font_cap_height;
     double left = start.x;
-    for (const char c : text) {
-        for (const stroke& line : strokes_of(c)) {
+    for (std::string_view rest = text; !rest.empty();) {
+        const std::string character = first_characters(rest, 1);
+        rest.remove_prefix(character.size());
+        for (const stroke& line : strokes_of(character[0])) {
             std::vector<pixel_point> points;
             for (const stroke_point& p : line) {
                 points.push_back({left + p.x * unit, start.y - p.y * unit});
@@ -96,7 +100,7 @@ void draw_text(const std::string& text, const pixel_point& start, double height)
 }
 
 double text_width(const std::string& text, double height) {
-    const double nb_units = stroke_font_advance * static_cast<double>(text.size()) -
+    const double nb_units = stroke_font_advance * static_cast<double>(count_characters(text)) -
                             (text.empty() ? 0 : stroke_font_gap);
     return nb_units * height / stroke_font_cap_height;
 }

@@ -39,8 +39,8 @@ void fill_disc(const pixel_point& centre, double radius);
 
 void draw_ring(const pixel_point& centre, double radius, double width);
 
-/// Writes ASCII text from `start`, the left end of its base line, in capitals of `height` pixels.
-/// All characters are equally wide.
+/// Writes text from `start`, the left end of its base line, in capitals of `height` pixels. All
+/// characters are equally wide; one beyond ASCII is a box.
 void draw_text(const std::string& text, const pixel_point& start, double height);
 
 /// The width in pixels of such a text.

@@ -1,9 +1,12 @@
 #include <examples/support/line_reader.h>
 
 #include <examples/support/description_file.h>
+#include <examples/support/utf8.h>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <string_view>
 
 namespace ox_examples {
 
@@ -19,11 +22,36 @@ constexpr double smallest_size = 0.01;
 /// More storeys than any building has; also keeps a slip of the pen from filling the memory.
 constexpr std::size_t largest_index = 199;
 
-constexpr std::size_t longest_quote = 40;
+constexpr std::size_t longest_quote = 40; // characters
 
-bool is_name_character(char c) {
+bool is_ascii_name_character(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' ||
            c == '-';
+}
+
+/// Whether such a byte begins a character that can be printed. Those from 0x80 to 0x9F (C2 80 to
+/// C2 9F) steer terminals.
+bool is_printable(std::string_view character) {
+    if (character.size() == 1) {
+        return character[0] >= ' ' && character[0] <= '~';
+    }
+    return !(character[0] == '\xC2' && static_cast<unsigned char>(character[1]) < 0xA0);
+}
+
+/// Whether a name may have this character: a letter of any alphabet is welcome.
+bool is_name_character(std::string_view character) {
+    return character.size() > 1 ? is_printable(character) : is_ascii_name_character(character[0]);
+}
+
+bool is_name(std::string_view text) {
+    while (!text.empty()) {
+        const std::size_t size = first_character_size(text);
+        if (size == 0 || !is_name_character(text.substr(0, size))) {
+            return false;
+        }
+        text.remove_prefix(size);
+    }
+    return true;
 }
 
 /// Reads the whole of `text` as a number, independently of the locale.
@@ -53,10 +81,8 @@ std::string line_reader::word(const std::string& what) {
 
 std::string line_reader::name(const std::string& what) {
     const std::string result = word(what);
-    for (char c : result) {
-        if (!is_name_character(c)) {
-            fail(quoted(result) + " is no " + what + ": letters, digits, '_' and '-' only");
-        }
+    if (!is_name(result)) {
+        fail(quoted(result) + " is no " + what + ": letters, digits, '_' and '-' only");
     }
     return result;
 }
@@ -133,13 +159,15 @@ void line_reader::fail(const std::string& reason) const {
 }
 
 std::string quoted(const std::string& text) {
-    std::string result = text.substr(0, longest_quote);
-    for (char& c : result) {
-        if (c < ' ' || c > '~') {
-            c = '?';
-        }
+    const std::string shown = first_characters(text, longest_quote);
+    std::string result;
+    for (std::string_view rest = shown; !rest.empty();) {
+        const std::size_t size = first_character_size(rest);
+        const std::string_view character = rest.substr(0, std::max<std::size_t>(size, 1));
+        result += size > 0 && is_printable(character) ? character : "?";
+        rest.remove_prefix(character.size());
     }
-    return "'" + result + (text.size() > longest_quote ? "..." : "") + "'";
+    return "'" + result + (text.size() > shown.size() ? "..." : "") + "'";
 }
 
 } // namespace ox_examples

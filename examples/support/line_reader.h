@@ -21,7 +21,7 @@ public:
     /// The next word, which `what` names in the message when there is none.
     std::string word(const std::string& what);
 
-    /// A name: letters, digits, `_` and `-`.
+    /// A name: letters of any alphabet in UTF-8, digits, `_` and `-`.
     std::string name(const std::string& what);
 
     /// The word `expected` and nothing else.
@@ -59,7 +59,7 @@ private:
     std::istringstream words;
 };
 
-/// `text` for a message: in quotes, with what cannot be printed replaced and cut to a line.
+/// `text` for a message: in quotes, with what cannot be printed replaced, and cut to a line.
 std::string quoted(const std::string& text);
 
 } // namespace ox_examples

@@ -20,6 +20,11 @@ namespace {
     throw std::runtime_error("off-screen OpenGL: " + what);
 }
 
+[[noreturn]] void fail_without_driver(const std::string& what) {
+    throw no_driver("off-screen OpenGL: " + what +
+                    "; install a software driver (Debian: libgl1-mesa-dri)");
+}
+
 /// The software driver's display. It is opened once and stays open until the process ends: drivers
 /// do not all survive being closed and opened again.
 EGLDisplay open_display() {
@@ -27,7 +32,7 @@ EGLDisplay open_display() {
         const EGLDisplay display =
             eglGetPlatformDisplay(EGL_PLATFORM_SURFACELESS_MESA, EGL_DEFAULT_DISPLAY, nullptr);
         if (display == EGL_NO_DISPLAY || eglInitialize(display, nullptr, nullptr) == EGL_FALSE) {
-            fail("no display without a surface");
+            fail_without_driver("no display without a surface");
         }
         return display;
     }();
@@ -36,20 +41,20 @@ EGLDisplay open_display() {
 
 EGLContext create_context(EGLDisplay display) {
     if (eglBindAPI(EGL_OPENGL_API) == EGL_FALSE) {
-        fail("the driver offers no desktop OpenGL");
+        fail_without_driver("the driver offers no desktop OpenGL");
     }
     const EGLint wanted[] = {EGL_SURFACE_TYPE, EGL_PBUFFER_BIT, EGL_RENDERABLE_TYPE, EGL_OPENGL_BIT,
                              EGL_NONE};
     EGLConfig config = nullptr;
     EGLint count = 0;
     if (eglChooseConfig(display, wanted, &config, 1, &count) == EGL_FALSE || count < 1) {
-        fail("no configuration for desktop OpenGL");
+        fail_without_driver("no configuration for desktop OpenGL");
     }
     const EGLint profile[] = {EGL_CONTEXT_OPENGL_PROFILE_MASK,
                               EGL_CONTEXT_OPENGL_COMPATIBILITY_PROFILE_BIT, EGL_NONE};
     const EGLContext context = eglCreateContext(display, config, EGL_NO_CONTEXT, profile);
     if (context == EGL_NO_CONTEXT) {
-        fail("no context with the compatibility profile");
+        fail_without_driver("no context with the compatibility profile");
     }
     return context;
 }

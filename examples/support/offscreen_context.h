@@ -4,8 +4,15 @@
 #include <examples/support/image.h>
 
 #include <memory>
+#include <stdexcept>
 
 namespace ox_examples {
+
+/// There is nothing on this machine that draws; tells which package would.
+class no_driver : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
 
 /// An OpenGL context without a window or a screen, for drawing into memory.
 ///
@@ -25,8 +32,8 @@ class offscreen_context {
 public:
     /// Makes the context current with buffers of `width` by `height` pixels. With `samples` above 1
     /// the buffers are multisampled (4 is what the software driver offers) and `read_pixels`
-    /// averages the samples. Throws `std::runtime_error` when a size is not positive, when there is
-    /// no EGL or no driver, or when the driver refuses the buffers.
+    /// averages the samples. Throws `no_driver` when there is no desktop OpenGL, and another
+    /// `std::runtime_error` when a size is not positive or the driver refuses the buffers.
     offscreen_context(int width, int height, int samples = 0);
 
     /// Releases the buffers and the context; no context is current afterwards if this one was.

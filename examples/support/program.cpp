@@ -1,29 +1,51 @@
 #include <examples/support/program.h>
 
-#include <examples/support/description_file.h>
+#include <examples/support/input_file.h>
 
 #include <ox/core/ox_log.h>
 
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <exception>
-#include <stdexcept>
 
 namespace ox_examples {
 
-int run_program(const char* usage, const std::function<int()>& work) {
-    ox_log_set(false);
+namespace {
+
+/// Reads the command line and does the work; tells what goes wrong.
+int outcome(CLI::App& line, int argc, char** argv, const std::function<int()>& work) {
     try {
+        line.parse(argc, argv);
         return work();
-    } catch (const std::invalid_argument& error) {
-        std::fprintf(stderr, "%s\nusage: %s\n", error.what(), usage);
-        return refused;
-    } catch (const description_error& error) {
+    } catch (const CLI::ParseError& error) { // also thrown by --help and --version
+        return line.exit(error) == 0 ? all_well : refused;
+    } catch (const input_error& error) {
         std::fprintf(stderr, "%s\n", error.what());
         return refused;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());
         return failed;
     }
+}
+
+/// Writes out what standard output still holds. True unless something of it was lost.
+bool flush_output() {
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) {
+        return true;
+    }
+    std::fprintf(stderr, "standard output cannot be written: %s\n", std::strerror(errno));
+    return false;
+}
+
+} // namespace
+
+int run_program(CLI::App& line, int argc, char** argv, const std::function<int()>& work) {
+    ox_log_set(false);
+    line.set_version_flag("--version", line.get_name() + " " + OX_EXAMPLES_VERSION,
+                          "Print the version and exit");
+    const int status = outcome(line, argc, argv, work);
+    return flush_output() ? status : failed;
 }
 
 } // namespace ox_examples

@@ -1,21 +1,27 @@
 #ifndef OX_EXAMPLES_SUPPORT_PROGRAM_H
 #define OX_EXAMPLES_SUPPORT_PROGRAM_H
 
+#include <CLI/CLI.hpp>
+
 #include <functional>
 
 namespace ox_examples {
 
-/// The exit statuses that programs with a description share.
+/// The exit statuses of all programs.
 enum exit_status {
     all_well = 0,
-    failed = 1, ///< files cannot be written, or the work cannot be done
-    refused = 2 ///< the description or the command line is wrong
+    failed = 1,   ///< files or pictures cannot be made, or the work cannot be done
+    refused = 2,  ///< the command line or an input file is wrong
+    off = 3,      ///< the files are written, but what was computed does not add up
+    stopped = 130 ///< Ctrl-C ended the work early; what shells expect then
 };
 
-/// Runs a program to its exit status, with the library's log switched off: the working folder stays
-/// as it is. What `work` throws is told on standard error: a `description_error` is refused, a
-/// `std::invalid_argument` as well, with the `usage` after it; everything else has failed.
-int run_program(const char* usage, const std::function<int()>& work);
+/// Runs a program to its exit status: reads the command line into what was declared with `line`,
+/// answers `--help` and `--version`, and does the `work`, with the library's log switched off, so
+/// that the working folder stays as it is. What is thrown is told on standard error: a
+/// `CLI::ParseError` and an `input_error` are refused, everything else has failed, and so has
+/// standard output that cannot be written.
+int run_program(CLI::App& line, int argc, char** argv, const std::function<int()>& work);
 
 } // namespace ox_examples
 

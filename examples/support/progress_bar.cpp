@@ -1,5 +1,7 @@
 #include <examples/support/progress_bar.h>
 
+#include <examples/support/utf8.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -69,9 +71,8 @@ std::string bar_line(double fraction, const std::string& label, int columns) {
     }
     std::string bar(static_cast<std::size_t>(bar_width), ' ');
     std::fill_n(bar.begin(), static_cast<int>(fraction * bar_width), '#');
-    std::string name = label.substr(0, static_cast<std::size_t>(label_width));
-    name.resize(static_cast<std::size_t>(label_width), ' ');
-    return "[" + bar + "] " + percent + " " + name;
+    const auto width = static_cast<std::size_t>(label_width);
+    return "[" + bar + "] " + percent + " " + padded(first_characters(label, width), width);
 }
 
 progress_bar::progress_bar() : terminal(is_terminal()) {}

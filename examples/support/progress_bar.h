@@ -17,7 +17,7 @@ public:
     progress_bar(const progress_bar&) = delete;
     progress_bar& operator=(const progress_bar&) = delete;
 
-    /// Shows `fraction` (0 to 1; taken to the nearer end outside) and what is being done, in ASCII.
+    /// Shows `fraction` (0 to 1; taken to the nearer end outside) and what is being done, in UTF-8.
     void show(double fraction, const std::string& label);
 
     /// Takes the bar away; nothing happens when there is none.

@@ -1,14 +1,25 @@
 // Reads a table of delimited text, tells what was found in it, writes it back and reads it again.
-#include <ox/core/ox_log.h>
+#include <examples/support/input_file.h>
+#include <examples/support/program.h>
+
 #include <ox/io/ox_csv.h>
 
 #include <cstdio>
+#include <stdexcept>
 #include <string>
 
 namespace {
 
-/// The process's exit status.
-enum status { all_well = 0, refused = 1, differs = 2 };
+/// What the command line asks for.
+struct arguments {
+    std::string table;
+    std::string copy;
+};
+
+void declare(CLI::App& line, arguments& wanted) {
+    line.add_option("TABLE", wanted.table, "the table to read")->required()->type_name("");
+    line.add_option("COPY", wanted.copy, "the file to write it to")->required()->type_name("");
+}
 
 constexpr int shown_rows = 3;
 
@@ -65,27 +76,37 @@ bool same_tables(ox::ox_csv& a, ox::ox_csv& b) {
     return same;
 }
 
+/// Writes the table to a plain file: another one, such as a device, could not be read again.
+void write(ox::ox_csv& table, const std::string& path) {
+    const bool written = table.write_file(path);
+    const std::string obstacle = ox_examples::obstacle_to_reading(path);
+    if (!obstacle.empty() || !written) {
+        throw std::runtime_error(path + ": cannot be written" +
+                                 (obstacle.empty() ? "" : ": " + obstacle));
+    }
+}
+
+ox_examples::exit_status run(const arguments& wanted) {
+    ox_examples::require_readable(wanted.table);
+    ox::ox_csv table;
+    if (!table.read_file(wanted.table)) {
+        throw ox_examples::input_error(wanted.table + ": cannot be read");
+    }
+    show(table);
+    write(table, wanted.copy);
+    ox::ox_csv copy;
+    copy.read_file(wanted.copy);
+    const bool same = same_tables(table, copy);
+    std::printf("read again: %s\n", same ? "the same cells" : "DIFFERENT cells");
+    return same ? ox_examples::all_well : ox_examples::off;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3) {
-        std::fprintf(stderr, "usage: %s TABLE COPY\n", argv[0]);
-        return refused;
-    }
-    ox_log_set(false);
-    ox::ox_csv table;
-    if (!table.read_file(argv[1])) {
-        std::fprintf(stderr, "%s: cannot be read\n", argv[1]);
-        return refused;
-    }
-    show(table);
-    if (!table.write_file(argv[2])) {
-        std::fprintf(stderr, "%s: cannot be written\n", argv[2]);
-        return refused;
-    }
-    ox::ox_csv copy;
-    copy.read_file(argv[2]);
-    const bool same = same_tables(table, copy);
-    std::printf("read again: %s\n", same ? "the same cells" : "DIFFERENT cells");
-    return same ? all_well : differs;
+    CLI::App line("Reads a table of delimited text, writes a copy and compares the two.",
+                  "ox_table");
+    arguments wanted;
+    declare(line, wanted);
+    return ox_examples::run_program(line, argc, argv, [&] { return run(wanted); });
 }

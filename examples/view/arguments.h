@@ -1,7 +1,10 @@
 #ifndef OX_EXAMPLES_VIEW_ARGUMENTS_H
 #define OX_EXAMPLES_VIEW_ARGUMENTS_H
 
+#include <examples/support/command_line.h>
+
 #include <string>
+#include <utility>
 
 namespace view {
 
@@ -13,13 +16,12 @@ constexpr int picture_height = 800;
 struct arguments {
     std::string description;
     std::string folder = "."; ///< for the pictures
-    float pick_x = 792;       ///< beside a window of the house in building/descriptions
-    float pick_y = 571;
+    /// A pixel beside a window of the house in building/descriptions.
+    std::pair<float, float> pick = {792.0f, 571.0f};
 };
 
-/// Reads `DESCRIPTION [--pick X Y] [--out DIR]`. Throws `std::invalid_argument` with the reason
-/// when the command line is something else.
-arguments parse(int argc, char** argv);
+/// Declares the command line `DESCRIPTION [--pick X Y] [--out FOLDER]`, which changes `wanted`.
+void declare(CLI::App& line, arguments& wanted);
 
 } // namespace view
 

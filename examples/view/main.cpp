@@ -6,7 +6,7 @@
 
 #include <examples/building/drawing.h>
 #include <examples/support/output_folder.h>
-#include <examples/support/png_file.h>
+#include <examples/support/pictures.h>
 #include <examples/support/program.h>
 #include <examples/support/progress.h>
 
@@ -30,7 +30,7 @@ void print(const char* what, const ox::ox_3dvector& v) {
 /// Picks the point of the building that the pixel shows.
 ox::ox_3dvector pick(std::vector<element>& elements, ox::ox_camera& camera,
                      const view::arguments& wanted) {
-    const ox::ox_3dvector ray = camera.get_ray_direction(wanted.pick_x, wanted.pick_y);
+    const ox::ox_3dvector ray = camera.get_ray_direction(wanted.pick.first, wanted.pick.second);
     const auto found = view::first_hit(elements, camera.get_position(), ray);
     if (!found) {
         throw std::runtime_error("the ray through the pixel misses the building");
@@ -38,7 +38,7 @@ ox::ox_3dvector pick(std::vector<element>& elements, ox::ox_camera& camera,
     print("eye", camera.get_position());
     std::printf("\n");
     print("ray", ray);
-    std::printf("   through pixel %g %g\n", double{wanted.pick_x}, double{wanted.pick_y});
+    std::printf("   through pixel %g %g\n", double{wanted.pick.first}, double{wanted.pick.second});
     print("picked", found->point);
     std::printf("   %s\n", found->name.c_str());
     return found->point;
@@ -56,15 +56,15 @@ view::marks snap(std::vector<element>& elements, const ox::ox_3dvector& picked) 
     return m;
 }
 
-void write_picture(ox_examples::output_folder& folder, std::vector<element>& elements,
-                   view::station& s, const view::marks& m) {
+void add_picture(ox_examples::pictures& pictures, std::vector<element>& elements, view::station& s,
+                 const view::marks& m) {
     float x = 0;
     float y = 0;
     s.camera.get_projection(m.snapped, x, y);
     const bool visible = view::is_visible(elements, s.camera.get_position(), m.snapped);
     std::printf("%-10s snapped point at pixel %.1f %.1f, %s\n", s.name.c_str(), double{x},
                 double{y}, visible ? "visible" : "hidden");
-    ox_examples::write_png(folder.add(s.name + ".png"), view::draw_station(elements, s, m));
+    pictures.add(s.name + ".png", [&] { return view::draw_station(elements, s, m); });
 }
 
 std::vector<element> assemble(const building::description& d) {
@@ -72,24 +72,26 @@ std::vector<element> assemble(const building::description& d) {
     return building::assemble(d, steps);
 }
 
-void run(const view::arguments& wanted) {
+ox_examples::exit_status run(const view::arguments& wanted) {
     const building::description d = building::read_description(wanted.description);
     std::vector<element> elements = assemble(d);
     ox::ox_camera camera = view::first_camera(building::bounding_box(elements));
     const view::marks m = snap(elements, pick(elements, camera, wanted));
 
     ox_examples::output_folder folder(wanted.folder, d.name);
+    ox_examples::pictures pictures(folder);
     for (view::station& s : view::tour(camera, m.snapped)) {
-        write_picture(folder, elements, s, m);
+        add_picture(pictures, elements, s, m);
     }
     folder.publish();
+    return pictures.complete() ? ox_examples::all_well : ox_examples::failed;
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    return ox_examples::run_program("ox_view DESCRIPTION [--pick X Y] [--out DIR]", [&] {
-        run(view::parse(argc, argv));
-        return ox_examples::all_well;
-    });
+    CLI::App line("Takes a camera around a building, and picks and snaps a point.", "ox_view");
+    view::arguments wanted;
+    view::declare(line, wanted);
+    return ox_examples::run_program(line, argc, argv, [&] { return run(wanted); });
 }

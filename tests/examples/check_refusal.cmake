@@ -1,8 +1,8 @@
 # A description that must be refused as `DESCRIPTION:LINE: REASON`, without any output and with the
-# exit status STATUS (1).
+# exit status STATUS (2).
 include("${CMAKE_CURRENT_LIST_DIR}/run_building.cmake")
 if(NOT DEFINED STATUS)
-  set(STATUS 1)
+  set(STATUS 2)
 endif()
 require_status(${STATUS})
 

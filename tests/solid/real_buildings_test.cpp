@@ -1,18 +1,15 @@
-// About 200 surveyed buildings with the small faults that such data has: nearly planar faces,
-// slivers, repeated points, open shells. The file is not part of the project; its path is taken
-// from OX_BUILDINGS_FILE or expected beside the source tree.
+// The surveyed buildings of tests/data, with the small faults that such data has: nearly planar
+// faces, slivers, repeated points, open shells.
 
 #include <cmath>
-#include <cstdlib>
-#include <fstream>
 #include <iostream>
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 #include <ox/solid/ox_solid.h>
+#include <tests/support/buildings.h>
 #include <tests/support/measures.h>
 #include <tests/support/random_shapes.h>
 
@@ -25,75 +22,23 @@ using ox::ox_polygon;
 using ox::ox_solid;
 using support::point;
 
-/// Corners of one building nearer than this are the same corner (metres): its faces are only
-/// nearly planar, and each is flattened by itself.
-constexpr double survey_tolerance = 0.02;
-
-struct building {
+/// A surveyed building as a solid.
+struct built_solid {
     std::string kind;
     std::string name;
     ox_solid solid;
 };
 
-std::string buildings_path() {
-    const char* given = std::getenv("OX_BUILDINGS_FILE");
-    return given != nullptr ? given : OX_SOURCE_DIR "/../shared/data/buildings.txt";
-}
-
-/// "N x y z x y z ...", as in the rest of a ring line.
-ox_list<ox_3dvector> read_ring(std::istream& line) {
-    int count = 0;
-    line >> count;
-    ox_list<ox_3dvector> ring;
-    ox_3dvector vertex;
-    while (count-- > 0 && line >> vertex.x >> vertex.y >> vertex.z) {
-        ring.push_right(vertex);
-    }
-    return ring;
-}
-
-/// Every `face` line opens a polygon, its `ring` lines fill it, and the next line that is no
-/// ring puts it into the solid of the last `building` line.
-std::vector<building> read_buildings(std::istream& file) {
-    std::vector<building> buildings;
-    ox_polygon face;
-    const auto finish_face = [&] {
-        if (!buildings.empty()) {
-            buildings.back().solid.add_face(face);
-        }
-        face = ox_polygon();
-    };
-    std::string text;
-    while (std::getline(file, text)) {
-        std::istringstream line(text);
-        std::string word;
-        line >> word;
-        if (word == "ring") {
-            face.add_contour(read_ring(line));
-            continue;
-        }
-        finish_face();
-        if (word == "building") {
-            buildings.emplace_back();
-            line >> buildings.back().kind >> buildings.back().name;
-        }
-    }
-    finish_face();
-    return buildings;
-}
-
 class RealBuildings : public ::testing::Test {
 protected:
     void SetUp() override {
-        std::ifstream file(buildings_path());
-        if (!file) {
-            GTEST_SKIP() << "no buildings at " << buildings_path();
+        for (const support::building& surveyed : support::read_surveyed_buildings()) {
+            buildings.push_back({surveyed.kind, surveyed.name, support::flattened_solid(surveyed)});
         }
-        buildings = read_buildings(file);
         ASSERT_FALSE(buildings.empty());
     }
 
-    std::vector<building> buildings;
+    std::vector<built_solid> buildings;
 };
 
 ox_3dvector centre_of(ox_solid& solid) {
@@ -120,7 +65,7 @@ ox_solid brick_inside(ox_solid& solid) {
 }
 
 TEST_F(RealBuildings, EveryFaceBecomesAFiniteSolidOfPositiveSize) {
-    for (building& b : buildings) {
+    for (built_solid& b : buildings) {
         EXPECT_GT(b.solid.get_faces().size(), 0) << b.name;
         EXPECT_GT(support::measure_solid(b.solid).area, 1.0) << b.name;
         expect_finite(b.solid, b.name);
@@ -128,7 +73,7 @@ TEST_F(RealBuildings, EveryFaceBecomesAFiniteSolidOfPositiveSize) {
 }
 
 TEST_F(RealBuildings, HorizontalSectionsAreFiniteAndNoLargerThanTheBox) {
-    for (building& b : buildings) {
+    for (built_solid& b : buildings) {
         const ox_box box = b.solid.get_bounding_box();
         for (float part = 0.1f; part < 1.0f; part += 0.2f) {
             const ox_3dvector at = box.origin + box.size * part;
@@ -145,7 +90,7 @@ TEST_F(RealBuildings, HorizontalSectionsAreFiniteAndNoLargerThanTheBox) {
 TEST_F(RealBuildings, ClippedHalvesMakeUpMostClosedBuildings) {
     int closed = 0;
     int sums_up = 0;
-    for (building& b : buildings) {
+    for (built_solid& b : buildings) {
         const ox_3dvector middle = centre_of(b.solid);
         ox_3dvector normal(0.3f, 0.2f, 1.0f);
         normal.normalize();
@@ -155,7 +100,8 @@ TEST_F(RealBuildings, ClippedHalvesMakeUpMostClosedBuildings) {
         above.clip(middle, -normal);
         expect_finite(below, b.name);
         expect_finite(above, b.name);
-        if (b.kind != "Solid" || support::count_open_edges(b.solid, survey_tolerance) > 0) {
+        if (b.kind != "Solid" ||
+            support::count_open_edges(b.solid, support::survey_tolerance) > 0) {
             continue;
         }
         ++closed;
@@ -171,7 +117,7 @@ TEST_F(RealBuildings, ClippedHalvesMakeUpMostClosedBuildings) {
 
 TEST_F(RealBuildings, BooleansWithABrickAreFinite) {
     int laws_hold = 0;
-    for (building& b : buildings) {
+    for (built_solid& b : buildings) {
         ox_solid brick = brick_inside(b.solid);
         ox_solid united = b.solid;
         united.unites(brick);

@@ -41,4 +41,28 @@ TEST(RecordReader, WhatIsWrongIsToldWithItsLine) {
                                                 "b\xFF a"));
 }
 
+TEST(RecordReader, ByteOrderMarkBeforeTheFirstLineIsNotRead) {
+    EXPECT_EQ("a b ", told("\xEF\xBB\xBFsay a\nsay b"));
+    EXPECT_EQ("", told("\xEF\xBB\xBF"));
+    EXPECT_EQ("2: unknown keyword '\xEF\xBB\xBFsay'", told("say a\n\xEF\xBB\xBFsay b"));
+}
+
+TEST(RecordReader, NamesHaveLettersOfAnyAlphabet) {
+    EXPECT_EQ("Größe-北_1 ", told("name Größe-北_1"));
+    EXPECT_EQ("2: duplicate name 'Größe'", told("name Größe\nname Größe"));
+    EXPECT_EQ("1: 'a?b' is no name: letters, digits, '_' and '-' only", told("name a\xC2\x9B"
+                                                                             "b"));
+    EXPECT_EQ("1: 'a?' is no name: letters, digits, '_' and '-' only", told("name a\xC3"));
+}
+
+TEST(RecordReader, LongWordsAreCutBetweenCharacters) {
+    std::string word;
+    std::string shown;
+    for (int i = 0; i < 41; ++i) {
+        word += "ö";
+        shown += i < 40 ? "ö" : "";
+    }
+    EXPECT_EQ("1: unknown keyword '" + shown + "...'", told(word));
+}
+
 } // namespace

@@ -1,5 +1,5 @@
-#ifndef OX_IO_INTERNAL_PLAIN_NUMBERS_H
-#define OX_IO_INTERNAL_PLAIN_NUMBERS_H
+#ifndef OX_INTERNAL_PLAIN_NUMBERS_H
+#define OX_INTERNAL_PLAIN_NUMBERS_H
 
 #if defined(_WIN32)
 #include <string>

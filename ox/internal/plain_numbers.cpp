@@ -1,5 +1,6 @@
+#include <ox/internal/plain_numbers.h>
+
 #include <clocale>
-#include <ox/io/internal/plain_numbers.h>
 
 namespace ox {
 

@@ -1,5 +1,5 @@
-#ifndef OX_SOLID_INTERNAL_POINT_GRID_H
-#define OX_SOLID_INTERNAL_POINT_GRID_H
+#ifndef OX_SOLID_INTERNAL_SEARCH_POINT_GRID_H
+#define OX_SOLID_INTERNAL_SEARCH_POINT_GRID_H
 
 #include <cstddef>
 #include <cstdint>
@@ -7,7 +7,7 @@
 
 #include <ox/geometry/ox_3dvector.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// Finds which of many points lie near another: they are kept in the cells of a grid, in a hash
 /// table by cell. Points in one cell may be far apart, and hashes collide: what is found are
@@ -60,6 +60,6 @@ void point_grid::visit_near(const ox_3dvector& p, Visitor visit) const {
     }
 }
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -1,12 +1,13 @@
+#include <ox/solid/internal/search/face_bounds.h>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
 
 #include <ox/internal/vectors.h>
-#include <ox/solid/internal/face_bounds.h>
 #include <ox/solid/internal/tolerances.h>
 
-namespace ox {
+namespace ox::internal {
 
 namespace {
 
@@ -106,4 +107,4 @@ bool face_bounds::surely_uncrossed_by(const ox_3dvector& point, const ox_3dvecto
     return highest_distance + margin < border || lowest - margin >= border;
 }
 
-} // namespace ox
+} // namespace ox::internal

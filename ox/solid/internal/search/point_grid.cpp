@@ -1,13 +1,14 @@
+#include <ox/solid/internal/search/point_grid.h>
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <numeric>
 
 #include <ox/internal/vectors.h>
-#include <ox/solid/internal/point_grid.h>
 #include <ox/solid/internal/tolerances.h>
 
-namespace ox {
+namespace ox::internal {
 
 namespace {
 
@@ -92,4 +93,4 @@ point_grid::cell_hashes point_grid::cells_around(const ox_3dvector& p, double di
     return hashes;
 }
 
-} // namespace ox
+} // namespace ox::internal

@@ -1,13 +1,13 @@
-#ifndef OX_SOLID_INTERNAL_PLANE_INDEX_H
-#define OX_SOLID_INTERNAL_PLANE_INDEX_H
+#ifndef OX_SOLID_INTERNAL_SEARCH_PLANE_INDEX_H
+#define OX_SOLID_INTERNAL_SEARCH_PLANE_INDEX_H
 
 #include <cstddef>
 #include <vector>
 
 #include <ox/geometry/ox_3dvector.h>
-#include <ox/solid/internal/point_grid.h>
+#include <ox/solid/internal/search/point_grid.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// The plane of a face.
 struct face_plane {
@@ -48,6 +48,6 @@ private:
     point_grid normals;
 };
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -1,13 +1,14 @@
+#include <ox/solid/internal/search/plane_index.h>
+
 #include <algorithm>
 #include <cmath>
 #include <numeric>
 #include <tuple>
 
 #include <ox/internal/vectors.h>
-#include <ox/solid/internal/plane_index.h>
 #include <ox/solid/internal/tolerances.h>
 
-namespace ox {
+namespace ox::internal {
 
 namespace {
 
@@ -75,4 +76,4 @@ std::vector<std::size_t> plane_index::find_later(std::size_t i) const {
     return found;
 }
 
-} // namespace ox
+} // namespace ox::internal

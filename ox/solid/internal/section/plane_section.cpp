@@ -8,15 +8,16 @@
 // 3. Segments are joined end to start into chains.
 // 4. The chains, closed or not, are the contours of the section.
 
+#include <ox/solid/internal/section/plane_section.h>
+
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <vector>
 
-#include <ox/solid/internal/plane_section.h>
-#include <ox/solid/internal/section_chains.h>
+#include <ox/solid/internal/section/section_chains.h>
 
-namespace ox {
+namespace ox::internal {
 
 namespace {
 
@@ -162,4 +163,4 @@ std::unique_ptr<ox_polygon> plane_section(const ox_list<ox_polygon*>& faces, con
     return section;
 }
 
-} // namespace ox
+} // namespace ox::internal

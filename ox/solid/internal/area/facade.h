@@ -1,9 +1,9 @@
-#ifndef OX_SOLID_INTERNAL_FACADE_H
-#define OX_SOLID_INTERNAL_FACADE_H
+#ifndef OX_SOLID_INTERNAL_AREA_FACADE_H
+#define OX_SOLID_INTERNAL_AREA_FACADE_H
 
 #include <ox/polygon/ox_polygon.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// True only if the polygon is a facade, one outline of a few sides with rectangular holes, any
 /// two vertices and any two contours of which are some distance apart, and the areas of its
@@ -11,6 +11,6 @@ namespace ox {
 /// O(n log n) for n vertices.
 bool is_facade_with_area(ox_polygon& polygon);
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -1,9 +1,9 @@
-#ifndef OX_SOLID_INTERNAL_AREA_BOUND_H
-#define OX_SOLID_INTERNAL_AREA_BOUND_H
+#ifndef OX_SOLID_INTERNAL_AREA_AREA_BOUND_H
+#define OX_SOLID_INTERNAL_AREA_AREA_BOUND_H
 
 #include <ox/polygon/ox_polygon.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// True only if `polygon.get_area()` is above `area` (squared model units), told from the contours
 /// without making triangles; false tells nothing. It is true for the common cases: a first
@@ -12,6 +12,6 @@ namespace ox {
 /// apart. O(n log n) for n vertices.
 bool is_area_surely_above(ox_polygon& polygon, float area);
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -1,14 +1,14 @@
-#ifndef OX_SOLID_INTERNAL_PLANE_SECTION_H
-#define OX_SOLID_INTERNAL_PLANE_SECTION_H
+#ifndef OX_SOLID_INTERNAL_SECTION_PLANE_SECTION_H
+#define OX_SOLID_INTERNAL_SECTION_PLANE_SECTION_H
 
 #include <memory>
 
 #include <ox/core/ox_list.h>
 #include <ox/geometry/ox_3dvector.h>
 #include <ox/polygon/ox_polygon.h>
-#include <ox/solid/internal/face_tree.h>
+#include <ox/solid/internal/search/face_tree.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// The region of the plane through `point` with `normal` that lies inside the solid bounded by
 /// `faces`, as a polygon in that plane; none when the plane meets no face. A vertex no farther than
@@ -18,6 +18,6 @@ std::unique_ptr<ox_polygon> plane_section(const ox_list<ox_polygon*>& faces, con
                                           const ox_3dvector& point, const ox_3dvector& normal,
                                           float tolerance);
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -1,14 +1,15 @@
+#include <ox/solid/internal/area/area_bound.h>
+
 #include <algorithm>
 #include <cmath>
 
 #include <ox/core/ox_list.h>
-#include <ox/solid/internal/area_bound.h>
-#include <ox/solid/internal/facade.h>
-#include <ox/solid/internal/face_bounds.h>
-#include <ox/solid/internal/kept_axes.h>
+#include <ox/solid/internal/area/facade.h>
+#include <ox/solid/internal/area/kept_axes.h>
+#include <ox/solid/internal/search/face_bounds.h>
 #include <ox/solid/internal/tolerances.h>
 
-namespace ox {
+namespace ox::internal {
 
 namespace {
 
@@ -82,4 +83,4 @@ bool is_area_surely_above(ox_polygon& polygon, float area) {
            (area <= largest_facade_limit && is_facade_with_area(polygon));
 }
 
-} // namespace ox
+} // namespace ox::internal

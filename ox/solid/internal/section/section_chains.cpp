@@ -1,10 +1,11 @@
+#include <ox/solid/internal/section/section_chains.h>
+
 #include <cstddef>
 
-#include <ox/solid/internal/point_grid.h>
-#include <ox/solid/internal/section_chains.h>
+#include <ox/solid/internal/search/point_grid.h>
 #include <ox/solid/internal/tolerances.h>
 
-namespace ox {
+namespace ox::internal {
 
 namespace {
 
@@ -110,4 +111,4 @@ ox_list<ox_3dvector> list_points(const std::vector<section_segment>& segments, s
     return points;
 }
 
-} // namespace ox
+} // namespace ox::internal

@@ -1,11 +1,11 @@
-#ifndef OX_SOLID_INTERNAL_FACE_BOUNDS_H
-#define OX_SOLID_INTERNAL_FACE_BOUNDS_H
+#ifndef OX_SOLID_INTERNAL_SEARCH_FACE_BOUNDS_H
+#define OX_SOLID_INTERNAL_SEARCH_FACE_BOUNDS_H
 
 #include <ox/geometry/ox_3dvector.h>
 #include <ox/geometry/ox_box.h>
 #include <ox/polygon/ox_polygon.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// The very extremes of a set of points on each axis, without the roundings that an `ox_box` picks
 /// up, for rejections that must never be wrong: each `surely_...` test leaves room for all
@@ -56,6 +56,6 @@ struct face_bounds {
                              float tolerance) const;
 };
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -1,15 +1,14 @@
+#include <ox/solid/ox_solid.h>
+
 #include <algorithm>
-#include <cmath>
-#include <memory>
 
 #include <ox/solid/internal/ox_solid_state.h>
-#include <ox/solid/ox_solid.h>
 
 namespace ox {
 
-namespace {
+using namespace internal;
 
-// Clipping
+namespace {
 
 /// How many vertices lie on either side of a plane, beyond the tolerance.
 struct side_counts {
@@ -20,7 +19,7 @@ struct side_counts {
 side_counts count_sides(const ox_solid_state& state, const ox_3dvector& point,
                         const ox_3dvector& normal) {
     side_counts counts;
-    for (const ox_3dvector& vertex : state.vertices) {
+    for (const ox_3dvector& vertex : state.storage.vertices) {
         const float distance = ox_dot(vertex - point, normal);
         counts.above += distance > state.tolerance ? 1 : 0;
         counts.below += distance < -state.tolerance ? 1 : 0;
@@ -56,7 +55,7 @@ void build_clipping_brick(const ox_solid_state& state, const ox_3dvector& point,
     extent along_u;
     extent along_w;
     float height = 0.0f;
-    for (const ox_3dvector& vertex : state.vertices) {
+    for (const ox_3dvector& vertex : state.storage.vertices) {
         const ox_3dvector difference = vertex - point;
         along_u.enlarge(ox_dot(difference, u));
         along_w.enlarge(ox_dot(difference, w));
@@ -85,16 +84,6 @@ void ox_solid::clip(const ox_3dvector& point, const ox_3dvector& normal) {
     ox_solid brick;
     build_clipping_brick(*state, point, normal, brick);
     substracts(brick);
-}
-
-ox_polygon* ox_solid::project_on_plane(const ox_3dvector& point, const ox_3dvector& normal) {
-    auto outline = std::make_unique<ox_polygon>(point, normal);
-    for (ox_polygon* face : get_faces()) {
-        if (std::fabs(ox_dot(face->get_normal(), normal)) >= edge_on_cosine) {
-            outline->unites(*face);
-        }
-    }
-    return outline.release();
 }
 
 } // namespace ox

@@ -1,9 +1,9 @@
+#include <ox/solid/internal/search/face_tree.h>
+
 #include <algorithm>
 #include <cstddef>
 
-#include <ox/solid/internal/face_tree.h>
-
-namespace ox {
+namespace ox::internal {
 
 namespace {
 
@@ -108,4 +108,4 @@ std::vector<int> face_tree::find_faces_at(const ox_3dvector& point, const ox_3dv
     return found;
 }
 
-} // namespace ox
+} // namespace ox::internal

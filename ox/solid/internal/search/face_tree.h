@@ -1,12 +1,12 @@
-#ifndef OX_SOLID_INTERNAL_FACE_TREE_H
-#define OX_SOLID_INTERNAL_FACE_TREE_H
+#ifndef OX_SOLID_INTERNAL_SEARCH_FACE_TREE_H
+#define OX_SOLID_INTERNAL_SEARCH_FACE_TREE_H
 
 #include <vector>
 
 #include <ox/geometry/ox_3dvector.h>
-#include <ox/solid/internal/face_bounds.h>
+#include <ox/solid/internal/search/face_bounds.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// A bounding-volume hierarchy over the faces of a solid: finds those that a plane may cross
 /// without looking at the others. Knows the faces by their number, and their bounds.
@@ -40,6 +40,6 @@ private:
     std::vector<node> nodes;        // depth first
 };
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

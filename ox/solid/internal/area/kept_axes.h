@@ -1,14 +1,14 @@
-#ifndef OX_SOLID_INTERNAL_KEPT_AXES_H
-#define OX_SOLID_INTERNAL_KEPT_AXES_H
+#ifndef OX_SOLID_INTERNAL_AREA_KEPT_AXES_H
+#define OX_SOLID_INTERNAL_AREA_KEPT_AXES_H
 
 #include <algorithm>
 #include <cmath>
 
 #include <ox/geometry/ox_3dvector.h>
-#include <ox/solid/internal/face_bounds.h>
+#include <ox/solid/internal/search/face_bounds.h>
 #include <ox/solid/internal/tolerances.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// The axes that the tessellator surely keeps when it flattens a polygon: it drops the one on
 /// which the normal is longest. What lies apart on a kept axis is apart for the tessellator.
@@ -43,6 +43,6 @@ private:
     bool kept[3];
 };
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

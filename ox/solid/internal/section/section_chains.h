@@ -1,5 +1,5 @@
-#ifndef OX_SOLID_INTERNAL_SECTION_CHAINS_H
-#define OX_SOLID_INTERNAL_SECTION_CHAINS_H
+#ifndef OX_SOLID_INTERNAL_SECTION_SECTION_CHAINS_H
+#define OX_SOLID_INTERNAL_SECTION_SECTION_CHAINS_H
 
 #include <cstddef>
 #include <vector>
@@ -7,7 +7,7 @@
 #include <ox/core/ox_list.h>
 #include <ox/geometry/ox_3dvector.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// A segment of a section and, unless it was taken by another, the chain that begins with it:
 /// segments that follow one another.
@@ -34,6 +34,6 @@ void chain_segments(std::vector<section_segment>& segments, float tolerance);
 /// The points of the chain that begins with a segment: both of each of its segments. O(n).
 ox_list<ox_3dvector> list_points(const std::vector<section_segment>& segments, std::size_t first);
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -13,18 +13,19 @@
 // With mostly right corners that makes more corners than there are. So some triangle at a right
 // corner is not flat; and as its sides are not short, its area is well above the limit.
 
+#include <ox/solid/internal/area/facade.h>
+
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <vector>
 
 #include <ox/core/ox_list.h>
-#include <ox/solid/internal/facade.h>
-#include <ox/solid/internal/face_bounds.h>
-#include <ox/solid/internal/kept_axes.h>
+#include <ox/solid/internal/area/kept_axes.h>
+#include <ox/solid/internal/search/face_bounds.h>
 #include <ox/solid/internal/tolerances.h>
 
-namespace ox {
+namespace ox::internal {
 
 namespace {
 
@@ -190,4 +191,4 @@ bool is_facade_with_area(ox_polygon& polygon) {
     return polygon.get_contour_sizes().size() > 1 && facade(polygon).has_area();
 }
 
-} // namespace ox
+} // namespace ox::internal

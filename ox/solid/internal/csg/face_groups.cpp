@@ -5,13 +5,14 @@
 #include <tuple>
 
 #include <ox/solid/internal/csg/edge_register.h>
+#include <ox/solid/internal/csg/plane_growth.h>
 
 namespace ox::internal::csg {
 
 namespace {
 
 /// Part of the tolerance within which pieces of different operands are of one plane.
-constexpr double common_plane_share = 0.1;
+constexpr double common_plane_share = 0.3;
 
 /// Spacings of floats within which the corners of one operand's faces are of one plane.
 constexpr double own_plane_spacings = 4.0;
@@ -36,9 +37,13 @@ public:
 
 private:
     face_group grow_from(int first);
-    bool belongs(const result_piece& piece, const result_piece& first) const;
+    double allowed_deviation(int piece, int first, const std::array<double, 3>& normal) const;
     bool is_thin(const result_piece& piece, double reach) const;
     void visit_neighbours(int piece, std::vector<int>& neighbours) const;
+
+    const result_piece& at(int piece) const {
+        return result.pieces[static_cast<std::size_t>(piece)];
+    }
 
     const result_pieces& result;
     const scene& faces;
@@ -46,6 +51,7 @@ private:
     double own_reach;
     std::vector<piece_edge> edges; // sorted
     std::vector<bool> is_grouped;
+    std::vector<bool> is_narrow; // pieces whose normal says nothing
 };
 
 group_search::group_search(const result_pieces& given, const scene& scene_faces,
@@ -58,18 +64,20 @@ group_search::group_search(const result_pieces& given, const scene& scene_faces,
         for (const directed_edge& edge : result.pieces[i].boundary) {
             edges.push_back({edge, static_cast<int>(i)});
         }
+        is_narrow.push_back(is_thin(result.pieces[i], common_reach));
     }
     std::sort(edges.begin(), edges.end());
 }
 
-/// The pieces with an edge against one of the given piece's.
+/// The pieces not in a group yet with an edge against one of the given piece's.
 void group_search::visit_neighbours(int piece, std::vector<int>& neighbours) const {
-    neighbours.clear();
     for (const directed_edge& edge : result.pieces[static_cast<std::size_t>(piece)].boundary) {
         const directed_edge opposite = {edge[1], edge[0]};
         auto place = std::lower_bound(edges.begin(), edges.end(), piece_edge{opposite, 0});
         for (; place != edges.end() && place->edge == opposite; ++place) {
-            neighbours.push_back(place->piece);
+            if (!is_grouped[static_cast<std::size_t>(place->piece)]) {
+                neighbours.push_back(place->piece);
+            }
         }
     }
 }
@@ -87,40 +95,48 @@ bool group_search::is_thin(const result_piece& piece, double reach) const {
     return own.area * own.area <= reach * reach * longest;
 }
 
-bool group_search::belongs(const result_piece& piece, const result_piece& first) const {
-    if (piece.is_of_face && piece.face == first.face && piece.is_reversed == first.is_reversed) {
-        return true;
+double group_search::allowed_deviation(int piece, int first,
+                                       const std::array<double, 3>& normal) const {
+    const result_piece& candidate = at(piece);
+    const result_piece& beginning = at(first);
+    if (candidate.is_of_face && candidate.face == beginning.face &&
+        candidate.is_reversed == beginning.is_reversed) {
+        return 1e300; // of the same face, wherever its corners were moved to
+    }
+    if (dot(candidate.plane.normal, normal) <= same_way_cosine &&
+        !is_narrow[static_cast<std::size_t>(piece)]) {
+        return -1.0;
     }
     const auto operand_of = [this](const result_piece& p) {
         return faces.faces[static_cast<std::size_t>(p.face)].operand;
     };
-    const double reach = operand_of(piece) == operand_of(first) ? own_reach : common_reach;
-    return deviation_from(first.plane, result.points, piece.boundary) <= reach &&
-           (dot(piece.plane.normal, first.plane.normal) > same_way_cosine || is_thin(piece, reach));
+    return operand_of(candidate) == operand_of(beginning) ? own_reach : common_reach;
 }
 
 face_group group_search::grow_from(int first) {
-    const result_piece& beginning = result.pieces[static_cast<std::size_t>(first)];
+    const auto is_taken = [this](int piece) { return is_grouped[static_cast<std::size_t>(piece)]; };
+    plane_candidates candidates;
+    candidates.points = &result.points;
+    candidates.boundary_of = [this](int piece) -> const face_boundary& {
+        return at(piece).boundary;
+    };
+    candidates.find_neighbours = [this](int piece, std::vector<int>& found) {
+        visit_neighbours(piece, found);
+    };
+    candidates.allowed_deviation = [&](int piece, const std::array<double, 3>& normal) {
+        return is_taken(piece) ? -1.0 : allowed_deviation(piece, first, normal);
+    };
+    candidates.is_reversed = [](int, const std::array<double, 3>&) { return false; };
+    candidates.join = [this](int piece) { is_grouped[static_cast<std::size_t>(piece)] = true; };
     face_group group;
-    group.plane = beginning.plane;
-    group.first_face = beginning.face;
-    group.pieces.push_back(first);
-    is_grouped[static_cast<std::size_t>(first)] = true;
-    std::vector<int> neighbours;
-    for (std::size_t i = 0; i < group.pieces.size(); ++i) {
-        visit_neighbours(group.pieces[i], neighbours);
-        for (const int candidate : neighbours) {
-            const result_piece& piece = result.pieces[static_cast<std::size_t>(candidate)];
-            if (!is_grouped[static_cast<std::size_t>(candidate)] && belongs(piece, beginning)) {
-                is_grouped[static_cast<std::size_t>(candidate)] = true;
-                group.pieces.push_back(candidate);
-                group.first_face = (std::min)(group.first_face, piece.face);
-            }
-        }
-    }
+    group.plane = at(first).plane;
+    candidates.join(first);
+    group.pieces = collect_plane(first, group.plane, common_reach, candidates);
+    group.first_face = at(first).face;
     for (const int piece : group.pieces) {
-        const face_boundary& part = result.pieces[static_cast<std::size_t>(piece)].boundary;
+        const face_boundary& part = at(piece).boundary;
         group.boundary.insert(group.boundary.end(), part.begin(), part.end());
+        group.first_face = (std::min)(group.first_face, at(piece).face);
     }
     cancel_opposites(group.boundary);
     return group;

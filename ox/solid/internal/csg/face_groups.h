@@ -14,9 +14,10 @@ struct face_group {
 };
 
 /// Puts pieces together, the largest planes first: a piece that touches a group along an edge
-/// belongs to it if its corners lie in the plane of the group's first piece. They do so within a
-/// tenth of the tolerance; for another face of the same operand within the spacing of floats, so
-/// that the facets of a fine curve stay. Groups come in the order of their first faces. O(n log n).
+/// belongs to it if its corners lie in the plane of the group (see plane_growth.h). They do so
+/// within three tenths of the tolerance; for another face of the same operand within the spacing of
+/// floats, so that the facets of a fine curve stay. Groups come in the order of their first faces.
+/// O(n log n).
 std::vector<face_group> group_faces(const result_pieces& result, const scene& faces,
                                     const working_grid& grid);
 

@@ -1,7 +1,9 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <vector>
 
+#include <ox/solid/internal/csg/plane_growth.h>
 #include <ox/solid/internal/csg/scene.h>
 
 namespace ox::internal::csg {
@@ -20,7 +22,8 @@ public:
 
 private:
     void grow_from(int first);
-    bool belongs(const scene_face& face, const scene_face& first) const;
+    double allowed_deviation(int face, const std::array<double, 3>& normal) const;
+    scene_face& at(int face) const { return faces.faces[static_cast<std::size_t>(face)]; }
 
     scene& faces;
     double tolerance;
@@ -57,28 +60,35 @@ void cluster_search::run() {
     }
 }
 
-bool cluster_search::belongs(const scene_face& face, const scene_face& first) const {
-    return std::fabs(dot(face.plane.normal, first.plane.normal)) > parallel_cosine &&
-           face.unevenness <= tolerance &&
-           deviation_from(first.plane, faces.points, face.boundary) <= tolerance;
+double cluster_search::allowed_deviation(int face, const std::array<double, 3>& normal) const {
+    const bool is_parallel = std::fabs(dot(at(face).plane.normal, normal)) > parallel_cosine;
+    return is_parallel && at(face).unevenness <= tolerance ? tolerance : -1.0;
 }
 
 void cluster_search::grow_from(int first) {
-    scene_face& beginning = faces.faces[static_cast<std::size_t>(first)];
-    beginning.cluster = first;
-    if (beginning.unevenness > tolerance || beginning.plane.area == 0.0) {
+    at(first).cluster = first;
+    if (at(first).unevenness > tolerance || at(first).plane.area == 0.0) {
         return;
     }
-    std::vector<int> members = {first};
-    for (std::size_t i = 0; i < members.size(); ++i) {
-        tree.visit_meeting(boxes[static_cast<std::size_t>(members[i])], [&](int index) {
-            scene_face& face = faces.faces[static_cast<std::size_t>(index)];
-            if (face.cluster < 0 && belongs(face, beginning)) {
-                face.cluster = first;
-                members.push_back(index);
+    plane_candidates candidates;
+    candidates.points = &faces.points;
+    candidates.boundary_of = [this](int face) -> const face_boundary& { return at(face).boundary; };
+    candidates.find_neighbours = [this](int face, std::vector<int>& found) {
+        tree.visit_meeting(boxes[static_cast<std::size_t>(face)], [&](int other) {
+            if (at(other).cluster < 0) {
+                found.push_back(other);
             }
         });
-    }
+    };
+    candidates.allowed_deviation = [this](int face, const std::array<double, 3>& normal) {
+        return at(face).cluster < 0 ? allowed_deviation(face, normal) : -1.0;
+    };
+    candidates.is_reversed = [this](int face, const std::array<double, 3>& normal) {
+        return dot(at(face).plane.normal, normal) < 0.0;
+    };
+    candidates.join = [this, first](int face) { at(face).cluster = first; };
+    fitted_plane plane = at(first).plane;
+    collect_plane(first, plane, tolerance, candidates);
 }
 
 } // namespace

@@ -16,7 +16,7 @@ namespace {
 constexpr double settling_share = 1.0 / 16.0;
 
 /// Part of the tolerance by which a face may be uneven and still come back as one.
-constexpr double flat_share = 0.1;
+constexpr double flat_share = 0.3;
 
 /// Searches for points beside edges: dividing an edge bends it by less than the reach.
 constexpr int division_rounds = 2;

@@ -56,6 +56,21 @@ std::vector<int> place_points(const shell& placed, point_index& near, scene& all
     return places;
 }
 
+/// The mean of the corners, on the grid.
+grid_point middle_of(const std::vector<grid_point>& points, const face_boundary& boundary) {
+    const grid_point& first = points[static_cast<std::size_t>(boundary.front()[0])];
+    std::array<double, 3> sum = {0.0, 0.0, 0.0};
+    for (const directed_edge& edge : boundary) {
+        const std::array<double, 3> way =
+            difference(first, points[static_cast<std::size_t>(edge[0])]);
+        sum = {sum[0] + way[0], sum[1] + way[1], sum[2] + way[2]};
+    }
+    const double count = static_cast<double>(boundary.size());
+    return working_grid::round({static_cast<double>(first.x) + sum[0] / count,
+                                static_cast<double>(first.y) + sum[1] / count,
+                                static_cast<double>(first.z) + sum[2] / count});
+}
+
 } // namespace
 
 fitted_plane fit_plane(const std::vector<grid_point>& points, const face_boundary& boundary) {
@@ -63,7 +78,7 @@ fitted_plane fit_plane(const std::vector<grid_point>& points, const face_boundar
     if (boundary.empty()) {
         return plane;
     }
-    plane.point = points[static_cast<std::size_t>(boundary.front()[0])];
+    plane.point = middle_of(points, boundary);
     std::array<double, 3> sum = {0.0, 0.0, 0.0};
     for (const directed_edge& edge : boundary) {
         const std::array<double, 3> part =
@@ -86,6 +101,13 @@ double deviation_from(const fitted_plane& plane, const std::vector<grid_point>& 
             std::max(largest, std::fabs(plane.distance(points[static_cast<std::size_t>(edge[0])])));
     }
     return largest;
+}
+
+bool lies_within(const fitted_plane& plane, const std::vector<grid_point>& points,
+                 const face_boundary& boundary, double reach) {
+    return std::all_of(boundary.begin(), boundary.end(), [&](const directed_edge& edge) {
+        return std::fabs(plane.distance(points[static_cast<std::size_t>(edge[0])])) <= reach;
+    });
 }
 
 grid_box box_of_face(const scene& faces, const scene_face& face) {

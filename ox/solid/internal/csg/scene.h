@@ -18,7 +18,7 @@ struct fitted_plane {
     double distance(const grid_point& p) const { return dot(normal, difference(point, p)); }
 };
 
-/// The plane of a face through its first point, by the area that its edges enclose.
+/// The plane of a face through the middle of its corners, by the area that its edges enclose.
 fitted_plane fit_plane(const std::vector<grid_point>& points, const face_boundary& boundary);
 
 /// The largest distance of the corners of a face from a plane.
@@ -34,6 +34,10 @@ struct scene_face {
     int cluster = 0;         ///< faces of one plane have the same number
 };
 
+/// True if the corners of a face lie within `reach` of a plane. The first that does not ends it.
+bool lies_within(const fitted_plane& plane, const std::vector<grid_point>& points,
+                 const face_boundary& boundary, double reach);
+
 /// The shells of all operands, with shared points.
 struct scene {
     std::vector<grid_point> points;
@@ -47,7 +51,8 @@ scene place_shells(const std::vector<shell>& shells, const working_grid& grid);
 
 /// Gives the faces of one plane the same number. The largest face not in a cluster yet begins one;
 /// faces whose boxes touch those of its members belong to it if all their corners lie within the
-/// tolerance of its own plane, so that planes do not drift. O((n + k) log n).
+/// tolerance of its plane, which is fitted to all of its members (see plane_growth.h).
+/// O((n + k) log n).
 void cluster_planes(scene& faces, const working_grid& grid);
 
 /// The box around a face.

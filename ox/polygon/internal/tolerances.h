@@ -1,7 +1,7 @@
 #ifndef OX_POLYGON_INTERNAL_TOLERANCES_H
 #define OX_POLYGON_INTERNAL_TOLERANCES_H
 
-namespace ox {
+namespace ox::internal {
 
 // Lengths of normals
 
@@ -117,6 +117,6 @@ constexpr float parallel_section_cosine = 0.999f;
 /// Model units: boxes this far apart still count as touching.
 constexpr float box_contact_tolerance = 0.0001f;
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -3,7 +3,7 @@
 
 namespace ox::internal {
 
-/// What a boolean operation keeps of two regions or bodies.
+/// What a boolean keeps of two regions, or of two solids.
 enum class boolean_operation { unite, subtract, intersect };
 
 } // namespace ox::internal

@@ -3,8 +3,6 @@
 
 #include <cstdint>
 
-#include <ox/core/ox_export.h>
-
 namespace ox::internal {
 
 /// Who answers what a polygon is asked: the ways that know an answer beforehand, and the libraries.
@@ -19,9 +17,9 @@ enum class answered_by {
     count
 };
 
-/// How often each of them has answered in this thread. Exported for the tests alone: a fast way
-/// that nobody takes any more gives the same answers, and would die unnoticed.
-OX_EXPORT std::uint64_t& answers_of(answered_by who);
+/// How often each of them has answered in this thread, for the tests: a fast way that nobody takes
+/// any more gives the same answers, and would die unnoticed.
+std::uint64_t& answers_of(answered_by who);
 
 } // namespace ox::internal
 

@@ -7,6 +7,11 @@
 #include <ox/polygon/internal/tolerances.h>
 
 namespace ox::internal {
+
+// Everything here relies on the library's wide, planar points.
+static_assert(sizeof(ClipperLib::cInt) == 8, "compiled without use_int32");
+static_assert(sizeof(ClipperLib::IntPoint) == 16, "compiled without use_xyz");
+
 namespace {
 
 // The clipping library, which loses what it has made when an allocation fails while it writes its

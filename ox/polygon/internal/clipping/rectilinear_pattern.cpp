@@ -1,9 +1,8 @@
 #include <ox/polygon/internal/clipping/rectilinear_pattern.h>
 
 #include <algorithm>
-#include <cmath>
-#include <unordered_map>
 
+#include <ox/polygon/internal/answer_memory.h>
 #include <ox/polygon/internal/clipping/contour_tree.h>
 #include <ox/polygon/internal/tolerances.h>
 
@@ -13,27 +12,14 @@ namespace {
 using ClipperLib::cInt;
 using ClipperLib::IntPoint;
 
-// Two rectangles lie in a few hundred ways, and start at any corner.
-constexpr std::size_t most_kept_patterns = 10000;
-
 bool is_level_or_upright(const IntPoint& a, const IntPoint& b) {
     return a.X == b.X || a.Y == b.Y;
 }
 
-struct key_hash {
-    std::size_t operator()(const rectilinear_key& key) const {
-        std::uint64_t result = 14695981039346656037u; // Fowler, Noll and Vo
-        for (const std::uint8_t byte : key) {
-            result = (result ^ byte) * 1099511628211u;
-        }
-        return static_cast<std::size_t>(result);
-    }
-};
+using pattern_memory = answer_memory<rectilinear_key, rectilinear_pattern>;
 
-using pattern_table = std::unordered_map<rectilinear_key, rectilinear_pattern, key_hash>;
-
-pattern_table& kept_patterns() {
-    static thread_local pattern_table kept;
+pattern_memory& kept_patterns() {
+    static thread_local pattern_memory kept;
     return kept;
 }
 
@@ -147,15 +133,12 @@ contour_lists rectilinear_pattern::apply(const plane_frame& plane,
 }
 
 const rectilinear_pattern* find_rectilinear_pattern(const rectilinear_arrangement& arrangement) {
-    const auto found = kept_patterns().find(arrangement.key());
-    return found == kept_patterns().end() ? nullptr : &found->second;
+    return kept_patterns().find(arrangement.key());
 }
 
 void keep_rectilinear_pattern(const rectilinear_arrangement& arrangement,
                               const ClipperLib::PolyTree& tree) {
-    if (kept_patterns().size() < most_kept_patterns) {
-        kept_patterns().emplace(arrangement.key(), rectilinear_pattern(tree, arrangement));
-    }
+    kept_patterns().keep(arrangement.key(), rectilinear_pattern(tree, arrangement));
 }
 
 } // namespace ox::internal

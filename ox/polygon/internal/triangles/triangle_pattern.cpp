@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
-#include <unordered_map>
+#include <utility>
 
+#include <ox/polygon/internal/answer_memory.h>
 #include <ox/polygon/internal/tolerances.h>
 
 namespace ox::internal {
@@ -12,9 +13,6 @@ namespace {
 
 // The tessellator looks for a fan only in so many vertices.
 constexpr std::size_t most_fan_vertices = 100;
-
-// About the L, T and Z shapes of a large model in all positions.
-constexpr std::size_t most_kept_patterns = 10000;
 
 struct wide_vector {
     double x = 0.0;
@@ -116,16 +114,6 @@ swept_vertices sweep(const ox_3dvector* contours, std::size_t size, const ox_3dv
     return sorted;
 }
 
-struct key_hash {
-    std::size_t operator()(const triangle_pattern_key& key) const {
-        constexpr std::uint64_t golden_ratio = 0x9E3779B97F4A7C15u;
-        const std::uint64_t mixed = (key[0] * golden_ratio) ^ key[1];
-        return static_cast<std::size_t>(mixed * golden_ratio >> 20);
-    }
-};
-
-using pattern_table = std::unordered_map<triangle_pattern_key, triangle_pattern, key_hash>;
-
 double extent_of(const sweep_vertex* vertices, std::size_t size) {
     double low = vertices[0].t;
     double high = low;
@@ -173,8 +161,10 @@ bool append_sides(const sweep_vertex* sorted, std::size_t size, double extent, k
     return true;
 }
 
-pattern_table& kept_patterns() {
-    static thread_local pattern_table kept;
+using pattern_memory = answer_memory<triangle_pattern_key, triangle_pattern>;
+
+pattern_memory& kept_patterns() {
+    static thread_local pattern_memory kept;
     return kept;
 }
 
@@ -230,14 +220,11 @@ std::optional<triangle_pattern_key> find_triangle_pattern_key(const ox_3dvector*
 }
 
 const triangle_pattern* find_triangle_pattern(const triangle_pattern_key& key) {
-    const auto found = kept_patterns().find(key);
-    return found == kept_patterns().end() ? nullptr : &found->second;
+    return kept_patterns().find(key);
 }
 
-void keep_triangle_pattern(const triangle_pattern_key& key, const triangle_pattern& pattern) {
-    if (kept_patterns().size() < most_kept_patterns) {
-        kept_patterns().emplace(key, pattern);
-    }
+void keep_triangle_pattern(const triangle_pattern_key& key, triangle_pattern&& pattern) {
+    kept_patterns().keep(key, std::move(pattern));
 }
 
 fan_kind find_fan(const ox_3dvector* contour, std::size_t size, const ox_3dvector& normal) {

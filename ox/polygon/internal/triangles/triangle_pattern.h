@@ -41,7 +41,7 @@ private:
     int corner_count = 0;
 };
 
-/// Tells how small contours lie, as far as the tessellator looks at them: their sizes, the order of
+/// How small contours lie, as far as the tessellator looks at them: their sizes, the order of
 /// the vertices in its sweep, which of them are at the same place of it, and the side on
 /// which every vertex lies of the line through any two others. It decides by nothing else as long
 /// as no edges cross, so contours with the same key have the same pattern, when it does not make
@@ -58,11 +58,10 @@ std::optional<triangle_pattern_key> find_triangle_pattern_key(const ox_3dvector*
 /// The pattern kept for a key by this thread, null when there is none.
 const triangle_pattern* find_triangle_pattern(const triangle_pattern_key& key);
 
-/// Keeps a pattern for this thread. So many different ones hardly occur, but when they do, the
-/// later ones are not kept.
-void keep_triangle_pattern(const triangle_pattern_key& key, const triangle_pattern& pattern);
+/// Keeps a pattern for this thread, unless too many are kept.
+void keep_triangle_pattern(const triangle_pattern_key& key, triangle_pattern&& pattern);
 
-/// Whether the triangles around a contour's first vertex all run in one direction about the normal.
+/// In which direction the triangles around a contour's first vertex run about the normal.
 enum class fan_kind {
     forward,  ///< all counter-clockwise
     backward, ///< all clockwise

@@ -111,7 +111,7 @@ TEST(OxPolygonAnswers, ContoursOnOneLevelComeOutInTheOrderOfTheClippingLibrarysS
         twins pair;
         pair.set_plane(ox_3dvector(), ox_3dvector(0, 0, 1));
         for (int i = 0; i < count; ++i) {
-            const float x = 2.0f * static_cast<float>((i * 37) % count);
+            const float x = 2.0f * static_cast<float>((i * 127) % count);
             const float height = i % 3 == 0 ? 2.0f : 1.0f;
             pair.add({ox_3dvector(x, 0, 0), ox_3dvector(x + 1, 0, 0), ox_3dvector(x + 1, height, 0),
                       ox_3dvector(x, height, 0)});

@@ -1,10 +1,10 @@
 // The self-checks of the ordered map: a few entries in and out, and the times of many.
 
-#include <cstdio>
 #include <ox/core/ox_chrono.h>
 #include <ox/core/ox_hash.h>
 #include <ox/core/ox_list.h>
 #include <ox/core/ox_log.h>
+#include <ox/internal/log_line.h>
 #include <ox/ox_functions.h>
 
 namespace ox {
@@ -17,9 +17,7 @@ using int_list = ox_list<int>;
 using int_hash = ox_hash<int, int>;
 
 void log_time(const char* phase, const ox_chrono& chrono, int count) {
-    char line[128];
-    std::snprintf(line, sizeof line, "%s %d : %f (%d)", phase, entries, chrono.elapsed(), count);
-    ox_log_thread_safe(line);
+    log_line("%s %d : %f (%d)", phase, entries, chrono.elapsed(), count);
 }
 
 /// Logs how long `work` takes, and how many entries the container has afterwards.
@@ -42,9 +40,7 @@ void set_each_and_count(int_hash& hash) {
 }
 
 void log_number_of_keys(const int_hash& hash) {
-    char line[64];
-    std::snprintf(line, sizeof line, "ox_hash size %d", hash.get_keys().size());
-    ox_log_thread_safe(line);
+    log_line("ox_hash size %d", hash.get_keys().size());
 }
 
 template <typename operation>

@@ -1,9 +1,14 @@
-#include <cstddef>
+#include <ox/core/ox_log.h>
+
+#include <atomic>
 #include <cstdio>
 #include <cstring>
 #include <new>
-#include <ox/core/ox_log.h>
+#include <set>
+#include <string>
+
 #include <ox/core/ox_mutex.h>
+#include <ox/internal/open_path.h>
 
 namespace {
 
@@ -13,18 +18,25 @@ bool log_enabled = true;
 bool echo_enabled = false;
 bool first_write_pending = true;
 
-// Null until a name is chosen. Never released at the end of the process: destructors of static
-// objects may still log.
-char* chosen_file_name = nullptr;
+// Null until a name is chosen.
+std::atomic<const char*> chosen_file_name = nullptr;
 
-/// A copy of `text` on the heap, null when there is no memory for it.
-char* copy_of(const char* text) {
-    const std::size_t bytes = std::strlen(text) + 1;
-    char* copy = new (std::nothrow) char[bytes];
-    if (copy != nullptr) {
-        std::memcpy(copy, text, bytes);
+/// Created by the first call, which the language keeps free of races, and never destroyed: threads
+/// may log until the process ends. Null when there is no memory for it.
+ox::ox_mutex* log_lock() {
+    static ox::ox_mutex* const lock = new (std::nothrow) ox::ox_mutex;
+    return lock;
+}
+
+/// A copy of `name` that is never released: a thread may be writing to that file, and destructors
+/// of static objects may still log. A name given again is the same copy. Null without memory.
+const char* kept_name(const char* name) {
+    try {
+        static std::set<std::string>* const names = new std::set<std::string>;
+        return names->emplace(name).first->c_str();
+    } catch (const std::bad_alloc&) {
+        return nullptr;
     }
-    return copy;
 }
 
 /// Prints `format` as the formatter would, given that there are no arguments to convert.
@@ -37,14 +49,14 @@ void print_without_arguments(const char* format) {
 }
 
 void write_line(const char* message) {
-    const char* const name = chosen_file_name != nullptr ? chosen_file_name : default_file_name;
-    std::FILE* const file = std::fopen(name, first_write_pending ? "w" : "a");
+    const char* const chosen = chosen_file_name;
+    const ox::open_file file = ox::open_path(chosen != nullptr ? chosen : default_file_name,
+                                             first_write_pending ? "w" : "a");
     if (file == nullptr) {
         return;
     }
     first_write_pending = false;
-    std::fprintf(file, "%s\n", message);
-    std::fclose(file);
+    std::fprintf(file.get(), "%s\n", message);
 }
 
 } // namespace
@@ -72,22 +84,24 @@ void ox_log_std_output(bool enabled) {
 }
 
 void ox_log_thread_safe(const char* message) {
-    // Created by the first call, which the language keeps free of races, and never destroyed:
-    // threads may log until the process ends.
-    static ox::ox_mutex* const log_lock = new (std::nothrow) ox::ox_mutex;
-    if (log_lock == nullptr) {
+    ox::ox_mutex* const lock = log_lock();
+    if (lock == nullptr) {
         return;
     }
-    log_lock->lock();
+    lock->lock();
     ox_log(message);
-    log_lock->unlock();
+    lock->unlock();
 }
 
 void ox_set_log_file(const char* path) {
-    char* const name = path != nullptr ? copy_of(path) : nullptr;
-    if (path != nullptr && name == nullptr) {
+    ox::ox_mutex* const lock = log_lock();
+    if (lock == nullptr) {
         return;
     }
-    delete[] chosen_file_name;
-    chosen_file_name = name;
+    lock->lock();
+    const char* const name = path != nullptr ? kept_name(path) : nullptr;
+    if (path == nullptr || name != nullptr) {
+        chosen_file_name = name;
+    }
+    lock->unlock();
 }

@@ -9,6 +9,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+
+#include <ox/internal/open_path.h>
 #endif
 
 namespace ox {
@@ -48,16 +50,15 @@ void read_field(const char* line, const char* name, long long& bytes) {
 /// could show a peak below the current size.
 process_memory query_process_memory() {
     process_memory memory;
-    std::FILE* const file = std::fopen("/proc/self/status", "r");
+    const open_file file = open_path("/proc/self/status", "r");
     if (file == nullptr) {
         return memory;
     }
     char line[256];
-    while (std::fgets(line, sizeof line, file) != nullptr) {
+    while (std::fgets(line, sizeof line, file.get()) != nullptr) {
         read_field(line, "VmRSS:", memory.current);
         read_field(line, "VmHWM:", memory.peak);
     }
-    std::fclose(file);
     return memory;
 }
 

@@ -11,15 +11,18 @@ namespace ox {
 ///
 /// Representation: a virtual table, then `root`, `count` and `unchanged` in that order. Despite its
 /// name it is no table of buckets but a binary search tree without balance of its own, which is
-/// rebuilt perfectly balanced after every insertion, update or removal that leaves a multiple of
-/// 1000 entries. So entries that come in sorted order cost at most 1000 steps more than
-/// in random order; updates of a table that rests on such a size cost O(n) each.
+/// rebuilt perfectly balanced after every `set` and `remove` that leaves a multiple of 1000
+/// entries, whether it changed anything or not. So in a table that grows, entries in sorted order
+/// cost at most 1000 steps more than in random order; calls on a table that rests on such a size
+/// cost O(n) each. A table that is used as a queue (the next key in, the oldest out) and never
+/// meets such a size becomes a chain, in which a call costs O(n), too.
 ///
 /// Invariants: every key is in the tree once; smaller keys are to the left of a node, greater ones
 /// to its right; `count` is the number of nodes.
 ///
 /// Degenerate input:
-/// - removing or looking up an absent key, or any key of an empty table: nothing happens;
+/// - removing or looking up an absent key, or any key of an empty table: nothing changes, but
+///   removing rebuilds the tree at a multiple of 1000 entries;
 /// - keys that do not equal themselves (NaN): each `set` adds one, which is never found again;
 /// - a key or value that is part of the table itself: its value at the call counts;
 /// - trees as deep as a list are walked, copied, rebuilt and destroyed without recursion.
@@ -76,7 +79,8 @@ public:
     }
 
     /// Removes `key`; nothing is removed when it is absent. Its left subtree takes its place and
-    /// carries the right one below its greatest key. O(depth), O(n) when the tree is rebuilt.
+    /// carries the right one below its greatest key. O(depth), O(n) when the tree is rebuilt: at
+    /// 1000, 2000, ... entries, whether the key was there or not.
     void remove(const K& key) {
         oxp_hash** const link = link_of(key);
         if (*link != nullptr) {

@@ -47,7 +47,8 @@ OX_EXPORT void ox_log_thread_safe(const char* message);
 /**
  * Sends the messages from now on to the file `path`, which is copied; null chooses the default name
  * again. Only the first message of the process truncates: once one was written, the new file is
- * appended to.
+ * appended to. A pipe that nobody reads cannot be opened, a device can. Other threads may be inside
+ * ox_log_thread_safe. Each name is kept until the process ends, once however often it is chosen.
  */
 OX_EXPORT void ox_set_log_file(const char* path);
 

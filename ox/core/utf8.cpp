@@ -49,9 +49,10 @@ std::string ox_to_utf8(const std::string& s) {
         return std::string();
     }
     const int size = static_cast<int>(s.size());
-    const int wide_size = MultiByteToWideChar(CP_ACP, MB_PRECOMPOSED, s.data(), size, nullptr, 0);
+    // Where the code page is UTF-8 no flag is allowed; elsewhere none means precomposed characters.
+    const int wide_size = MultiByteToWideChar(CP_ACP, 0, s.data(), size, nullptr, 0);
     std::wstring wide(static_cast<std::size_t>(wide_size), L'\0');
-    MultiByteToWideChar(CP_ACP, MB_PRECOMPOSED, s.data(), size, &wide[0], wide_size);
+    MultiByteToWideChar(CP_ACP, 0, s.data(), size, &wide[0], wide_size);
     const int utf8_size =
         WideCharToMultiByte(CP_UTF8, 0, wide.data(), wide_size, nullptr, 0, nullptr, nullptr);
     std::string utf8(static_cast<std::size_t>(utf8_size), '\0');

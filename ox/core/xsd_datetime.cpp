@@ -51,10 +51,11 @@ public:
         if (width == 0 || !is_digit(*next)) {
             return false;
         }
+        const long long limit = negative ? largest + 1 : largest;
         long long magnitude = 0;
         for (; width > 0 && is_digit(*next); ++next, --width) {
             const long long grown = magnitude * 10 + (*next - '0');
-            magnitude = grown < largest ? grown : largest;
+            magnitude = grown < limit ? grown : limit;
         }
         number = static_cast<int>(negative ? -magnitude : magnitude);
         return true;

@@ -1,9 +1,9 @@
-#include <ox/display/internal/opengl_shapes_data.h>
 #include <ox/display/ox_opengl_shapes.h>
 
-#include <GL/gl.h>
-
 #include <algorithm>
+
+#include <ox/display/internal/opengl_shapes_data.h>
+#include <ox/internal/opengl_headers.h>
 
 namespace ox {
 

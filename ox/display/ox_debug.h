@@ -46,8 +46,8 @@ public:
     ox_debug& operator=(const ox_debug& source);
 
     /// Deletes every child that is not null, in order, and with it all that it owns. O(n) in the
-    /// number of nodes of the tree. A node's own children are detached before its destructor runs
-    /// as part of a larger tree: the destructor of a derived class must not look for them.
+    /// number of nodes of the tree. The destructor of a derived class still finds its children;
+    /// inside a larger tree they are deleted as soon as it has ended.
     virtual ~ox_debug();
 
     std::string title;           ///< free text of the host

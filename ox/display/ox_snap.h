@@ -16,7 +16,8 @@ namespace ox {
 /// Degenerate input:
 /// - planes nearly parallel to the constraint (sine or cosine below 0.01): refused;
 /// - a freedom of 0 or below: every plane is refused; above 3: like 3;
-/// - a tolerance that is negative or NaN, or coordinates that are not finite: refused.
+/// - a tolerance that is negative or NaN, or a snap to coordinates that are NaN: refused;
+/// - an infinite tolerance: nothing is too far, so that coordinates may become infinite.
 ///
 /// \code
 ///   ox::ox_snap snap(picked, 0.5f, 3, ox::ox_3dvector());

@@ -4,6 +4,7 @@
 
 #include <ox/core/ox_log.h>
 #include <ox/internal/angles.h>
+#include <ox/internal/plain_numbers.h>
 
 namespace ox {
 
@@ -201,6 +202,7 @@ bool ox_matrix::reverse(ox_matrix& out) const {
 
 void ox_matrix::log() const {
     const auto element = [this](int i) { return static_cast<double>(m[i]); };
+    const plain_numbers with_a_point;
     char text[1024]; // twelve numbers of at most 48 characters each
     std::snprintf(text, sizeof(text),
                   "\t%f - %f - %f\n\t%f - %f - %f\n\t%f - %f - %f\n\t%f - %f - %f", element(0),

@@ -18,7 +18,8 @@ namespace ox {
 ///
 /// Degenerate input:
 /// - n below 1: there is no weight, and no buffer of one's own;
-/// - a parameter outside [0, 1]: clamped; NaN gives weights that are NaN.
+/// - a parameter outside [0, 1]: clamped; NaN gives weights that are NaN, but for a
+///   single control point, whose weight is always 1.
 ///
 /// Ownership: copies share buffer and coefficients, which live as long as one of them; a
 /// `compute` into the own buffer of one is seen through the others.

@@ -22,8 +22,8 @@ namespace ox {
 /// - points so close together that the system counts as singular (two neighbouring intervals
 ///   together up to about 0.0003 wide): the second derivatives are 0 and the curve is the polyline
 ///   through the points;
-/// - more than 1024 points: the system is solved as a band, O(n), instead of by a dense inverse,
-///   O(n^3), which moves the last bits.
+/// - more than 1024 points with intervals so wide (1e30, infinite) that the inverse of the system
+///   overflows: the polyline, too.
 ///
 /// Copies are deep.
 ///
@@ -37,7 +37,7 @@ namespace ox {
 class OX_EXPORT ox_cubic_spline {
 public:
     /// The spline through copies of the points (x, y), expected in increasing order of x and not
-    /// sorted.
+    /// sorted. O(n) memory; about 200 n steps for intervals of similar width, O(n^2) at the worst.
     explicit ox_cubic_spline(const ox_list<ox_2dvector>& points);
 
     /// A deep copy.

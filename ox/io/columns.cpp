@@ -3,8 +3,8 @@
 #include <cstdlib>
 #include <limits>
 #include <new>
+#include <ox/internal/plain_numbers.h>
 #include <ox/io/internal/ox_csv_state.h>
-#include <ox/io/internal/plain_numbers.h>
 #include <string>
 #include <utility>
 

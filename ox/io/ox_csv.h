@@ -73,7 +73,8 @@ public:
     // Reading
 
     /// Reads the file `path` as `read_string` reads a text. False, and the table stays as it is,
-    /// when the file cannot be opened or read.
+    /// when the file cannot be opened or read, as a path with a NUL in it, or has more than
+    /// 2^31 - 1 bytes. A pipe is read until its last writer closes it.
     bool read_file(const std::string& path);
 
     /// Replaces all columns by those of `text`; always true. O(n) for n bytes.

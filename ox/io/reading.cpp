@@ -1,9 +1,11 @@
 #include <cstdio>
+#include <filesystem>
 #include <memory>
-#include <ox/internal/open_file.h>
+#include <ox/internal/open_path.h>
 #include <ox/io/internal/csv_detection.h>
 #include <ox/io/internal/ox_csv_state.h>
 #include <string>
+#include <system_error>
 #include <utility>
 
 namespace ox {
@@ -53,15 +55,27 @@ void read_text(oxp_csv_state& state, std::string text) {
     state.column_separator = choice.separator;
 }
 
-/// Reads all of a file. False when it cannot be opened or read.
+/// The longest file that is read: what never ends, such as some devices, must end somewhere.
+constexpr std::size_t most_file_bytes = 2147483647;
+
+bool is_known_too_long(const std::string& path) {
+    std::error_code error;
+    const std::uintmax_t bytes = std::filesystem::file_size(path, error);
+    return !error && bytes > most_file_bytes;
+}
+
+/// Reads all of a file. False when it cannot be opened or read, or is too long.
 bool read_whole_file(const std::string& path, std::string& text) {
-    const open_file file(std::fopen(path.c_str(), "rb"));
-    if (file == nullptr) {
+    const open_file file = open_stream(path);
+    if (file == nullptr || is_known_too_long(path)) {
         return false;
     }
     char block[65536];
     std::size_t length = 0;
     while ((length = std::fread(block, 1, sizeof block, file.get())) > 0) {
+        if (length > most_file_bytes - text.size()) {
+            return false;
+        }
         text.append(block, length);
     }
     return std::ferror(file.get()) == 0;

@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <ox/core/ox_log.h>
-#include <ox/internal/open_file.h>
+#include <ox/internal/open_path.h>
 #include <ox/io/internal/ox_csv_state.h>
 #include <ox/ox_functions.h>
 #include <ox/progress/ox_progress_manager.h>
@@ -131,7 +131,7 @@ std::string ox_csv::write_string() {
 }
 
 bool ox_csv::write_file(const std::string& path) {
-    const open_file file(std::fopen(path.c_str(), "w"));
+    const open_file file = open_path(path, "w");
     if (file == nullptr) {
         return false;
     }

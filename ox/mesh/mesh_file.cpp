@@ -7,23 +7,6 @@ namespace ox {
 
 namespace {
 
-/// Tells whether a path may be opened for reading. To open a pipe that nobody writes to would wait
-/// for ever, and a device may never end. What does not exist is left to fopen to refuse.
-bool is_readable_kind(const char* path) {
-    std::error_code error;
-    const std::filesystem::file_type type = std::filesystem::status(path, error).type();
-    return type != std::filesystem::file_type::fifo &&
-           type != std::filesystem::file_type::character &&
-           type != std::filesystem::file_type::block && type != std::filesystem::file_type::socket;
-}
-
-open_file open(const char* path, const char* mode) {
-    if (path == nullptr || (mode[0] == 'r' && !is_readable_kind(path))) {
-        return nullptr;
-    }
-    return open_file(std::fopen(path, mode));
-}
-
 std::uint64_t size_of_file(const char* path) {
     std::error_code error;
     const std::uintmax_t bytes = std::filesystem::file_size(path, error);
@@ -32,7 +15,7 @@ std::uint64_t size_of_file(const char* path) {
 
 } // namespace
 
-oxp_mesh_file::oxp_mesh_file(const char* path, const char* mode) : stream(open(path, mode)) {
+oxp_mesh_file::oxp_mesh_file(const char* path, const char* mode) : stream(open_path(path, mode)) {
     if (is_open()) {
         size = size_of_file(path);
     }

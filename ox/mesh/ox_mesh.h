@@ -36,8 +36,12 @@ class ox_mesh_state;
 ///   mesh.set_vertices(vertices);
 ///   mesh.set_triangles(indices);
 ///   mesh.build_half_edges();
-///   const bool watertight = mesh.is_closed();
+///   const bool closed = mesh.is_closed();
 /// \endcode
+///
+/// Closed is a statement about indices, not about places: a mesh that looks watertight is not
+/// closed where vertices of one place are still apart (see the octree cells of
+/// `ox_vertex_optimizer`), and triangles without area may close it where they only fold back.
 class OX_EXPORT ox_mesh {
 public:
     /// A side of a triangle, run through in the triangle's direction.

@@ -28,10 +28,11 @@ class oxp_mesh_file;
 ///   hold: refused as each function says, before memory of the promised size is asked for.
 ///
 /// Ownership: copies share both arrays, and what is written through one is seen through the other.
-/// Whatever replaces an array (`allocate` with another count, reading, the vertices of `optimize`,
-/// all of `subdivide`) replaces it for that object only; `optimize` rewrites the shared indices in
-/// place, so a copy that keeps the old vertices should be allocated anew. An array lives until its
-/// last owner lets go.
+/// Whatever replaces an array (`allocate` and reading with another count, the vertices of
+/// `optimize`, all of `subdivide`) replaces it for that object only. An array whose count stays is
+/// kept, so a file with the same count is read into the shared one; `optimize` rewrites the shared
+/// indices in place, so a copy that keeps the old vertices should be allocated anew. An array lives
+/// until its last owner lets go.
 ///
 /// \code
 ///   ox::ox_triangle_set set;
@@ -107,12 +108,12 @@ public:
 
     /// Welds the vertices that belong to triangles and drops all others. A corner joins the first
     /// welded vertex that is at most `position_tolerance` (model units) away on every axis, whose
-    /// unit normal (that of the triangle that made it) differs by at most `normal_tolerance` in sum
-    /// over the axes, and that lies in the same octree cell. So vertices of different normals stay
-    /// apart on sharp edges, unless `normal_tolerance` is above 3.5. The cells are 1/512 of the
-    /// octree's edge wide, the smallest power of two that reaches from the origin over the model;
-    /// two vertices on either side of a cell boundary stay apart. Triangles keep their number and
-    /// order. A negative or NaN tolerance welds nothing.
+    /// unit normal (that of the triangle ABC that made it, AB x AC made unit) differs by at most
+    /// `normal_tolerance` in sum over the axes, and that lies in the same octree cell. So vertices
+    /// of different normals stay apart on sharp edges, unless `normal_tolerance` is above 3.5. The
+    /// cells are 1/512 of the octree's edge wide, the smallest power of two that reaches from the
+    /// origin over the model; two vertices on either side of a cell boundary stay apart. Triangles
+    /// keep their number and order. A negative or NaN tolerance welds nothing.
     ///
     /// A vertex that is NaN, infinite or above about 2^100: logs "too many octrees" and changes
     /// nothing. An index not below the vertex count: logs "invalid triangle index" and changes

@@ -16,9 +16,10 @@ class ox_vertex_optimizer_state;
 ///
 /// A vertex joins the first welded vertex, in order of appearance, that is at most the position
 /// tolerance away on every axis, whose normal differs by at most the normal tolerance in sum over
-/// the axes, and that lies in the same leaf of an octree. The leaves are halvings of power-of-two
-/// cells anchored at the origin, with an edge below ten position tolerances, or below 1 model unit
-/// where that is more; two vertices on either side of a leaf's boundary stay apart.
+/// the axes, and that lies in the same leaf of an octree. Differences are rounded to floats. The
+/// leaves are halvings of power-of-two cells anchored at the origin, with an edge below ten
+/// position tolerances, or below 1 model unit where that is more; two vertices on either side of a
+/// leaf's boundary stay apart.
 ///
 /// Invariant: one entry of the mapping for each vertex given, in order, over all calls; the
 /// positions and normals are of equal number. Nothing is ever taken back.

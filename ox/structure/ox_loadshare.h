@@ -67,8 +67,8 @@ public:
     void clear_slab_contours();
 
     /// Computes the load of every beam by lines `step` apart, from the lowest point of the slab up.
-    /// A step below 0.001 (0, negative, NaN) is 0.001; one too small to advance the coordinates of
-    /// the slab in single precision is raised to their spacing. The load is exact to about one step
+    /// A step below 0.001 (0, negative, NaN) is 0.001; one of half the spacing of floats at the
+    /// farthest line of the slab, or less, would not advance every line and is raised to it. The load is exact to about one step
     /// of the slab's height. O(lines * (points + beams log beams)).
     void compute_weights(float step);
 

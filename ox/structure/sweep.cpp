@@ -57,8 +57,10 @@ public:
     void run() {
         const float first = load.bounds.origin.y;
         const float end = first + load.bounds.size.y;
-        for (float y = first; end > y; y = y + step) {
+        float last = -infinity;
+        for (float y = first; y < end && y > last; y = y + step) {
             share_line(y);
+            last = y;
         }
         for (int k = 0; k < load.beams.size(); ++k) {
             load.beams[k].weight = lines[static_cast<std::size_t>(k)].weight;
@@ -145,15 +147,15 @@ private:
     sweep_window beams;           ///< between their ends: a line through an end does not cross
 };
 
-/// The step between lines: at least the minimum, and enough to advance from either end of the slab.
+/// The step between lines: at least the minimum, and enough to advance from any line of the slab.
+/// Half the spacing of the floats is too little: sums halfway between two floats go to the one with
+/// an even mantissa, so such a step stands still on every other float.
 float advancing_step(float asked, const ox_box& bounds) {
     const float step = asked > smallest_sweep_step ? asked : smallest_sweep_step;
     const float far =
         std::max(std::fabs(bounds.origin.y), std::fabs(bounds.origin.y + bounds.size.y));
-    if (far + step > far && step - far > -far) {
-        return step;
-    }
-    return next_above(far) - far;
+    const float spacing = next_above(far) - far;
+    return step > spacing / 2.f ? step : spacing;
 }
 
 bool is_finite(const ox_box& box) {

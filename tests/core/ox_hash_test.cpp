@@ -104,6 +104,25 @@ TEST(OxHash, UpdateAtAMultipleOf1000RebuildsTheTree) {
     EXPECT_EQ(depth_of(hash, 501), 1);
 }
 
+TEST(OxHash, RemovingAnAbsentKeyAtAMultipleOf1000RebuildsTheTree) {
+    auto hash = ascending(1001);
+    hash.remove(counted_key{0});
+    hash.set(counted_key{2000}, 0);
+    hash.remove(counted_key{1}); // 1000 entries again: rebuilt, with root 2 + 499
+    hash.remove(counted_key{5000});
+    EXPECT_EQ(hash.size(), 1000u);
+    EXPECT_EQ(depth_of(hash, 501), 1);
+}
+
+TEST(OxHash, QueueThatNeverMeetsAMultipleOf1000BecomesAChain) {
+    auto hash = ascending(100);
+    for (int i = 100; i < 700; ++i) {
+        hash.set(counted_key{i}, i);
+        hash.remove(counted_key{i - 100});
+    }
+    EXPECT_EQ(depth_of(hash, 699), 100);
+}
+
 TEST(OxHash, RemovedNodeIsReplacedByItsLeftSubtreeWithTheRightOneBelowItsGreatestKey) {
     ox_hash<counted_key, int> hash;
     for (const int key : {50, 20, 80, 10, 30, 70, 90}) {

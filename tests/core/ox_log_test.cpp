@@ -4,10 +4,17 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <ox/core/ox_log.h>
+#include <ox/geometry/ox_matrix.h>
+#include <ox/io/ox_csv.h>
 #include <sstream>
 #include <string>
+#include <tests/support/comma_locale.h>
 #include <thread>
 #include <vector>
+
+#if !defined(_WIN32)
+#include <sys/stat.h>
+#endif
 
 extern "C" bool log_from_c(const char* path, const char* message);
 
@@ -127,6 +134,62 @@ TEST(OxLog, PathIsCopied) {
         path.assign("another.sv");
         ox_log("first");
         EXPECT_EQ(text_of("chosen.txt"), "first\n");
+    });
+}
+
+#if !defined(_WIN32)
+TEST(OxLog, PipeThatNobodyReadsLosesTheMessage) {
+    fresh_process::run([] {
+        ASSERT_EQ(mkfifo("log.pipe", 0600), 0);
+        ox_set_log_file("log.pipe");
+        ox_log("lost");
+        ox_set_log_file("chosen.txt");
+        ox_log("first");
+        EXPECT_EQ(text_of("chosen.txt"), "first\n");
+    });
+}
+
+TEST(OxLog, DeviceTakesMessages) {
+    fresh_process::run([] {
+        write_file("chosen.txt", "kept\n");
+        ox_set_log_file("/dev/null");
+        ox_log("swallowed");
+        ox_set_log_file("chosen.txt");
+        ox_log("second");
+        EXPECT_EQ(text_of("chosen.txt"), "kept\nsecond\n");
+    });
+}
+#endif
+
+TEST(OxLog, LinesOfNumbersHaveAPointWhateverTheLocale) {
+    fresh_process::run([] {
+        const support::comma_locale locale;
+        if (!locale.is_chosen()) {
+            return;
+        }
+        ox::ox_matrix().log();
+        EXPECT_EQ(text_of("ox_log.txt"), "\t1.000000 - 0.000000 - 0.000000\n"
+                                         "\t0.000000 - 1.000000 - 0.000000\n"
+                                         "\t0.000000 - 0.000000 - 1.000000\n"
+                                         "\t0.000000 - 0.000000 - 0.000000\n");
+        ox::ox_csv().read_string("1,5\n");
+        EXPECT_EQ(text_of("ox_log.txt").find("1,000000"), std::string::npos);
+    });
+}
+
+TEST(OxLog, NameMayBeChangedWhileThreadsLog) {
+    fresh_process::run([] {
+        std::thread logging([] {
+            for (int i = 0; i < 500; ++i) {
+                ox_log_thread_safe("line");
+            }
+        });
+        for (int i = 0; i < 500; ++i) {
+            ox_set_log_file(i % 2 == 0 ? "even.txt" : "odd.txt");
+        }
+        logging.join();
+        const std::string lines = text_of("ox_log.txt") + text_of("even.txt") + text_of("odd.txt");
+        EXPECT_EQ(lines.size(), 500 * std::string("line\n").size());
     });
 }
 

@@ -142,10 +142,12 @@ TEST(XsdDatetime, NumberThatDoesNotFitAnIntCountsAsTheNearestThatDoes) {
     EXPECT_EQ(ox_chrono::from_xsd_datetime("1970-01-01T00:00:99999999999999999999999999"),
               2147483647);
     EXPECT_EQ(ox_chrono::from_xsd_datetime("1970-01-01T00:00:-99999999999999999999999999"),
-              -2147483647);
+              -2147483648LL);
+    EXPECT_EQ(ox_chrono::from_xsd_datetime("1970-01-01T00:00:-2147483648"), -2147483648LL);
+    EXPECT_EQ(ox_chrono::from_xsd_datetime("1970-01-01T00:00:2147483648"), 2147483647);
     const std::string digits(100000, '9');
     EXPECT_EQ(ox_chrono::from_xsd_datetime("1970-01-01T" + digits + ":-" + digits + ":0"),
-              2147483647LL * 3600 - 2147483647LL * 60);
+              2147483647LL * 3600 - 2147483648LL * 60);
 }
 
 TEST(XsdDatetime, RandomTextsAreReadAsTheCLibraryReadsThem) {

@@ -172,6 +172,16 @@ TEST(OxCamera, DefaultCameraWithoutASizeIsAnswered) {
     camera.get_precompute_date();
 }
 
+TEST(OxCamera, PointOfADepthThatIsNoNumberHasNoProjection) {
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    ox_camera camera(ox_3dvector(0, 0, 0), ox_3dvector(1, 0, 0), ox_3dvector(0, 0, 1), 60, 10, 10);
+    float x = 7;
+    float y = 8;
+    EXPECT_FALSE(camera.get_projection(ox_3dvector(nan, 0, 0), x, y));
+    EXPECT_EQ(x, 7);
+    EXPECT_EQ(y, 8);
+}
+
 TEST(OxCamera, UpAxisAlongTheViewAndHostileNumbersAreAnswered) {
     const float nan = std::numeric_limits<float>::quiet_NaN();
     ox_camera camera(ox_3dvector(0, 0, 0), ox_3dvector(0, 0, 1), ox_3dvector(0, 0, 1), 60, 10, 10);

@@ -77,6 +77,45 @@ TEST(OxDebug, AParentIsDestroyedBeforeItsChildrenAndTheseBeforeItsNextSibling) {
     EXPECT_THAT(destroyed, ElementsAre("a", "a1", "a2", "b", "b1", "b2"));
 }
 
+/// A node that writes down how many children it has when it is destroyed.
+class counting_node : public ox_debug {
+public:
+    explicit counting_node(std::vector<int>& found) : counts(found) {}
+    ~counting_node() override { counts.push_back(children.size()); }
+
+    counting_node(const counting_node&) = delete;
+    counting_node& operator=(const counting_node&) = delete;
+
+private:
+    std::vector<int>& counts;
+};
+
+TEST(OxDebug, ADerivedNodeStillHasItsChildrenWhenItsDestructorRuns) {
+    std::vector<int> counts;
+    {
+        ox_debug root;
+        root.children.push_right(new counting_node(counts));
+        ox_debug* const inner = root.children[0];
+        inner->children.push_right(new counting_node(counts));
+        inner->children.push_right(new counting_node(counts));
+        inner->children[1]->children.push_right(new ox_debug);
+    }
+    EXPECT_THAT(counts, ElementsAre(2, 0, 1));
+}
+
+TEST(OxDebug, AChainOfAMillionDerivedNodesIsDestroyedWithoutDeepRecursion) {
+    std::vector<int> counts;
+    {
+        ox_debug root;
+        ox_debug* end = &root;
+        for (int i = 0; i < 1000000; ++i) {
+            end->children.push_right(new counting_node(counts));
+            end = end->children[0];
+        }
+    }
+    EXPECT_EQ(counts.size(), 1000000u);
+}
+
 TEST(OxDebug, NullChildrenAreSkipped) {
     std::vector<std::string> destroyed;
     {

@@ -86,6 +86,14 @@ TEST(OxSnap, NumbersThatAreNotFiniteAreRefused) {
     }
 }
 
+TEST(OxSnap, AnInfiniteToleranceAcceptsSnapsToInfinity) {
+    const float infinity = std::numeric_limits<float>::infinity();
+    ox_snap snap(origin, infinity, 3, x_axis);
+    EXPECT_TRUE(
+        snap.check_plane(ox_3dvector(3e38f, 3e38f, 3e38f), ox_3dvector(0.58f, 0.58f, 0.58f)));
+    EXPECT_EQ(snap.position.x, infinity);
+}
+
 TEST(OxSnap, ItsOwnFieldsMayBeThePlane) {
     ox_snap snap(origin, 2, 2, ox_3dvector(0, 0, 1));
     snap.reference = ox_3dvector(0, 0, 0);

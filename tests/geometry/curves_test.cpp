@@ -39,6 +39,7 @@ TEST(OxBezier, ParametersOutsideTheRangeAreClamped) {
 
 TEST(OxBezier, OfOnePointGivesTheSingleWeight1) {
     EXPECT_EQ(bezier(1, 0.3f), std::vector<float>{1});
+    EXPECT_EQ(bezier(1, nan), std::vector<float>{1});
 }
 
 TEST(OxBezier, WeightsSumTo1UpTo18Points) {

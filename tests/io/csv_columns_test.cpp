@@ -2,11 +2,12 @@
 
 #include <cfloat>
 #include <climits>
-#include <clocale>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
 #include <string>
+
+#include <tests/support/comma_locale.h>
 
 namespace {
 
@@ -116,15 +117,14 @@ TEST(CsvColumns, NumbersThatAreNotFiniteAreWrittenAsTheCLibraryDoes) {
 }
 
 TEST(CsvColumns, TheLocaleOfTheProcessDoesNotChangeNumbers) {
-    const char* const found = std::setlocale(LC_NUMERIC, "de_DE.UTF-8");
-    if (found == nullptr) {
+    const support::comma_locale locale;
+    if (!locale.is_chosen()) {
         GTEST_SKIP() << "this machine has no locale with a decimal comma";
     }
     const std::string cell = cell_of(3.5f, 1, '.');
     ox::ox_csv table;
     table.add_column("f", list_of<std::string>({"3.5"}));
     const float value = floats_of(table, 0)[0];
-    std::setlocale(LC_NUMERIC, "C");
     EXPECT_EQ(cell, "3.5");
     EXPECT_EQ(value, 3.5f);
 }

@@ -1,7 +1,15 @@
 #include "cells.h"
 
+#include <cstdint>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
+#include <thread>
+
+#if !defined(_WIN32)
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
 
 #include <tests/support/log_capture.h>
 
@@ -156,6 +164,49 @@ TEST(CsvReading, AFileIsReadWhole) {
     EXPECT_EQ(column_of(table, 0).size(), 30001u);
     EXPECT_EQ(table.write_string(), text);
 }
+
+TEST(CsvReading, AFileOf2To31BytesIsRefusedUnread) {
+    const std::string path = support::own_file(".csv");
+    support::write_text(path, "a;b\n");
+    std::filesystem::resize_file(path, std::uintmax_t{1} << 31);
+    ox::ox_csv table = read("c;d\n");
+    EXPECT_FALSE(table.read_file(path));
+    EXPECT_EQ(table.get_nb_columns(), 2);
+    std::filesystem::remove(path);
+}
+
+TEST(CsvReading, APathWithANulInItIsNotOpened) {
+    const std::string path = support::own_file(".csv");
+    support::write_text(path, "a;b\n");
+    ox::ox_csv table = read("c;d;e\n");
+    EXPECT_FALSE(table.read_file(path + '\0' + "tail"));
+    EXPECT_FALSE(table.write_file(path + '\0' + "tail"));
+    EXPECT_EQ(table.get_nb_columns(), 3);
+    EXPECT_EQ(support::text_of_file(path), "a;b\n");
+}
+
+#if !defined(_WIN32)
+TEST(CsvReading, APipeIsReadUntilItsWriterClosesIt) {
+    const std::string path = support::own_file(".pipe");
+    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+    std::thread writer([&] { support::write_text(path, "a;b\n1;2\n"); });
+    ox::ox_csv table;
+    EXPECT_TRUE(table.read_file(path));
+    writer.join();
+    EXPECT_EQ(column_of(table, 1), (cells{"b", "2"}));
+}
+
+/// Needs as much memory as the longest text and its copy while it grows.
+TEST(CsvReading, ADeviceWithoutEndIsRefused) {
+    const long pages = sysconf(_SC_AVPHYS_PAGES);
+    if (pages < (8L << 30) / sysconf(_SC_PAGESIZE) || !std::filesystem::exists("/dev/zero")) {
+        GTEST_SKIP() << "this machine has less than 8 GiB of memory free, or no endless device";
+    }
+    ox::ox_csv table = read("c;d;e\n");
+    EXPECT_FALSE(table.read_file("/dev/zero"));
+    EXPECT_EQ(table.get_nb_columns(), 3);
+}
+#endif
 
 TEST(CsvReading, AFileThatCannotBeOpenedLeavesTheTableAsItIs) {
     ox::ox_csv table = read("a;b\n1;2\n");

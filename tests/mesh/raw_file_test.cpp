@@ -1,15 +1,20 @@
 #include "mesh_support.h"
 
+#include <fcntl.h>
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <ox/mesh/ox_triangle_set.h>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
 
 namespace {
 
 using mesh_support::bytes_of;
 using mesh_support::contents_of;
 using mesh_support::cube;
+using mesh_support::height_field;
 using mesh_support::log_capture;
 using mesh_support::raw_bytes;
 using mesh_support::read_file;
@@ -157,6 +162,38 @@ TEST(RawFile, FolderIsNeitherReadNorWritten) {
     EXPECT_FALSE(set.read_binary_raw(folder.c_str()));
     EXPECT_FALSE(set.write_binary_raw(folder.c_str()));
     expect_cube(set);
+}
+
+TEST(RawFile, PipeWithoutAReaderIsNotWaitedFor) {
+    const temporary_file place("");
+    const std::string pipe = place.path + ".pipe";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    const log_capture log;
+    ox_triangle_set set = set_of(cube());
+    EXPECT_FALSE(set.write_binary_raw(pipe.c_str()));
+    EXPECT_THAT(log.lines(), ElementsAre("writing binary_raw..."));
+    expect_cube(set);
+    std::filesystem::remove(pipe);
+}
+
+TEST(RawFile, PipeWithAReaderGetsTheWholeSet) {
+    const temporary_file place("");
+    const std::string pipe = place.path + ".pipe";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    const int reader = open(pipe.c_str(), O_RDWR); // also for writing: it is never without a writer
+    std::thread writer([&] {
+        ox_triangle_set set = set_of(height_field(100)); // more than a pipe holds
+        EXPECT_TRUE(set.write_binary_raw(pipe.c_str()));
+    });
+    std::string bytes(raw_bytes(height_field(100)).size(), '\0');
+    std::size_t done = 0;
+    while (done < bytes.size()) {
+        done += static_cast<std::size_t>(read(reader, &bytes[done], bytes.size() - done));
+    }
+    writer.join();
+    close(reader);
+    EXPECT_TRUE(bytes == raw_bytes(height_field(100)));
+    std::filesystem::remove(pipe);
 }
 
 TEST(RawFile, FullDeviceEmptiesTheSet) {

@@ -130,9 +130,15 @@ TEST(StlFile, FilesThatCannotBeOpenedLogOneLine) {
     }
 }
 
-TEST(StlFile, FolderIsNotRead) {
+TEST(StlFile, FolderIsNotOpened) {
+    const std::string folder = std::filesystem::temp_directory_path().string();
+    const log_capture log;
     ox_triangle_set set;
-    EXPECT_FALSE(set.read_binary_stl(std::filesystem::temp_directory_path().string().c_str()));
+    EXPECT_FALSE(set.read_binary_stl(folder.c_str()));
+    EXPECT_FALSE(set.read_binary_raw(folder.c_str()));
+    EXPECT_FALSE(set.write_binary_raw(folder.c_str()));
+    EXPECT_THAT(log.lines(),
+                ElementsAre("reading stl...", "reading binary_raw...", "writing binary_raw..."));
 }
 
 /// To open a pipe that nobody writes to would wait for ever; a device may never end.

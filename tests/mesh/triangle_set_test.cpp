@@ -68,6 +68,16 @@ TEST(OxTriangleSet, CopiesShareBothArrays) {
     EXPECT_EQ(assigned.get_triangles(), set.get_triangles());
 }
 
+TEST(OxTriangleSet, FileWithTheSameCountsIsReadIntoTheSharedArrays) {
+    mesh_support::plain_mesh moved = cube();
+    moved.vertices[0].x = 7.0f;
+    const mesh_support::temporary_file file(mesh_support::raw_bytes(moved));
+    ox_triangle_set set = set_of(cube());
+    const ox_triangle_set copy(set);
+    EXPECT_TRUE(set.read_binary_raw(file.path.c_str()));
+    EXPECT_EQ(copy.get_vertices()[0].x, 7.0f);
+}
+
 TEST(OxTriangleSet, AllocateReplacesAnArrayForThatObjectOnly) {
     ox_triangle_set set = set_of(cube());
     const ox_triangle_set copy(set);

@@ -61,6 +61,11 @@ TEST(OxVertexOptimizer, WeldsWhatIsWithinTheTolerance) {
     EXPECT_EQ(optimizer.get_optimized_vertices().size(), 2);
 }
 
+TEST(OxVertexOptimizer, DifferencesAreThoseOfFloats) {
+    // In double precision the last two are 1.000000001 apart.
+    EXPECT_THAT(mapping_of_line(1.0f, {1.5f, -1.9f, 1.0f, -1e-9f}), ElementsAre(0, 1, 2, 2));
+}
+
 TEST(OxVertexOptimizer, OppositeNormalsStayApart) {
     ox_vertex_optimizer optimizer(0.01f, 0.1f);
     const auto point = list_of<ox_3dvector>({{0.25f, 0.25f, 0.25f}});

@@ -2,6 +2,11 @@
 #include <gtest/gtest.h>
 #include <string>
 
+#if !defined(_WIN32)
+#include <sys/stat.h>
+#endif
+
+#include <tests/support/comma_locale.h>
 #include <tests/support/generator.h>
 #include <tests/support/log_capture.h>
 #include <tests/support/recording_manager.h>
@@ -43,10 +48,10 @@ TEST(Experience, ALastLineWithoutALineBreakCounts) {
     EXPECT_EQ(learnt_weight("load 10\nsave", "save"), 1.0);
 }
 
-TEST(Experience, ANumberThatIsNotFiniteEndsTheReading) {
+TEST(Experience, ANumberThatIsNotFiniteIsNotLearntAndTheReadingGoesOn) {
     for (const char* number : {"nan", "inf", "-inf", "1e999"}) {
         EXPECT_EQ(learnt_weight(std::string("load ") + number + "\nsave 5\n", "load"), 1.0);
-        EXPECT_EQ(learnt_weight(std::string("load ") + number + "\nsave 5\n", "save"), 1.0);
+        EXPECT_EQ(learnt_weight(std::string("load ") + number + "\nsave 5\n", "save"), 5.0);
     }
 }
 
@@ -57,6 +62,51 @@ TEST(Experience, NamesOf255BytesAreReadAndLongerOnesEndTheReading) {
     EXPECT_EQ(learnt_weight(too_long + " 10\nload 10\n", too_long), 1.0);
     EXPECT_EQ(learnt_weight(too_long + " 10\nload 10\n", "load"), 1.0);
 }
+
+TEST(Experience, DigitsAtTheEndOfANameTooLongAreNoNumber) {
+    const std::string start(255, 'n');
+    EXPECT_EQ(learnt_weight(start + "12 7.5\nload 10\n", start), 1.0);
+    EXPECT_EQ(learnt_weight(start + "12 7.5\nload 10\n", "load"), 1.0);
+    EXPECT_EQ(learnt_weight(start + "1 7.5\nload 10\n", start), 1.0);
+}
+
+TEST(Experience, TheLocaleOfTheProcessDoesNotChangeTheFile) {
+    const support::comma_locale locale;
+    if (!locale.is_chosen()) {
+        GTEST_SKIP() << "this machine has no locale with a decimal comma";
+    }
+    const support::log_capture log;
+    const std::string path = support::own_file(".txt");
+    support::write_text(path, "load 10.500000\n");
+    ox::ox_progress_manager manager;
+    manager.set_experience_learning_file(path);
+    manager.add_phase("load", "", 1.0);
+    manager.finalize();
+    EXPECT_EQ(support::text_of_file(path), "load 9.450000\n");
+}
+
+TEST(Experience, APathWithANulInItIsNotOpened) {
+    const support::log_capture log;
+    const std::string path = support::own_file(".txt");
+    support::write_text(path, "kept 1\n");
+    ox::ox_progress_manager manager;
+    manager.set_experience_learning_file(path + '\0' + "tail");
+    EXPECT_EQ(log.text(), "Could not read from experience file\n");
+    manager.finalize();
+    EXPECT_EQ(support::text_of_file(path), "kept 1\n");
+}
+
+#if !defined(_WIN32)
+TEST(Experience, APipeIsNeitherReadNorWaitedFor) {
+    const support::log_capture log;
+    const std::string path = support::own_file(".pipe");
+    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+    ox::ox_progress_manager manager;
+    manager.set_experience_learning_file(path);
+    EXPECT_EQ(log.text(), "Could not read from experience file\n");
+    manager.finalize();
+}
+#endif
 
 TEST(Experience, AFileThatCannotBeReadIsLoggedAndTheGivenWeightsCount) {
     const support::log_capture log;
@@ -118,10 +168,11 @@ TEST(Experience, AFileOfRandomBytesIsHarmless) {
     }
 }
 
-TEST(Experience, AFolderInPlaceOfTheFileIsHarmless) {
+TEST(Experience, AFolderCannotBeRead) {
     const support::log_capture log;
     ox::ox_progress_manager manager;
     manager.set_experience_learning_file(".");
+    EXPECT_EQ(log.text(), "Could not read from experience file\n");
     manager.add_phase("load", "", 1.0);
     manager.finalize();
 }

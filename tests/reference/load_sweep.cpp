@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 #include <cstdarg>
 #include <cstdio>
 
@@ -107,6 +108,11 @@ void load_sweep::compute_weights(float asked_step) {
     step = asked_step > 0.001f ? asked_step : 0.001f;
     min_x = bounds.origin.x;
     min_y = bounds.origin.y;
+    const float far = std::max(std::fabs(min_y), std::fabs(min_y + bounds.size.y));
+    const float spacing = std::nextafter(far, INFINITY) - far;
+    if (2 * step <= spacing) {
+        step = spacing; // half a spacing does not advance from an even mantissa
+    }
     scale = 1.f / step;
     colors_used = 0;
     log.clear();
@@ -123,8 +129,10 @@ void load_sweep::compute_weights(float asked_step) {
         image.assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height),
                      0xFFFFFFFF);
     }
-    for (float y = min_y; min_y + bounds.size.y > y; y = y + step) {
+    float last = -INFINITY;
+    for (float y = min_y; min_y + bounds.size.y > y && y != last; y = y + step) {
         share_line(y);
+        last = y;
     }
 }
 

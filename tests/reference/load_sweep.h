@@ -27,7 +27,7 @@ struct load_sweep {
     int height = 0;
     std::vector<unsigned int> image;
 
-    /// `step` must advance every coordinate of the slab.
+    /// `step` is at least 0.001, and above half the spacing of the floats farthest out.
     void compute_weights(float step);
 
 private:

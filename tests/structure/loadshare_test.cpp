@@ -101,6 +101,23 @@ TEST(OxLoadshare, StepTooSmallForTheCoordinatesIsRaisedToTheirSpacing) {
     EXPECT_NEAR(slab.get_weight(0), 1000, 2);
 }
 
+TEST(OxLoadshare, StepOfHalfTheSpacingOfTheCoordinatesIsRaisedToTheSpacing) {
+    struct {
+        float low;
+        float high;
+        float half_spacing;
+    } const slabs[] = {{6860000.0f, 6860012.5f, 0.25f},
+                       {16777216.0f, 16777218.0f, 1.0f},
+                       {65536.0f, 65536.0078125f, 0.00390625f},
+                       {-6860012.5f, -6860000.0f, 0.25f}};
+    for (const auto& [low, high, half_spacing] : slabs) {
+        ox_loadshare slab = slab_of(rectangle(0, low, 10, high));
+        vertical_beam(slab, 5, low - 10, high + 10);
+        slab.compute_weights(half_spacing);
+        EXPECT_NEAR(slab.get_weight(0), 10 * (high - low), 10 * 4 * half_spacing);
+    }
+}
+
 TEST(OxLoadshare, InfiniteStepIsAnswered) {
     ox_loadshare slab = slab_of(rectangle(0, 0, 10, 4));
     vertical_beam(slab, 5, -1, 5);

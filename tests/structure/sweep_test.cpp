@@ -141,4 +141,20 @@ TEST(OxLoadshareSweep, AgreesWithThePlainSweepOnSlabsOfManyPointsAndBeams) {
     }
 }
 
+TEST(OxLoadshareSweep, AgreesWithThePlainSweepWhereStepsAreAsSmallAsTheSpacingOfFloats) {
+    support::generator random(95);
+    for (int round = 0; round < 300; ++round) {
+        twin_slabs slabs;
+        const ox::ox_2dvector origin(0.0f, random.one_in(2) ? 6860000.0f : -16777220.0f);
+        std::vector<ox::ox_2dvector> points;
+        for (int i = 0; i < 6; ++i) {
+            points.push_back(origin + random_point(random, true));
+        }
+        slabs.add_contour(points);
+        slabs.add_beam(origin + random_point(random, true), origin + random_point(random, true));
+        const float steps[] = {0.25f, 0.5f, 1.0f, 2.0f};
+        slabs.expect_same_weights(steps[random.between(0, 3)]);
+    }
+}
+
 } // namespace

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <cstdio>
 
-#include <ox/internal/open_file.h>
+#include <ox/internal/open_path.h>
 
 namespace ox {
 
@@ -13,8 +13,7 @@ namespace ox {
 /// they lie in memory: all platforms of the library are little-endian.
 class oxp_mesh_file {
 public:
-    /// Opens `path` as fopen does with `mode`; a null path opens nothing. Pipes, devices and
-    /// sockets are not opened for reading.
+    /// Opens `path` as `open_path` does: nothing but regular files for reading.
     oxp_mesh_file(const char* path, const char* mode);
 
     /// Tells whether the file was opened.

@@ -10,8 +10,8 @@ namespace ox {
 /// A phase's name and the seconds it lasts.
 using phase_experience = std::pair<std::string, double>;
 
-/// Reads the lines of an experience file up to the first that is broken, has a number that is not
-/// finite, or a name longer than 255 bytes. False when the file cannot be opened.
+/// Reads the lines of an experience file up to the first that is broken or has a name longer than
+/// 255 bytes; a number that is not finite is passed over. False when the file cannot be opened.
 bool read_experience(const std::string& path, std::vector<phase_experience>& experience);
 
 /// Replaces the file; nothing happens when it cannot be opened.

@@ -1,5 +1,5 @@
-// Prints one number made from the bits of 1,000 dot products, cross products and lengths, computed by
-// the inline functions of the vectors. A compiler that fuses a product with a sum changes it.
+// Prints one number made from the bits of 1,000 dot products, cross products and lengths, computed
+// by the inline functions of the vectors. A compiler that fuses a product with a sum changes it.
 #include <ox/geometry/ox_3dvector.h>
 
 #include <cinttypes>

@@ -16,6 +16,8 @@ build_dependencies() {
     mkdir -p "$here/sources" "$OX_WINDOWS_PREFIX/include"
     fetch_source libpolyclipping
     build_dependency "$(echo "$here"/sources/libpolyclipping-*/cpp)" polyclipping
+    fetch_source libglu
+    build_tessellator "$(echo "$here"/sources/*glu-*/)"
     build_dependency /usr/src/googletest googletest
     cp -r /usr/include/utf8cpp "$OX_WINDOWS_PREFIX/include" # headers only
 }
@@ -33,9 +35,17 @@ fetch_source() {
     (cd "$here/sources" && apt-get "${options[@]}" source "$1")
 }
 
-# `build_dependency SOURCES NAME`
+# The tessellator of GLU instead of the system's: `build_tessellator SOURCES`. It sorts points by random
+# pivots of the width of a long, which is half as wide on Windows: points at one place then come in
+# another order, and polygons are cut into other triangles than elsewhere.
+build_tessellator() {
+    sed -i 's/unsigned long seed/unsigned long long seed/' "$1/src/libtess/priorityq.c"
+    build_dependency packaging/platforms/tessellator tessellator -DGLU_SOURCE="$1"
+}
+
+# `build_dependency SOURCES NAME OPTION...`
 build_dependency() {
-    cmake -S "$1" -B "$here/$2" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
+    cmake -S "$1" -B "$here/$2" "${@:3}" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
         -DCMAKE_BUILD_TYPE=Release -DBUILD_SHARED_LIBS=OFF -DCMAKE_INSTALL_LIBDIR=lib \
         -DCMAKE_INSTALL_PREFIX="$OX_WINDOWS_PREFIX" -Wno-dev
     cmake --build "$here/$2"
@@ -45,6 +55,7 @@ build_dependency() {
 build_library() {
     cmake -S . -B "$here/build" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
         -DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_FLAGS=-Werror -DOX_BUILD_EXAMPLES=OFF \
+        -DOPENGL_glu_LIBRARY="$OX_WINDOWS_PREFIX/lib/libtessellator.a" \
         -DCMAKE_RUNTIME_OUTPUT_DIRECTORY="$here/build/bin" \
         -DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST -Wno-dev
     take_runtime_along "$here/build/bin"

@@ -1,8 +1,11 @@
-#include <ox/solid/internal/combination.h>
-#include <ox/solid/internal/ox_solid_state.h>
 #include <ox/solid/ox_solid.h>
 
+#include <ox/solid/internal/boolean/combination.h>
+#include <ox/solid/internal/ox_solid_state.h>
+
 namespace ox {
+
+using namespace internal;
 
 namespace {
 
@@ -16,20 +19,13 @@ ox_box grown_by(const ox_box& box, float margin) {
 
 /// Appends the primary storage of another solid as it is. The box of the target, which must have
 /// been found, grows by the new vertices: from all vertices it would come out the same.
-void append_solid(ox_solid_state& target, const ox_solid& other) {
+void append_solid(ox_solid_state& target, const ox_solid_state& other) {
     ox_box box = target.bounding_box;
-    target.invalidate();
-    const unsigned int base = target.count_vertices();
-    for (const ox_3dvector& vertex : other.get_vertices()) {
-        target.vertices.push_right(vertex);
+    target.storage.append_lists(other.storage);
+    for (const ox_3dvector& vertex : other.storage.vertices) {
         box.enlarge(vertex);
     }
-    for (const int size : other.get_contour_sizes()) {
-        target.contour_sizes.push_right(size);
-    }
-    for (const unsigned int index : other.get_contours()) {
-        target.contours.push_right(index + base);
-    }
+    target.invalidate();
     target.bounding_box = box;
 }
 
@@ -48,9 +44,9 @@ void ox_solid::unites(ox_solid& other) {
     if (get_bounding_box().is_empty()) {
         *this = other;
     } else if (grown_by(get_bounding_box(), union_box_margin).intersects(other_box)) {
-        combine(*state, *other.state, solid_operation::unite);
+        combine(*state, *other.state, boolean_operation::unite);
     } else {
-        append_solid(*state, other);
+        append_solid(*state, *other.state);
     }
 }
 
@@ -63,7 +59,7 @@ void ox_solid::substracts(ox_solid& other) {
     const ox_box box = get_bounding_box();
     const ox_box other_box = other.get_bounding_box();
     if (!box.is_empty() && !other_box.is_empty() && box.intersects(other_box)) {
-        combine(*state, *other.state, solid_operation::substract);
+        combine(*state, *other.state, boolean_operation::subtract);
     }
 }
 
@@ -79,7 +75,7 @@ void ox_solid::intersects(ox_solid& other) {
     }
     const ox_box other_box = other.get_bounding_box();
     if (!other_box.is_empty() && box.intersects(other_box)) {
-        combine(*state, *other.state, solid_operation::intersect);
+        combine(*state, *other.state, boolean_operation::intersect);
     } else {
         clear();
     }

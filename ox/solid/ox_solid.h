@@ -116,8 +116,11 @@ public:
     /// Becomes the prism swept by `polygon` along `direction` (its length is the height, in model
     /// units): bottom cap, top cap, then one quadrilateral per contour edge. Holes of the polygon
     /// become tunnels. The caps face outwards whichever way the direction goes; the sides are
-    /// always built from p(i), p(i+1) upwards, so they face outwards when the direction and the
-    /// polygon's normal point to the same side. O(n).
+    /// always built from p(i), p(i+1) upwards, so they face outwards only when the direction and
+    /// the polygon's normal point to the same side. The normal of a polygon made from contours
+    /// alone comes from the first one: where that runs clockwise, seen from where `direction`
+    /// leads, the sides face inwards, and subtracting the solid adds volume; `reverse` the polygon
+    /// first. Nothing of the solid changes before all of the prism is there. O(n).
     void extrusion(ox_polygon& polygon, const ox_3dvector& direction);
 
     // Derived data
@@ -134,8 +137,8 @@ public:
     /// the mesh has a seam along every edge. Computed at the first call after a change.
     const ox_list<ox_3dvector>& get_tesselation_vertices();
 
-    /// Three indices into `get_tesselation_vertices()` per triangle; every triangle runs
-    /// counter-clockwise about its face's normal.
+    /// Three indices into `get_tesselation_vertices()` per triangle; every triangle that
+    /// has an area runs counter-clockwise about its face's normal.
     const ox_list<unsigned int>& get_tesselation_triangles();
 
     /// Always false at present: tells whether the shell is known to be manifold, and no operation
@@ -173,8 +176,9 @@ public:
     // Each face of one solid is cut by the cross-section of the other in that face's plane, and the
     // pieces that bound the result are kept. Pieces whose area is not above 0.000001 square model
     // units (the squared tolerance) are dropped. The primary storage of `other` is never changed;
-    // its caches are filled. Where nothing of a face would change by more than a thousandth of its
-    // area, the solid is left exactly as it was. Cost: one test of boxes for each face, and one
+    // its caches are filled. Where no face of this solid would change by more than a thousandth of
+    // its area, and no piece of the other solid is kept, the solid is left exactly as it was; so it
+    // is when an allocation fails. Cost: one test of boxes for each face, and one
     // section of the other solid for each face whose box reaches the other's box: for n faces there
     // O(log n + s log s), by a tree over their boxes, when s of them meet the face's plane. Faces
     // that would be made again as they are stay in the cache.
@@ -249,9 +253,10 @@ public:
     /// Stores a flag that nothing reads: the booleans are always timed.
     void set_profiling(bool profiling);
 
-    /// Seconds spent in a phase of the last boolean: slot 0 cuts the faces of this solid, slot 1
-    /// those of the other, slot 2 merges and rebuilds. 0 for slots 3 to 7, which are never started,
-    /// and for every other value.
+    /// Seconds spent in the last run of a phase of the booleans: slot 0 cuts the faces of this
+    /// solid, slot 1 those of the other, slot 2 merges and rebuilds, which a boolean that changes
+    /// nothing leaves out: slot 2 then tells of an earlier one. 0 before the first run, and for
+    /// every other slot.
     double get_chrono(int slot);
 
     /// The number of living solids of the process, whichever thread made them.

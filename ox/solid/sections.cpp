@@ -4,29 +4,32 @@
 // polygon anew from its contours, which costs more than the section. So for the faces of a solid
 // the polygons are used that are there already:
 //
-// - where all faces are settled, those of the solid itself: they would be made again;
-// - otherwise those of the solid made for the last section, if the faces still have the contours
-//   that it was made from.
+// - where all faces are reproducible, those of the solid itself: they would be made again;
+// - otherwise those made for the last section, if the faces still have the contours that they were
+//   made from.
+
+#include <ox/solid/ox_solid.h>
 
 #include <algorithm>
+#include <cmath>
 #include <memory>
 #include <utility>
-#include <vector>
 
 #include <ox/solid/internal/ox_solid_state.h>
-#include <ox/solid/internal/plane_section.h>
-#include <ox/solid/ox_solid.h>
+#include <ox/solid/internal/section/plane_section.h>
 
 namespace ox {
 
+using namespace internal;
+
 namespace {
 
-/// The section of a solid as separate polygons, which are the caller's.
-ox_list<ox_polygon*> split_section(ox_solid_state& state, const ox_3dvector& point,
+/// The section of the solid bounded by faces, as separate polygons, which are the caller's.
+ox_list<ox_polygon*> split_section(face_cache& cache, const ox_3dvector& point,
                                    const ox_3dvector& normal) {
-    const ox_list<ox_polygon*>& faces = state.faces.get_list(state);
+    const ox_list<ox_polygon*>& faces = cache.get_list();
     std::unique_ptr<ox_polygon> section =
-        plane_section(faces, state.faces.get_tree(), point, normal, face_list_section_tolerance);
+        plane_section(faces, cache.get_tree(), point, normal, face_list_section_tolerance);
     if (!section) {
         return {};
     }
@@ -37,75 +40,75 @@ ox_list<ox_polygon*> split_section(ox_solid_state& state, const ox_3dvector& poi
     return pieces;
 }
 
-bool are_all_settled(const ox_solid_state& state, const ox_list<ox_polygon*>& faces) {
-    for (int i = 0; i < faces.size(); ++i) {
-        if (!state.faces.is_settled(state, i)) {
-            return false;
-        }
-    }
-    return true;
-}
-
-/// Whether a primary storage holds these faces, one after another, and nothing else.
-bool is_made_of(const ox_solid_state& state, const ox_list<ox_polygon*>& faces) {
+/// True if a primary storage holds these faces, one after another, and nothing else.
+bool is_made_of(const solid_storage& storage, const ox_list<ox_polygon*>& faces) {
     storage_place place;
     for (ox_polygon* face : faces) {
         const bool is_empty = face->get_contour_sizes().size() == 0; // adds nothing
-        if (!is_empty && !state.holds_face(*face, place)) {
+        if (!is_empty && !storage.holds_face(*face, place)) {
             return false;
         }
     }
-    return place.size_index == state.contour_sizes.size();
+    return place.size_index == storage.contour_sizes.size();
 }
 
-/// The record of a solid made by adding all faces of another. Copies of the settled ones are its
-/// faces already.
-std::unique_ptr<ox_solid_state> readd_faces(ox_solid_state& source,
-                                            const ox_list<ox_polygon*>& faces) {
-    auto made = std::make_unique<ox_solid_state>(nullptr);
-    std::vector<std::unique_ptr<ox_polygon>> known;
+/// The faces of the solid made by adding all faces of another. The reproducible ones are copied.
+std::unique_ptr<section_source> add_again(face_cache& cache) {
+    auto made = std::make_unique<section_source>();
+    owned_faces known;
+    const ox_list<ox_polygon*>& faces = cache.get_list();
     for (int i = 0; i < faces.size(); ++i) {
-        const int added = made->append_polygon(*faces[i]);
+        const int added = made->storage.append_polygon(*faces[i]);
         known.resize(known.size() + static_cast<std::size_t>(added));
-        if (source.faces.is_settled(source, i)) {
+        if (cache.is_reproducible(i)) {
             known.back() = std::make_unique<ox_polygon>(*faces[i]);
         }
     }
-    made->faces = face_cache(std::move(known));
+    made->faces.keep(std::move(known));
     return made;
 }
 
-/// The record of the solid made by adding all faces of another: that one itself, the one kept for
-/// it, or a new one.
-ox_solid_state& find_readded(ox_solid_state& state) {
-    const ox_list<ox_polygon*>& faces = state.faces.get_list(state);
-    if (are_all_settled(state, faces)) {
+/// The faces of the solid made by adding all faces of another: those themselves, the ones kept for
+/// it, or new ones.
+face_cache& find_section_faces(ox_solid_state& state) {
+    const ox_list<ox_polygon*>& faces = state.faces.get_list();
+    if (state.faces.is_all_reproducible()) {
         state.faces.refresh_bounds();
-        return state;
+        return state.faces;
     }
-    if (!state.readded || !is_made_of(*state.readded, faces)) {
-        state.readded = readd_faces(state, faces);
+    if (!state.added_again || !is_made_of(state.added_again->storage, faces)) {
+        state.added_again = add_again(state.faces);
     }
-    return *state.readded;
+    return state.added_again->faces;
 }
 
 } // namespace
 
 ox_list<ox_polygon*> ox_solid::intersect_by_plane(const ox_3dvector& point,
                                                   const ox_3dvector& normal) {
-    return split_section(find_readded(*state), point, normal);
+    return split_section(find_section_faces(*state), point, normal);
 }
 
 ox_list<ox_polygon*> ox_solid::intersect_by_plane(const ox_3dvector& point,
                                                   const ox_3dvector& normal,
                                                   const ox_list<ox_polygon*>& faces) {
-    ox_solid solid;
+    section_source source;
     for (ox_polygon* face : faces) {
         if (face != nullptr) {
-            solid.state->append_polygon(*face);
+            source.storage.append_polygon(*face);
         }
     }
-    return split_section(*solid.state, point, normal);
+    return split_section(source.faces, point, normal);
+}
+
+ox_polygon* ox_solid::project_on_plane(const ox_3dvector& point, const ox_3dvector& normal) {
+    auto outline = std::make_unique<ox_polygon>(point, normal);
+    for (ox_polygon* face : get_faces()) {
+        if (std::fabs(ox_dot(face->get_normal(), normal)) >= edge_on_cosine) {
+            outline->unites(*face);
+        }
+    }
+    return outline.release();
 }
 
 } // namespace ox

@@ -1,6 +1,8 @@
-#include <atomic>
-#include <ox/solid/internal/ox_solid_state.h>
 #include <ox/solid/ox_solid.h>
+
+#include <atomic>
+
+#include <ox/solid/internal/ox_solid_state.h>
 
 namespace ox {
 
@@ -12,18 +14,18 @@ std::atomic<int> living_solids{0}; // made by threads that each work on solids o
 
 // Construction and copying
 
-ox_solid::ox_solid() : state(std::make_unique<ox_solid_state>(this)) {
+ox_solid::ox_solid() : state(std::make_unique<ox_solid_state>()) {
     ++living_solids;
 }
 
 ox_solid::ox_solid(const ox_solid& source)
-    : state(std::make_unique<ox_solid_state>(this, *source.state)) {
+    : state(std::make_unique<ox_solid_state>(source.state->storage)) {
     ++living_solids;
 }
 
 ox_solid& ox_solid::operator=(const ox_solid& source) {
     if (this != &source) {
-        state = std::make_unique<ox_solid_state>(this, *source.state);
+        state = std::make_unique<ox_solid_state>(source.state->storage);
     }
     return *this;
 }
@@ -37,35 +39,44 @@ ox_solid::~ox_solid() {
 // The setters copy before they drop the caches: the argument may be a list of a cached face.
 
 void ox_solid::set_vertices(const ox_list<ox_3dvector>& vertices) {
-    state->vertices = vertices;
+    state->storage.vertices = vertices;
     state->invalidate();
 }
 
 void ox_solid::set_contours(const ox_list<unsigned int>& contours) {
-    state->contours = contours;
+    state->storage.contours = contours;
     state->invalidate();
 }
 
 void ox_solid::set_contour_sizes(const ox_list<int>& sizes) {
-    state->contour_sizes = sizes;
+    state->storage.contour_sizes = sizes;
     state->invalidate();
 }
 
 const ox_list<ox_3dvector>& ox_solid::get_vertices() const {
-    return state->vertices;
+    return state->storage.vertices;
 }
 
 const ox_list<unsigned int>& ox_solid::get_contours() const {
-    return state->contours;
+    return state->storage.contours;
 }
 
 const ox_list<int>& ox_solid::get_contour_sizes() const {
-    return state->contour_sizes;
+    return state->storage.contour_sizes;
 }
 
 void ox_solid::clear() {
-    state->invalidate();
-    state->clear_primary_storage();
+    state->replace_storage({});
+}
+
+// Derived data
+
+const ox_list<ox_polygon*>& ox_solid::get_faces() {
+    return state->faces.get_list();
+}
+
+const ox_box& ox_solid::get_bounding_box() {
+    return state->get_bounding_box();
 }
 
 // Diagnostics
@@ -83,7 +94,7 @@ void ox_solid::set_profiling(bool profiling) {
 }
 
 double ox_solid::get_chrono(int slot) {
-    if (slot < 0 || slot >= solid_chrono_count) {
+    if (slot < 0 || slot >= internal::solid_phase_count) {
         return 0.0;
     }
     return state->chronos[slot].elapsed();

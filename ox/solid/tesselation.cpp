@@ -1,10 +1,11 @@
+#include <ox/solid/ox_solid.h>
+
 #include <algorithm>
 #include <cstdint>
 #include <limits>
 #include <utility>
 
 #include <ox/solid/internal/ox_solid_state.h>
-#include <ox/solid/ox_solid.h>
 
 namespace ox {
 
@@ -43,13 +44,13 @@ void append_triangles(ox_list<unsigned int>& triangles, const ox_list<unsigned i
     }
 }
 
-void compute_tesselation(ox_solid& solid, ox_solid_state& state) {
+void compute_tesselation(ox_solid_state& state) {
     if (state.tesselation_vertices.size() > 0) {
         return;
     }
     ox_list<ox_3dvector> vertices;
     ox_list<unsigned int> triangles;
-    for (ox_polygon* face : solid.get_faces()) {
+    for (ox_polygon* face : state.faces.get_list()) {
         const unsigned int base = static_cast<unsigned int>(vertices.size());
         append_vertices(vertices, face->get_tesselation_vertices());
         append_triangles(triangles, face->get_tesselation_triangles(), base);
@@ -61,13 +62,25 @@ void compute_tesselation(ox_solid& solid, ox_solid_state& state) {
 } // namespace
 
 const ox_list<ox_3dvector>& ox_solid::get_tesselation_vertices() {
-    compute_tesselation(*this, *state);
+    compute_tesselation(*state);
     return state->tesselation_vertices;
 }
 
 const ox_list<unsigned int>& ox_solid::get_tesselation_triangles() {
-    compute_tesselation(*this, *state);
+    compute_tesselation(*state);
     return state->tesselation_triangles;
+}
+
+void ox_solid::draw_opengl() {
+    for (ox_polygon* face : get_faces()) {
+        face->draw_opengl();
+    }
+}
+
+void ox_solid::draw_opengl_contour() {
+    for (ox_polygon* face : get_faces()) {
+        face->draw_opengl_contour(false);
+    }
 }
 
 } // namespace ox

@@ -1,6 +1,6 @@
 // Whatever the bound says of the area of a polygon, its triangles must say too.
 
-#include <ox/solid/internal/area_bound.h>
+#include <ox/solid/internal/area/area_bound.h>
 
 #include <gtest/gtest.h>
 
@@ -95,7 +95,7 @@ int count_bounded(shape make_shape, int rounds, std::uint64_t seed) {
     int bounded = 0;
     for (int round = 0; round < rounds; ++round) {
         ox_polygon polygon = make_shape(random);
-        if (ox::is_area_surely_above(polygon, smallest_face)) {
+        if (ox::internal::is_area_surely_above(polygon, smallest_face)) {
             ++bounded;
             EXPECT_GT(polygon.get_area(), smallest_face) << "seed " << seed << ", round " << round;
         }
@@ -113,22 +113,22 @@ TEST(AreaBound, OfAnyFacadeIsKeptByItsTriangles) {
 
 TEST(AreaBound, IsKnownOfASquareAndOfALongWallWithOpenings) {
     ox_polygon square = support::rectangle_polygon(0.0f, 0.0f, 1.0f, 1.0f);
-    EXPECT_TRUE(ox::is_area_surely_above(square, smallest_face));
+    EXPECT_TRUE(ox::internal::is_area_surely_above(square, smallest_face));
     ox_polygon wall = support::rectangle_polygon(0.0f, 0.0f, 1500.0f, 3.0f);
     for (int i = 0; i < 1000; ++i) {
         const float x = 1.5f * static_cast<float>(i) + 0.25f;
         wall.add_contour(support::rectangle(x, 1.0f, x + 1.0f, 2.0f));
     }
-    EXPECT_TRUE(ox::is_area_surely_above(wall, smallest_face));
+    EXPECT_TRUE(ox::internal::is_area_surely_above(wall, smallest_face));
 }
 
 TEST(AreaBound, IsUnknownOfASliverOfAPolygonWithoutContoursAndOfALimitAboveTheArea) {
     ox_polygon sliver = support::rectangle_polygon(0.0f, 0.0f, 1000.0f, 0.001f);
-    EXPECT_FALSE(ox::is_area_surely_above(sliver, smallest_face));
+    EXPECT_FALSE(ox::internal::is_area_surely_above(sliver, smallest_face));
     ox_polygon empty;
-    EXPECT_FALSE(ox::is_area_surely_above(empty, smallest_face));
+    EXPECT_FALSE(ox::internal::is_area_surely_above(empty, smallest_face));
     ox_polygon square = support::rectangle_polygon(0.0f, 0.0f, 1.0f, 1.0f);
-    EXPECT_FALSE(ox::is_area_surely_above(square, 1.0f));
+    EXPECT_FALSE(ox::internal::is_area_surely_above(square, 1.0f));
 }
 
 } // namespace

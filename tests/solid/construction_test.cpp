@@ -111,6 +111,30 @@ TEST(AddingAFace, AFaceOfTheSolidItselfIsAddedAgain) {
     }
 }
 
+TEST(AddingAFace, DropsAHoleThatWasSplitOffAndKeptTheNumberOfItsFormerOutline) {
+    ox_polygon polygon = square_with_hole();
+    polygon.add_contour(rectangle(10, 0, 14, 4));
+    polygon.add_contour(rectangle(11, 1, 12, 2));
+    int dropped = 0;
+    for (ox_polygon* piece : polygon.split_to_polygons()) {
+        ASSERT_EQ(piece->get_contour_sizes().size(), 2);
+        const int parent = piece->get_contour_parents()[1];
+        ox_solid solid;
+        solid.add_face(*piece);
+        if (parent == 0) {
+            EXPECT_THAT(to_vector(solid.get_contour_sizes()), ElementsAre(4, -4));
+        } else {
+            EXPECT_EQ(parent, piece->get_contour_sizes().size()) << "just out of range";
+            EXPECT_THAT(to_vector(solid.get_contour_sizes()), ElementsAre(4));
+            ++dropped;
+        }
+        if (piece != &polygon) {
+            delete piece;
+        }
+    }
+    EXPECT_EQ(dropped, 1);
+}
+
 // brick
 
 TEST(Brick, AlongTheAxesHas24VerticesInSixFacesOfFour) {

@@ -235,6 +235,25 @@ TEST(OxSolidHostileInput, NullFacesAreLeftOutOfASection) {
     delete_all(pieces);
 }
 
+/// Expects a solid whose first face was changed to survive a section and everything else.
+void expect_survival_of_change(void (*change)(ox_polygon&)) {
+    ox_solid solid = unit_brick();
+    change(*solid.get_faces()[0]);
+    delete_all(solid.intersect_by_plane(ox_3dvector(0.5f, 0.5f, 0.5f), ox_3dvector(0, 0, 1)));
+    ox_solid other = support::brick_between(ox_3dvector(0.5f, 0.5f, 0.5f), ox_3dvector(2, 2, 2));
+    solid.unites(other);
+    exercise(solid);
+}
+
+TEST(OxSolidHostileInput, AFaceThatItsCallerEmptiedIsLeftOutOfASection) {
+    expect_survival_of_change([](ox_polygon& face) { face.clear(); });
+    expect_survival_of_change([](ox_polygon& face) { face.offset(-5.0f, ox_polygon::join_miter); });
+    expect_survival_of_change([](ox_polygon& face) {
+        ox_polygon elsewhere = support::rectangle_polygon(8.0f, 8.0f, 9.0f, 9.0f);
+        face.intersects(elsewhere);
+    });
+}
+
 TEST(OxSolidHostileInput, RandomBitPatternsSurviveEveryOperation) {
     generator random(666);
     for (int i = 0; i < 200; ++i) {

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <ox/geometry/ox_matrix.h>
 #include <ox/solid/ox_solid.h>
 #include <tests/reference/combine.h>
 #include <tests/reference/plane_section.h>
@@ -187,6 +188,63 @@ TEST(KeptFaces, StayWhereTheSolidIsSectionedAgainAndAgain) {
             EXPECT_EQ(ox_polygon::get_instanced(), before);
         }
     }
+}
+
+void section_at_half_height(ox_solid& solid, int expected_pieces) {
+    const ox_list<ox_polygon*> pieces =
+        solid.intersect_by_plane(ox_3dvector(0.0f, 0.0f, 0.5f), ox_3dvector(0.0f, 0.0f, 1.0f));
+    EXPECT_EQ(pieces.size(), expected_pieces);
+    for (ox_polygon* piece : pieces) {
+        delete piece;
+    }
+}
+
+TEST(KeptFaces, AreNotCountedAmongTheLivingPolygonsBeforeTheyAreAskedFor) {
+    ox_solid wall = support::brick_between(ox_3dvector(0, 0, 0), ox_3dvector(4, 0.3f, 3));
+    ox_solid tool = support::brick_between(ox_3dvector(1, -1, 1), ox_3dvector(2, 1, 2));
+    const int before = ox_polygon::get_instanced();
+    wall.substracts(tool);
+    EXPECT_EQ(ox_polygon::get_instanced(), before + 6); // the faces of the tool
+    EXPECT_EQ(wall.get_faces().size(), 10);
+    EXPECT_EQ(ox_polygon::get_instanced(), before + 6 + 10);
+    wall.clear();
+    EXPECT_EQ(ox_polygon::get_instanced(), before + 6);
+}
+
+TEST(KeptFaces, MadeForASectionAreNotCountedAmongTheLivingPolygons) {
+    ox_solid solid = ox_test::unit_brick();
+    solid.get_faces()[4]->reverse(); // the bottom: a section is now of the faces added again
+    const int before = ox_polygon::get_instanced();
+    section_at_half_height(solid, 1);
+    EXPECT_EQ(ox_polygon::get_instanced(), before);
+}
+
+TEST(KeptFaces, MadeForASectionAreNotTakenForFewerFaces) {
+    ox_solid towers = ox_test::unit_brick();
+    ox_solid second = support::brick_between(ox_3dvector(5, 0, 0), ox_3dvector(6, 1, 1));
+    towers.unites(second);
+    towers.get_faces()[4]->reverse(); // a bottom
+    section_at_half_height(towers, 2);
+    for (int i = 6; i < 12; ++i) {
+        towers.get_faces()[i]->clear();
+    }
+    section_at_half_height(towers, 1);
+}
+
+TEST(KeptFaces, ForgetTheBestCentreThatTheyHadElsewhere) {
+    ox_solid solid = support::brick_between(ox_3dvector(0, 0, 0), ox_3dvector(4, 4, 4));
+    ox_polygon& face = *solid.get_faces()[0];
+    ox::ox_matrix away;
+    away.translate(ox_3dvector(0, 8, 0));
+    ox::ox_matrix back;
+    back.translate(ox_3dvector(0, -8, 0));
+    face.matrix_transform(away);
+    face.get_best_center();
+    face.matrix_transform(back);
+    ox_solid tool = support::brick_between(ox_3dvector(3, 3, 3), ox_3dvector(5, 5, 5));
+    solid.substracts(tool);
+    ox_solid copy(solid);
+    EXPECT_EQ(solid.get_faces()[0]->get_best_center(), copy.get_faces()[0]->get_best_center());
 }
 
 } // namespace

@@ -7,6 +7,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <ox/geometry/ox_matrix.h>
+#include <ox/solid/internal/section/plane_section.h>
 #include <tests/reference/plane_section.h>
 #include <tests/solid/solid_lists.h>
 #include <tests/support/random_shapes.h>
@@ -157,6 +159,56 @@ TEST(PlaneSection, ByAPlaneThatIsNotFiniteOrHasNoNormalDoesNotFail) {
         section_of(solid, ox_3dvector(value, value, value), ox_3dvector(value, value, value));
     }
     EXPECT_EQ(section_of(solid, ox_3dvector(0, 0, 0.5f), ox_3dvector(0, 0, 0)).size(), 0u);
+}
+
+/// A side of a duct: an upright hexagon whose middle corners lie on the plane z = 0, and a leg
+/// beside it. Stretched along z, the leg crosses the plane where no number tells.
+ox_polygon duct_side(float y, bool is_turned) {
+    ox_polygon side(ox_3dvector(0, y, 0), ox_3dvector(0, is_turned ? 1.0f : -1.0f, 0));
+    side.add_contour(
+        support::contour({ox_3dvector(0, y, -1), ox_3dvector(2, y, -1), ox_3dvector(3, y, 0),
+                          ox_3dvector(2, y, 1), ox_3dvector(0, y, 1), ox_3dvector(-1, y, 0)}));
+    side.add_contour(support::contour({ox_3dvector(5, y, -2), ox_3dvector(6, y, -2),
+                                       ox_3dvector(6, y, 2), ox_3dvector(5, y, 2)}));
+    return side;
+}
+
+/// The ends of a duct, as bare rectangles.
+ox_polygon duct_end(float x, bool is_turned) {
+    ox_polygon end(ox_3dvector(x, 0, 0), ox_3dvector(is_turned ? -1.0f : 1.0f, 0, 0));
+    end.add_contour(support::contour({ox_3dvector(x, 0, -1), ox_3dvector(x, 1, -1),
+                                      ox_3dvector(x, 1, 1), ox_3dvector(x, 0, 1)}));
+    return end;
+}
+
+TEST(PlaneSection, SortsCrossingsAroundThoseWhosePlaceIsNoNumber) {
+    ox_solid duct;
+    for (ox_polygon face :
+         {duct_side(0, false), duct_end(3, false), duct_side(1, true), duct_end(-1, true)}) {
+        duct.add_face(face);
+    }
+    // One face a side: the hexagon as a hole, which it is not, of the leg.
+    duct.set_contour_sizes(ox_test::list_of({4, -6, 4, 4, -6, 4}));
+    ASSERT_EQ(duct.get_faces().size(), 4);
+    ox::ox_matrix stretch;
+    stretch[10] = 1e38f;
+    duct.get_faces()[0]->matrix_transform(stretch);
+    duct.get_faces()[2]->matrix_transform(stretch);
+    std::vector<ox::internal::face_bounds> bounds;
+    for (ox_polygon* face : duct.get_faces()) {
+        bounds.emplace_back(*face);
+    }
+    const ox::internal::face_tree tree(bounds);
+    for (const float up : {1.8f, -1.8f}) {
+        const ox_3dvector normal(0, 0, up);
+        const auto section =
+            ox::internal::plane_section(duct.get_faces(), tree, ox_3dvector(), normal, 0.001f);
+        const auto plain = reference::plane_section(duct, ox_3dvector(), normal, 0.001f);
+        ASSERT_TRUE(section && plain);
+        EXPECT_FLOAT_EQ(section->get_area(), 4.0f);
+        EXPECT_TRUE(ox_test::have_same_bits(section->get_contour_vertices(),
+                                            plain->get_contour_vertices()));
+    }
 }
 
 TEST(PlaneSection, NoPolygonIsLeaked) {

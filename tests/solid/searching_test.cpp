@@ -1,10 +1,10 @@
 // The structures that booleans and sections search with: what they find is compared with a look at
 // everything.
 
-#include <ox/solid/internal/face_bounds.h>
-#include <ox/solid/internal/face_tree.h>
-#include <ox/solid/internal/plane_index.h>
-#include <ox/solid/internal/section_chains.h>
+#include <ox/solid/internal/search/face_bounds.h>
+#include <ox/solid/internal/search/face_tree.h>
+#include <ox/solid/internal/search/plane_index.h>
+#include <ox/solid/internal/section/section_chains.h>
 
 #include <algorithm>
 #include <cmath>
@@ -19,10 +19,10 @@
 
 namespace {
 
-using ox::face_bounds;
 using ox::ox_3dvector;
 using ox::ox_box;
 using ox::ox_polygon;
+using ox::internal::face_bounds;
 using support::generator;
 
 constexpr float tolerance = 0.001f;
@@ -75,7 +75,7 @@ TEST(FaceTree, FindsEveryFaceThatHasAnEdgeAcrossThePlane) {
             faces.push_back(any_face(random, scale));
             bounds.emplace_back(faces.back());
         }
-        const ox::face_tree tree(bounds);
+        const ox::internal::face_tree tree(bounds);
         const ox_3dvector point = support::random_point(random, 2.0) * scale;
         ox_3dvector normal = support::random_frame(random).z;
         if (random.one_in(2)) {
@@ -99,7 +99,7 @@ TEST(FaceTree, LooksAtFewOfManyFaces) {
         ox_polygon face = support::rectangle_polygon(0.0f, 0.0f, 1.0f, 1.0f, static_cast<float>(i));
         bounds.emplace_back(face);
     }
-    const ox::face_tree tree(bounds);
+    const ox::internal::face_tree tree(bounds);
     const ox_3dvector up(0.0f, 0.0f, 1.0f);
     EXPECT_LE(tree.find_faces_at(ox_3dvector(0.0f, 0.0f, 500.5f), up, tolerance).size(), 1u);
 }
@@ -107,7 +107,7 @@ TEST(FaceTree, LooksAtFewOfManyFaces) {
 TEST(FaceTree, FindsFacesOutOfThisWorldWhateverThePlane) {
     const ox_3dvector corner(0.0f, 0.0f, std::numeric_limits<float>::infinity());
     const std::vector<face_bounds> bounds = {face_bounds(&corner, 1), face_bounds()};
-    const ox::face_tree tree(bounds);
+    const ox::internal::face_tree tree(bounds);
     const ox_3dvector up(0.0f, 0.0f, 1.0f);
     EXPECT_EQ(tree.find_faces_at(ox_3dvector(), up, tolerance), std::vector<int>{0});
 }
@@ -136,7 +136,7 @@ TEST(FaceBounds, ThatAreApartFromABoxBelongToAFaceThatMayNotIntersectIt) {
     EXPECT_GT(apart, 1000);
 }
 
-bool are_coplanar(const ox::face_plane& a, const ox::face_plane& b) {
+bool are_coplanar(const ox::internal::face_plane& a, const ox::internal::face_plane& b) {
     const ox_3dvector difference = a.point - b.point;
     return a.normal.distance_to(b.normal) < tolerance &&
            std::fabs(ox::ox_dot(difference, a.normal)) <= tolerance &&
@@ -144,9 +144,9 @@ bool are_coplanar(const ox::face_plane& a, const ox::face_plane& b) {
 }
 
 /// Planes that are often the same but for a slight turn or shift.
-std::vector<ox::face_plane> any_planes(generator& random) {
+std::vector<ox::internal::face_plane> any_planes(generator& random) {
     const float scale = any_scale(random);
-    std::vector<ox::face_plane> planes;
+    std::vector<ox::internal::face_plane> planes;
     for (int i = random.between(1, 40); i > 0; --i) {
         ox_3dvector normal(0.0f, 0.0f, 1.0f);
         ox_3dvector point = support::random_point(random, 1.0) * scale;
@@ -168,8 +168,8 @@ TEST(PlaneIndex, FindsEveryLaterPlaneThatIsTheSameWithinTheTolerance) {
     generator random(4);
     int coplanar = 0;
     for (int round = 0; round < 10000; ++round) {
-        const std::vector<ox::face_plane> planes = any_planes(random);
-        const ox::plane_index index(planes, tolerance);
+        const std::vector<ox::internal::face_plane> planes = any_planes(random);
+        const ox::internal::plane_index index(planes, tolerance);
         for (std::size_t i = 0; i < planes.size(); ++i) {
             const std::vector<std::size_t> found = index.find_later(i);
             EXPECT_TRUE(std::is_sorted(found.begin(), found.end()));
@@ -212,12 +212,12 @@ TEST(SectionChains, AreThePlainOnes) {
     generator random(3);
     for (int round = 0; round < 10000; ++round) {
         std::vector<reference::chain> plain = any_segments(random);
-        std::vector<ox::section_segment> chains;
+        std::vector<ox::internal::section_segment> chains;
         for (const reference::chain& segment : plain) {
             chains.emplace_back(segment.points[0], segment.points[1]);
         }
         reference::chain_segments(plain, tolerance);
-        ox::chain_segments(chains, tolerance);
+        ox::internal::chain_segments(chains, tolerance);
         for (std::size_t i = 0; i < plain.size(); ++i) {
             ASSERT_EQ(chains[i].is_taken, plain[i].points.empty()) << round;
             if (chains[i].is_taken) {
@@ -228,7 +228,8 @@ TEST(SectionChains, AreThePlainOnes) {
             for (const ox_3dvector& point : plain[i].points) {
                 points.push_right(point);
             }
-            ASSERT_TRUE(ox_test::have_same_bits(ox::list_points(chains, i), points)) << round;
+            ASSERT_TRUE(ox_test::have_same_bits(ox::internal::list_points(chains, i), points))
+                << round;
         }
     }
 }

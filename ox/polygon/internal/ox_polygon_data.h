@@ -4,11 +4,11 @@
 #include <ox/core/ox_list.h>
 #include <ox/geometry/ox_3dvector.h>
 #include <ox/geometry/ox_box.h>
+#include <ox/internal/boolean_operation.h>
 
 namespace ox {
 
-/// What a boolean operation keeps of the two regions.
-enum class boolean_operation { unite, subtract, intersect };
+using internal::boolean_operation;
 
 /// The record behind an `ox_polygon`. Its operations do what the polygon's do, for the code that
 /// works on several polygons at once.
@@ -46,6 +46,9 @@ struct ox_polygon_data {
 
     /// Empties the polygon and forgets its plane.
     void clear();
+
+    /// True where the projection of `p` lies inside the region, which must have been merged.
+    bool contains(const ox_3dvector& p) const;
 
     /// Combines the normalised contours with those of `other`, on this plane; both must have
     /// been merged. No operand is checked for being empty. Results outside what the clipping

@@ -7,44 +7,41 @@
 #include <ox/core/ox_list.h>
 #include <ox/geometry/ox_3dvector.h>
 #include <ox/polygon/ox_polygon.h>
-#include <ox/solid/internal/face_bounds.h>
-#include <ox/solid/internal/face_tree.h>
+#include <ox/solid/internal/search/face_bounds.h>
+#include <ox/solid/internal/search/face_tree.h>
+#include <ox/solid/internal/storage.h>
 
-namespace ox {
+namespace ox::internal {
 
-struct ox_solid_state;
+/// Polygons with an owner; a null one is yet to be made.
+using owned_faces = std::vector<std::unique_ptr<ox_polygon>>;
 
-/// A place in a primary storage.
-struct storage_place {
-    int size_index = 0; ///< of a contour among the sizes
-    int index = 0;      ///< of its first vertex index
+/// Whom the faces of a cache are shown to.
+enum class face_audience {
+    caller, ///< a caller of the library: they count among the living polygons once they are shown
+    nobody, ///< only the library itself: they never count
 };
 
-/// The faces of a solid as polygons, made from its primary storage when they are asked for, with
-/// the bounds and the tree that searches among them.
+/// The faces of a primary storage as polygons, made when they are asked for, with the bounds and
+/// the tree that searches among them. The storage must outlive the cache, which is emptied with
+/// every change of the storage.
 ///
-/// A face is *settled* when the contours that it has are those it was made from, bit for bit. What
-/// a polygon makes of its contours depends on nothing but their bits: so if a settled face is
-/// added to a solid, the face made of that is the same polygon again, and needs not be made.
+/// A face is *reproducible* when the contours that it has are those it was made from, bit for bit.
+/// What a polygon makes of its contours depends on nothing but their bits: so if a reproducible
+/// face is added to a solid, the face made of that is the same polygon again, and need not be made.
 ///
 /// The polygons are the solid's, but its callers may change one that they were shown. So bounds are
-/// found anew by `refresh_bounds`, once for each operation, and `is_settled` looks at the face as
-/// it stands.
+/// found anew by `refresh_bounds`, once for each operation, and `is_reproducible` looks at the face
+/// as it stands.
 class face_cache {
 public:
-    face_cache() = default;
+    explicit face_cache(const solid_storage& primary_storage,
+                        face_audience shown_to = face_audience::caller)
+        : storage(primary_storage), audience(shown_to) {}
 
-    /// Takes polygons for the first faces of a storage: each must be the settled face that its
-    /// part of the storage makes, or null where that face is yet to be made.
-    explicit face_cache(std::vector<std::unique_ptr<ox_polygon>> known);
-
-    face_cache(face_cache&& other) noexcept = default;
-    face_cache& operator=(face_cache&& other) noexcept;
-    ~face_cache();
-
-    /// The faces of the storage up to its first inconsistency, those made that were missing. The
-    /// storage must stay as it is while the cache is in use. O(n) after a change.
-    const ox_list<ox_polygon*>& get_list(const ox_solid_state& storage);
+    /// The faces of the storage up to its first contradiction, those made that are missing: all of
+    /// them or, after an allocation that failed, none. O(n) after a change.
+    const ox_list<ox_polygon*>& get_list();
 
     /// Finds the bounds of the listed faces anew. O(n).
     const std::vector<face_bounds>& refresh_bounds();
@@ -53,12 +50,20 @@ public:
     /// at the first call after a change, in O(n log n).
     const face_tree& get_tree();
 
-    /// Whether a face of the list is settled, and was changed by nobody since. O(n) for its n
+    /// True if a face of the list is reproducible, and was changed by nobody since. O(n) for its n
     /// vertices.
-    bool is_settled(const ox_solid_state& storage, int face) const;
+    bool is_reproducible(int face) const;
 
-    /// Hands over a face, leaving null in the list.
-    std::unique_ptr<ox_polygon> release(int face);
+    /// True if the list is all reproducible. O(n).
+    bool is_all_reproducible() const;
+
+    /// Empties the cache. The faces are the caller's, who may still be reading one.
+    owned_faces retire() noexcept;
+
+    /// Takes polygons for the first faces of the storage into the empty cache: each must be the
+    /// reproducible face that its part of the storage makes, or null. Until they are asked for they
+    /// do not count among the living polygons.
+    void keep(owned_faces known) noexcept;
 
 private:
     /// Where a face begins in the storage, and what it was when it was made.
@@ -68,18 +73,20 @@ private:
         bool had_contours_of_storage;
     };
 
-    class storage_reader;
+    void make_missing_faces();
+    void show(owned_faces made, std::vector<origin> made_origins);
+    bool has_contours_of(const storage_place& place, ox_polygon& face) const;
 
-    void make_missing_faces(const ox_solid_state& storage);
-    bool has_contours_of_storage(const ox_solid_state& storage, int face) const;
-
-    ox_list<ox_polygon*> list;
+    const solid_storage& storage;
+    const face_audience audience;
+    owned_faces faces;
+    ox_list<ox_polygon*> list; ///< of the same faces, once all of them are there
     std::vector<origin> origins;
     bool is_complete = false;
     std::vector<face_bounds> bounds;
     std::unique_ptr<face_tree> tree;
 };
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -1,7 +1,11 @@
 #ifndef OX_SOLID_INTERNAL_HALF_EDGES_H
 #define OX_SOLID_INTERNAL_HALF_EDGES_H
 
+#include <memory>
+#include <vector>
+
 #include <ox/core/ox_list.h>
+#include <ox/solid/internal/storage.h>
 
 namespace ox {
 
@@ -20,13 +24,22 @@ struct ox_solid_half_edge {
     ox_list<float> parameters;              ///< their places along the edge, empty
 };
 
-struct ox_solid_state;
+namespace internal {
 
-/// Builds the half-edges of the primary storage and joins each with its opposite: the first one
-/// that leaves its end vertex for its start vertex. Nothing happens when they are built already.
-/// A contour with an index out of range, or cut short by the end of the indices, keeps the
-/// half-edges before that place. O(n · d) for n indices and at most d half-edges at a vertex.
-void build_half_edges(ox_solid_state& state);
+/// The half-edges of a solid: none until they are built.
+struct half_edge_set {
+    std::vector<std::unique_ptr<ox_solid_half_edge>> edges;
+    bool is_closed = false; ///< every half-edge has an opposite
+
+    /// Builds the half-edges of a primary storage and joins each with its opposite: the first one
+    /// that leaves its end vertex for its start vertex. Nothing happens when they are built
+    /// already. A contour with an index out of range, or cut short by the end of the indices,
+    /// keeps the half-edges before that place. O(n · d) for n indices and at most d half-edges at
+    /// a vertex.
+    void build(const solid_storage& storage);
+};
+
+} // namespace internal
 
 } // namespace ox
 

@@ -7,69 +7,62 @@
 #include <ox/core/ox_list.h>
 #include <ox/geometry/ox_3dvector.h>
 #include <ox/geometry/ox_box.h>
-#include <ox/polygon/ox_polygon.h>
 #include <ox/solid/internal/face_cache.h>
 #include <ox/solid/internal/half_edges.h>
+#include <ox/solid/internal/storage.h>
 #include <ox/solid/internal/tolerances.h>
 
 namespace ox {
 
-class ox_solid;
+namespace internal {
 
-/// Number of stopwatches of a solid.
-constexpr int solid_chrono_count = 8;
+/// The phases of a boolean, which are timed.
+enum solid_phase { own_faces_phase, other_faces_phase, rebuild_phase, solid_phase_count };
+
+/// Faces with the storage that they are made from, kept for sections of the same faces.
+struct section_source {
+    solid_storage storage;
+    face_cache faces{storage, face_audience::nobody};
+};
+
+} // namespace internal
 
 /// The record behind a solid: its primary storage, the caches derived from it, and its settings.
 struct ox_solid_state {
-    explicit ox_solid_state(ox_solid* solid);
-    /// A record for `solid` with a copy of the primary storage of `source`, otherwise new.
-    ox_solid_state(ox_solid* solid, const ox_solid_state& source);
+    ox_solid_state() = default;
+    /// A record with a copy of a primary storage, otherwise new.
+    explicit ox_solid_state(const internal::solid_storage& primary_storage)
+        : storage(primary_storage) {}
     ox_solid_state(const ox_solid_state&) = delete;
     ox_solid_state& operator=(const ox_solid_state&) = delete;
-    ~ox_solid_state();
 
-    /// Drops all caches. The cached faces are handed to the caller, who may still be reading one.
-    face_cache invalidate();
+    /// Drops all caches: to be called after each change of the primary storage. The cached faces
+    /// are handed to the caller, who may still be reading one.
+    internal::owned_faces invalidate() noexcept;
 
-    /// Number of vertices, 0 for a list with a negative count.
-    unsigned int count_vertices() const;
+    /// Replaces the primary storage and drops all caches. The cached faces are handed over.
+    internal::owned_faces replace_storage(internal::solid_storage made) noexcept;
 
-    /// Appends a polygon to the primary storage as faces, one per outer boundary, each followed by
-    /// the holes directly inside it; the caches are the caller's business. Returns the number of
-    /// faces. O(n + c) for n vertices in c contours.
-    int append_polygon(ox_polygon& polygon);
+    /// The box around all vertices, found at the first call after a change.
+    const ox_box& get_bounding_box();
 
-    /// Whether the primary storage has a face at this place that is the only outer contour of
-    /// `polygon`, then its holes, with the same bits; moves the place behind them then. O(n).
-    bool holds_face(ox_polygon& polygon, storage_place& place) const;
-
-    /// Empties the primary storage and frees its memory; the caches are the caller's business.
-    void clear_primary_storage();
-
-    ox_solid* owner;
-
-    // Primary storage
-    ox_list<ox_3dvector> vertices;
-    ox_list<unsigned int> contours;
-    ox_list<int> contour_sizes;
+    internal::solid_storage storage;
 
     // Caches
     ox_box bounding_box;
-    face_cache faces;
+    internal::face_cache faces{storage};
     ox_list<ox_3dvector> tesselation_vertices;
     ox_list<unsigned int> tesselation_triangles;
-    std::unique_ptr<ox_solid_state> readded; ///< the solid made by adding the faces, for sections
+    std::unique_ptr<internal::section_source> added_again; ///< made by adding the faces as they are
 
-    float tolerance = solid_tolerance;
+    float tolerance = internal::solid_tolerance;
 
-    ox_list<ox_solid_half_edge*> half_edges; // owned; filled by build_half_edges only
+    internal::half_edge_set half_edges; ///< built by no public operation
     int manifold_status = 0;
 
     bool verbose = false;
     bool profiling = false;
-    ox_chrono chronos[solid_chrono_count]; // 0 to 2 time the phases of a boolean, 3 to 7 are spare
-
-    bool half_edges_closed = false; // every half-edge has an opposite
+    ox_chrono chronos[internal::solid_phase_count];
 };
 
 } // namespace ox

@@ -9,7 +9,7 @@
 #include <ox/internal/vectors.h>
 #include <ox/polygon/ox_polygon.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// Whether two lists hold the same bits.
 template <typename T>
@@ -28,6 +28,6 @@ inline bool have_same_contours(ox_polygon& a, ox_polygon& b) {
            have_same_bits(a.get_contour_parents(), b.get_contour_parents());
 }
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

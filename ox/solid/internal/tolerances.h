@@ -1,7 +1,7 @@
 #ifndef OX_SOLID_INTERNAL_TOLERANCES_H
 #define OX_SOLID_INTERNAL_TOLERANCES_H
 
-namespace ox {
+namespace ox::internal {
 
 /// Distance, in model units, below which booleans and sections take a point for lying on a plane,
 /// two ends for one and two planes for the same: ten steps of the polygons' integer grid, so the
@@ -109,6 +109,6 @@ constexpr double point_grid_cell = 8.0;
 /// Shift of that grid, in cells, so that round coordinates do not lie on the border of two cells.
 constexpr double point_grid_shift = 0.37;
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -124,12 +124,12 @@ TEST_F(OxListAllocation, MovingAllocatesNothing) {
 }
 
 TEST_F(OxListAllocation, MovedValueThatFindsNoRoomStaysWithTheCaller) {
-    ox::ox_list<rationed> list;
+    ox::ox_list<rationed> empty;
     rationed value(7);
     rationed::refused = true;
-    EXPECT_THROW(list.push_right(std::move(value)), std::bad_alloc);
+    EXPECT_THROW(empty.push_right(std::move(value)), std::bad_alloc);
     rationed::refused = false;
-    EXPECT_EQ(list.size(), 0);
+    EXPECT_EQ(empty.size(), 0);
     EXPECT_EQ(value.value, 7);
 }
 

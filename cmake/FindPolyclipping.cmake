@@ -1,6 +1,21 @@
 # Finds the polygon clipping library (Debian: libpolyclipping-dev) and defines
 # Polyclipping::Polyclipping. Only its 6.4 releases give the exact results that the
-# polygons promise.
+# polygons promise. OX_POLYCLIPPING_SOURCE names a folder with its sources instead, for a C++ standard
+# library that the installed one was not compiled with.
+
+if(OX_POLYCLIPPING_SOURCE AND NOT TARGET Polyclipping::Polyclipping)
+  enable_language(CXX)
+  add_library(polyclipping_from_source STATIC "${OX_POLYCLIPPING_SOURCE}/cpp/clipper.cpp")
+  target_include_directories(polyclipping_from_source SYSTEM
+                             PUBLIC "${OX_POLYCLIPPING_SOURCE}/cpp")
+  target_compile_options(polyclipping_from_source PRIVATE -w -ffp-contract=off)
+  set_target_properties(polyclipping_from_source PROPERTIES POSITION_INDEPENDENT_CODE ON)
+  add_library(Polyclipping::Polyclipping ALIAS polyclipping_from_source)
+endif()
+if(TARGET Polyclipping::Polyclipping)
+  set(Polyclipping_FOUND TRUE)
+  return()
+endif()
 
 find_path(Polyclipping_INCLUDE_DIR NAMES clipper.hpp PATH_SUFFIXES polyclipping)
 find_library(Polyclipping_LIBRARY NAMES polyclipping)

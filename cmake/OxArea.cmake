@@ -6,9 +6,7 @@
 function(ox_area name)
   cmake_parse_arguments(AREA "" "" "PUBLIC_HEADERS;SOURCES" ${ARGN})
   list(TRANSFORM AREA_SOURCES PREPEND "${CMAKE_CURRENT_SOURCE_DIR}/")
-  target_sources(ox_utilities PRIVATE ${AREA_SOURCES})
-  install(FILES ${AREA_PUBLIC_HEADERS}
-          DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/ox/${name}")
+  target_sources(ox_objects PRIVATE ${AREA_SOURCES})
   list(TRANSFORM AREA_PUBLIC_HEADERS PREPEND "ox/${name}/")
   set_property(GLOBAL APPEND PROPERTY OX_PUBLIC_HEADERS ${AREA_PUBLIC_HEADERS})
 endfunction()

@@ -1,4 +1,4 @@
-# Installs the library with its CMake package and its pkg-config file.
+# Installs the library with its headers, its licence, its CMake package and its pkg-config file.
 
 include(CMakePackageConfigHelpers)
 
@@ -17,15 +17,44 @@ install(
   DESTINATION "${OX_PACKAGE_DIR}"
   FILE ox_utilities-targets.cmake)
 
+get_property(public_headers GLOBAL PROPERTY OX_PUBLIC_HEADERS)
+foreach(header IN LISTS public_headers ITEMS ox/ox_utilities.h ox/ox_functions.h)
+  get_filename_component(folder "${header}" DIRECTORY)
+  install(FILES "${PROJECT_SOURCE_DIR}/${header}"
+          DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${folder}")
+endforeach()
+install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+
 configure_package_config_file(
   "${CMAKE_CURRENT_LIST_DIR}/ox_utilities-config.cmake.in"
   "${PROJECT_BINARY_DIR}/ox_utilities-config.cmake" INSTALL_DESTINATION "${OX_PACKAGE_DIR}")
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/ox_utilities-config-version.cmake"
-                                 COMPATIBILITY SameMinorVersion)
+                                 COMPATIBILITY SameMajorVersion)
 install(FILES "${PROJECT_BINARY_DIR}/ox_utilities-config.cmake"
               "${PROJECT_BINARY_DIR}/ox_utilities-config-version.cmake"
+              "${CMAKE_CURRENT_LIST_DIR}/FindPolyclipping.cmake"
         DESTINATION "${OX_PACKAGE_DIR}")
 
+# The pkg-config file knows its prefix from where it lies, so the installed tree can be moved, unless
+# the libraries were told to lie elsewhere.
+set(OX_PC_LIBDIR "${CMAKE_INSTALL_FULL_LIBDIR}")
+set(OX_PC_INCLUDEDIR "${CMAKE_INSTALL_FULL_INCLUDEDIR}")
+set(OX_PC_PREFIX "${CMAKE_INSTALL_PREFIX}")
+if(NOT IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}")
+  set(OX_PC_LIBDIR "\${prefix}/${CMAKE_INSTALL_LIBDIR}")
+  file(RELATIVE_PATH way_up "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
+  string(REGEX REPLACE "/$" "" way_up "${way_up}")
+  set(OX_PC_PREFIX "\${pcfiledir}/${way_up}")
+endif()
+if(NOT IS_ABSOLUTE "${CMAKE_INSTALL_INCLUDEDIR}")
+  set(OX_PC_INCLUDEDIR "\${prefix}/${CMAKE_INSTALL_INCLUDEDIR}")
+endif()
+set(OX_PC_DEFINITIONS "")
+set(OX_PC_LIBRARIES "")
+if(OX_LIBRARY_TYPE STREQUAL STATIC)
+  set(OX_PC_DEFINITIONS "-DOX_STATIC")
+  set(OX_PC_LIBRARIES "-lpolyclipping -lGLU -lGL ${OpenMP_CXX_FLAGS}")
+endif()
 configure_file("${CMAKE_CURRENT_LIST_DIR}/ox_utilities.pc.in"
                "${PROJECT_BINARY_DIR}/ox_utilities.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/ox_utilities.pc"

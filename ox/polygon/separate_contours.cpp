@@ -10,8 +10,10 @@
 #include <algorithm>
 #include <functional>
 #include <map>
-#include <memory_resource>
 #include <utility>
+#if __has_include(<memory_resource>)
+#include <memory_resource>
+#endif
 
 #include <ox/polygon/internal/monotone_contour.h>
 
@@ -60,12 +62,27 @@ std::vector<contour_level> levels_of(const separate_contour_list& contours,
     return levels;
 }
 
+/// Boxes by their left sides. Their nodes lie in one growing block, where the standard library has
+/// one (that of LLVM from version 16 on).
+#if __has_include(<memory_resource>)
+using box_map = std::pmr::map<cInt, int>;
+using box_memory = std::pmr::monotonic_buffer_resource;
+box_map map_in(box_memory& memory) {
+    return box_map(&memory);
+}
+#else
+using box_map = std::map<cInt, int>;
+struct box_memory {};
+box_map map_in(box_memory&) {
+    return box_map();
+}
+#endif
+
 // The boxes at one level by their left sides. They are nested or apart, so those around a place are
 // the one that begins before it, as far as it reaches, and those around that one.
 class level_of_boxes {
 public:
-    level_of_boxes(separate_contour_list& placed, std::pmr::memory_resource& memory)
-        : contours(placed), boxes(&memory) {}
+    explicit level_of_boxes(separate_contour_list& placed) : contours(placed) {}
 
     /// Adds a box that begins at this level. False when it overlaps or touches another.
     bool add(int index) {
@@ -94,7 +111,8 @@ private:
     separate_contour& contour(int index) { return contours[static_cast<std::size_t>(index)]; }
 
     separate_contour_list& contours;
-    std::pmr::map<cInt, int> boxes;
+    box_memory memory;
+    box_map boxes = map_in(memory);
 };
 
 // Finds the box directly around each. `begins` are the lowest levels in their order. The ends are
@@ -104,8 +122,7 @@ bool nest_boxes(separate_contour_list& contours, const std::vector<contour_level
         levels_of(contours, [](const separate_contour& c) { return c.box.high.Y; });
     const std::greater<contour_level> later;
     std::make_heap(ends.begin(), ends.end(), later);
-    std::pmr::monotonic_buffer_resource memory;
-    level_of_boxes level(contours, memory);
+    level_of_boxes level(contours);
     for (const contour_level& begin : begins) {
         while (ends.front().first < begin.first) {
             level.remove(ends.front().second);

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <ox/polygon/ox_polygon.h>
+#include <tests/support/dump.h>
 #include <tests/support/random_shapes.h>
 
 namespace polygon_checks {
@@ -56,6 +57,7 @@ inline void expect_same_contours(ox::ox_polygon& a, ox::ox_polygon& b) {
     expect_same_elements(a.get_contour_sizes(), b.get_contour_sizes());
     expect_same_elements(a.get_contour_orientations(), b.get_contour_orientations());
     expect_same_elements(a.get_contour_parents(), b.get_contour_parents());
+    support::dump_where_different(a, b, ::testing::Test::HasFailure());
 }
 
 /// What holds for every polygon after a merge or a boolean.

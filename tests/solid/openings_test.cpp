@@ -7,8 +7,8 @@
 #include <gtest/gtest.h>
 
 #include <ox/solid/ox_solid.h>
+#include <tests/support/dump.h>
 #include <tests/support/measures.h>
-#include <tests/support/printing.h>
 #include <tests/support/random_shapes.h>
 
 namespace {
@@ -34,9 +34,10 @@ ox_solid opening(float x0, float z0, float x1, float z1, float front = -0.1f,
 }
 
 void expect_solid(ox_solid& solid, int faces, double volume) {
-    EXPECT_EQ(support::count_faces(solid), faces) << support::to_text(solid);
-    EXPECT_NEAR(support::volume_of(solid), volume, volume_tolerance) << support::to_text(solid);
-    EXPECT_EQ(support::count_open_edges(solid), 0) << support::to_text(solid);
+    EXPECT_EQ(support::count_faces(solid), faces) << support::seen(solid, "solid");
+    EXPECT_NEAR(support::volume_of(solid), volume, volume_tolerance)
+        << support::seen(solid, "solid");
+    EXPECT_EQ(support::count_open_edges(solid), 0) << support::seen(solid, "solid");
 }
 
 TEST(WallWithOpening, ThroughOpeningAddsFourReveals) {

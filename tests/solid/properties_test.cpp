@@ -11,8 +11,8 @@
 #include <gtest/gtest.h>
 
 #include <ox/solid/ox_solid.h>
+#include <tests/support/dump.h>
 #include <tests/support/measures.h>
-#include <tests/support/printing.h>
 #include <tests/support/random_shapes.h>
 
 namespace {
@@ -156,9 +156,8 @@ void expect_laws_within(double distance_from_origin, int pairs, std::uint64_t se
         overlapping += errors.overlapping ? 1 : 0;
         worst = std::max({worst, errors.union_law, errors.difference_law});
         ASSERT_LE(std::max(errors.union_law, errors.difference_law), limit)
-            << "seed " << seed << ", pair " << i << "\nA:\n"
-            << support::to_text(pair.a) << "B:\n"
-            << support::to_text(pair.b);
+            << "seed " << seed << ", pair " << i << '\n'
+            << support::seen(pair.a, "A") << support::seen(pair.b, "B");
     }
     EXPECT_GT(overlapping, pairs / 2) << "too few pairs meet to say anything";
     ::testing::Test::RecordProperty("worst_error_per_area", std::to_string(worst));
@@ -278,7 +277,7 @@ TEST(OxSolidProperties, TheTwoHalvesOfAClippedSolidMakeUpTheWhole) {
         ASSERT_NEAR(support::volume_of(below, apex) + support::volume_of(above, apex),
                     measured.volume, 2.0 * allowed_error_per_area(4.0) * area)
             << "seed 12, solid " << i << '\n'
-            << support::to_text(whole);
+            << support::seen(whole, "whole");
     }
     EXPECT_GT(clipped, 100);
 }

@@ -9,6 +9,7 @@
 
 #include <ox/polygon/ox_polygon.h>
 #include <tests/solid/solid_lists.h>
+#include <tests/support/dump.h>
 
 namespace ox_test {
 
@@ -29,6 +30,7 @@ inline void expect_same_polygon(ox::ox_polygon& a, ox::ox_polygon& b) {
     EXPECT_EQ(a.get_area(), b.get_area());
     EXPECT_TRUE(have_same_bits(a.get_tesselation_vertices(), b.get_tesselation_vertices()));
     EXPECT_EQ(to_vector(a.get_tesselation_triangles()), to_vector(b.get_tesselation_triangles()));
+    support::dump_where_different(a, b, ::testing::Test::HasFailure());
 }
 
 /// Expects new polygons, which it deletes, to be the expected ones.

@@ -1,15 +1,127 @@
 #include <ox/solid/internal/csg/evaluation.h>
 
+#include <utility>
+
+#include <ox/solid/internal/csg/half_space.h>
+#include <ox/solid/internal/csg/overlay.h>
+#include <ox/solid/internal/csg/result_boundary.h>
+#include <ox/solid/internal/csg/scene.h>
+#include <ox/solid/internal/csg/shell.h>
+#include <ox/solid/internal/csg/snapping.h>
+#include <ox/solid/internal/csg/working_grid.h>
+
 namespace ox::internal::csg {
 
-evaluation_end evaluate(const std::vector<operand>& operands, float /*tolerance*/,
-                        const progress_report& /*report*/, boundary& result,
-                        std::vector<ox_csg_problem>& /*problems*/) {
-    if (operands.empty()) {
-        result = boundary();
-        return evaluation_end::done;
+namespace {
+
+// How much of the work is done after each stage.
+constexpr double done_when_read = 0.1;
+constexpr double done_when_snapped = 0.2;
+constexpr double done_when_cut = 0.3;
+constexpr double done_when_arranged = 0.8;
+
+/// Reports the progress of one stage as part of the whole.
+progress_report stage_report(const progress_report& report, double from, double to) {
+    return [&report, from, to](double done) { return report(from + (to - from) * done); };
+}
+
+/// Reads the solids among the operands; half-spaces become shells without faces for now. False
+/// where `report` ended the work.
+bool read_shells(const std::vector<operand>& operands, float tolerance, const working_grid& grid,
+                 const progress_report& report, std::vector<shell>& shells,
+                 std::vector<ox_csg_problem>& problems) {
+    for (std::size_t i = 0; i < operands.size(); ++i) {
+        const int number = static_cast<int>(i);
+        shells.emplace_back();
+        const std::size_t problem_count = problems.size();
+        if (operands[i].is_half_space) {
+            check_half_space(operands[i], number, problems);
+        } else {
+            shells.back() = read_shell(operands[i], number, tolerance, grid, problems);
+            if (problems.size() == problem_count) {
+                weld(shells.back(), grid);
+                close_shell(shells.back(), number, grid, problems);
+            }
+        }
+        if (!report(static_cast<double>(i + 1) / static_cast<double>(operands.size()))) {
+            return false;
+        }
     }
-    return evaluation_end::stopped;
+    return true;
+}
+
+/// Gives the half-spaces their boxes around all solids.
+void make_half_spaces(const std::vector<operand>& operands, const working_grid& grid,
+                      std::vector<shell>& shells) {
+    grid_box extent;
+    for (const shell& placed : shells) {
+        for (const grid_point& point : placed.points) {
+            extent.include(point);
+        }
+    }
+    for (std::size_t i = 0; i < operands.size(); ++i) {
+        if (operands[i].is_half_space) {
+            shells[i] = make_half_space(operands[i], extent, grid);
+        }
+    }
+}
+
+/// What the arrangement is given.
+arrangement_input make_input(const std::vector<operand>& operands, const scene& faces,
+                             const std::vector<face_triangle>& triangles) {
+    arrangement_input input;
+    input.points = faces.points;
+    for (const face_triangle& triangle : triangles) {
+        input.triangles.push_back(
+            {triangle.vertices, faces.faces[static_cast<std::size_t>(triangle.face)].operand});
+    }
+    for (const operand& given : operands) {
+        input.operations.push_back(given.role);
+    }
+    return input;
+}
+
+/// Evaluates shells that are closed; false where `report` ended the work.
+bool combine(const std::vector<operand>& operands, const std::vector<shell>& shells,
+             const working_grid& grid, const progress_report& report, boundary& result) {
+    scene faces = place_shells(shells, grid);
+    cluster_planes(faces, grid);
+    std::vector<face_triangle> triangles;
+    if (!snap_edges(faces, grid, stage_report(report, done_when_read, done_when_snapped)) ||
+        !triangulate_faces(faces, stage_report(report, done_when_snapped, done_when_cut),
+                           triangles)) {
+        return false;
+    }
+    arrangement_result arranged;
+    return arrange(make_input(operands, faces, triangles),
+                   stage_report(report, done_when_cut, done_when_arranged), arranged) &&
+           make_boundary(arranged, faces, triangles, grid,
+                         stage_report(report, done_when_arranged, 1.0), result);
+}
+
+} // namespace
+
+evaluation_end evaluate(const std::vector<operand>& operands, float tolerance,
+                        const progress_report& report, boundary& result,
+                        std::vector<ox_csg_problem>& problems) {
+    const working_grid grid(operands, tolerance);
+    std::vector<shell> shells;
+    std::vector<ox_csg_problem> found;
+    if (!read_shells(operands, tolerance, grid, stage_report(report, 0.0, done_when_read), shells,
+                     found)) {
+        return evaluation_end::stopped;
+    }
+    if (!found.empty()) {
+        problems = std::move(found);
+        return evaluation_end::refused;
+    }
+    make_half_spaces(operands, grid, shells);
+    boundary made;
+    if (!combine(operands, shells, grid, report, made)) {
+        return evaluation_end::stopped;
+    }
+    result = std::move(made);
+    return evaluation_end::done;
 }
 
 } // namespace ox::internal::csg

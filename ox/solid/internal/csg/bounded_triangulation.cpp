@@ -1,0 +1,119 @@
+#include <ox/solid/internal/csg/bounded_triangulation.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <utility>
+
+#include <ox/solid/internal/csg/edge_register.h>
+#include <ox/solid/internal/csg/planar_triangulation.h>
+#include <ox/solid/internal/csg/planar_view.h>
+
+namespace ox::internal::csg {
+
+namespace {
+
+/// The points of some faces under numbers of their own, in the view along a normal.
+struct viewed_points {
+    std::vector<int> names; // ascending
+    std::vector<planar_point> places;
+
+    viewed_points(const std::vector<grid_point>& points,
+                  const std::vector<const face_boundary*>& faces,
+                  const std::array<double, 3>& normal) {
+        for (const face_boundary* face : faces) {
+            for (const directed_edge& edge : *face) {
+                names.insert(names.end(), edge.begin(), edge.end());
+            }
+        }
+        std::sort(names.begin(), names.end());
+        names.erase(std::unique(names.begin(), names.end()), names.end());
+        const planar_view view(normal);
+        for (const int name : names) {
+            places.push_back(view.see(points[static_cast<std::size_t>(name)]));
+        }
+    }
+
+    int number_of(int name) const {
+        return static_cast<int>(std::lower_bound(names.begin(), names.end(), name) - names.begin());
+    }
+
+    int name_of(int number) const { return names[static_cast<std::size_t>(number)]; }
+};
+
+/// A triangle as often as its face covers it, turned over where it does so negatively.
+void append_covered(const viewed_points& viewed, const covered_triangle& covered,
+                    triangle_list& triangles) {
+    std::array<int, 3> named = {viewed.name_of(covered.vertices[0]),
+                                viewed.name_of(covered.vertices[1]),
+                                viewed.name_of(covered.vertices[2])};
+    if (covered.winding < 0) {
+        std::swap(named[1], named[2]);
+    }
+    triangles.insert(triangles.end(), static_cast<std::size_t>(std::abs(covered.winding)), named);
+}
+
+triangle_list make_cone(const face_boundary& face) {
+    triangle_list cone;
+    for (const directed_edge& edge : face) {
+        const int apex = face.front()[0];
+        if (edge[0] != apex && edge[1] != apex) {
+            cone.push_back({apex, edge[0], edge[1]});
+        }
+    }
+    return cone;
+}
+
+} // namespace
+
+bool is_boundary_of(const face_boundary& boundary, const triangle_list& triangles) {
+    face_boundary difference;
+    difference.reserve(boundary.size() + 3 * triangles.size());
+    for (const directed_edge& edge : boundary) {
+        difference.push_back({edge[1], edge[0]});
+    }
+    for (const std::array<int, 3>& t : triangles) {
+        difference.push_back({t[0], t[1]});
+        difference.push_back({t[1], t[2]});
+        difference.push_back({t[2], t[0]});
+    }
+    cancel_opposites(difference);
+    return difference.empty();
+}
+
+std::vector<triangle_list> triangulate_together(const std::vector<grid_point>& points,
+                                                const std::vector<const face_boundary*>& faces,
+                                                const std::array<double, 3>& normal,
+                                                std::vector<bool>& fits) {
+    const viewed_points viewed(points, faces, normal);
+    std::vector<region_edge> edges;
+    for (std::size_t f = 0; f < faces.size(); ++f) {
+        for (const directed_edge& edge : *faces[f]) {
+            edges.push_back(
+                {viewed.number_of(edge[0]), viewed.number_of(edge[1]), static_cast<int>(f)});
+        }
+    }
+    std::vector<covered_triangle> covered;
+    std::vector<triangle_list> triangles(faces.size());
+    if (triangulate_regions(viewed.places, edges, covered)) {
+        for (const covered_triangle& triangle : covered) {
+            append_covered(viewed, triangle, triangles[static_cast<std::size_t>(triangle.region)]);
+        }
+    }
+    fits.assign(faces.size(), true);
+    for (std::size_t f = 0; f < faces.size(); ++f) {
+        if (!is_boundary_of(*faces[f], triangles[f])) {
+            triangles[f].clear();
+            fits[f] = false;
+        }
+    }
+    return triangles;
+}
+
+triangle_list triangulate_alone(const std::vector<grid_point>& points, const face_boundary& face,
+                                const std::array<double, 3>& normal) {
+    std::vector<bool> fits;
+    std::vector<triangle_list> made = triangulate_together(points, {&face}, normal, fits);
+    return fits.front() ? std::move(made.front()) : make_cone(face);
+}
+
+} // namespace ox::internal::csg

@@ -1,0 +1,172 @@
+#include <ox/solid/internal/csg/face_groups.h>
+
+#include <algorithm>
+#include <numeric>
+#include <tuple>
+
+#include <ox/solid/internal/csg/edge_register.h>
+#include <ox/solid/internal/csg/plane_growth.h>
+
+namespace ox::internal::csg {
+
+namespace {
+
+/// Part of the tolerance within which pieces of different operands are of one plane.
+constexpr double common_plane_share = 0.3;
+
+/// Spacings of floats within which the corners of one operand's faces are of one plane.
+constexpr double own_plane_spacings = 4.0;
+
+/// Cosine between the normals of pieces of one plane.
+constexpr double same_way_cosine = 0.7;
+
+/// An edge of a piece.
+struct piece_edge {
+    directed_edge edge;
+    int piece;
+
+    bool operator<(const piece_edge& other) const {
+        return std::tie(edge, piece) < std::tie(other.edge, other.piece);
+    }
+};
+
+class group_search {
+public:
+    group_search(const result_pieces& result, const scene& scene_faces, const working_grid& grid);
+    std::vector<face_group> run();
+
+private:
+    face_group grow_from(int first);
+    double allowed_deviation(int piece, int first, const std::array<double, 3>& normal) const;
+    bool is_thin(const result_piece& piece, double reach) const;
+    void visit_neighbours(int piece, std::vector<int>& neighbours) const;
+
+    const result_piece& at(int piece) const {
+        return result.pieces[static_cast<std::size_t>(piece)];
+    }
+
+    const result_pieces& result;
+    const scene& faces;
+    double common_reach;
+    double own_reach;
+    std::vector<piece_edge> edges; // sorted
+    std::vector<bool> is_grouped;
+    std::vector<bool> is_narrow; // pieces whose normal says nothing
+};
+
+group_search::group_search(const result_pieces& given, const scene& scene_faces,
+                           const working_grid& grid)
+    : result(given), faces(scene_faces),
+      common_reach((std::max)(grid.get_tolerance() * common_plane_share, grid.get_float_spacing())),
+      own_reach((std::min)(own_plane_spacings * grid.get_float_spacing(), common_reach)),
+      is_grouped(given.pieces.size(), false) {
+    for (std::size_t i = 0; i < result.pieces.size(); ++i) {
+        for (const directed_edge& edge : result.pieces[i].boundary) {
+            edges.push_back({edge, static_cast<int>(i)});
+        }
+        is_narrow.push_back(is_thin(result.pieces[i], common_reach));
+    }
+    std::sort(edges.begin(), edges.end());
+}
+
+/// The pieces not in a group yet with an edge against one of the given piece's.
+void group_search::visit_neighbours(int piece, std::vector<int>& neighbours) const {
+    for (const directed_edge& edge : result.pieces[static_cast<std::size_t>(piece)].boundary) {
+        const directed_edge opposite = {edge[1], edge[0]};
+        auto place = std::lower_bound(edges.begin(), edges.end(), piece_edge{opposite, 0});
+        for (; place != edges.end() && place->edge == opposite; ++place) {
+            if (!is_grouped[static_cast<std::size_t>(place->piece)]) {
+                neighbours.push_back(place->piece);
+            }
+        }
+    }
+}
+
+/// True if the piece is narrower than the reach, so that its normal says nothing.
+bool group_search::is_thin(const result_piece& piece, double reach) const {
+    const fitted_plane own = fit_plane(result.points, piece.boundary);
+    double longest = 0.0;
+    for (const directed_edge& edge : piece.boundary) {
+        const std::array<double, 3> way =
+            difference(result.points[static_cast<std::size_t>(edge[0])],
+                       result.points[static_cast<std::size_t>(edge[1])]);
+        longest = (std::max)(longest, dot(way, way));
+    }
+    return own.area * own.area <= reach * reach * longest;
+}
+
+double group_search::allowed_deviation(int piece, int first,
+                                       const std::array<double, 3>& normal) const {
+    const result_piece& candidate = at(piece);
+    const result_piece& beginning = at(first);
+    if (candidate.is_of_face && candidate.face == beginning.face &&
+        candidate.is_reversed == beginning.is_reversed) {
+        return 1e300; // of the same face, wherever its corners were moved to
+    }
+    if (dot(candidate.plane.normal, normal) <= same_way_cosine &&
+        !is_narrow[static_cast<std::size_t>(piece)]) {
+        return -1.0;
+    }
+    const auto operand_of = [this](const result_piece& p) {
+        return faces.faces[static_cast<std::size_t>(p.face)].operand;
+    };
+    return operand_of(candidate) == operand_of(beginning) ? own_reach : common_reach;
+}
+
+face_group group_search::grow_from(int first) {
+    const auto is_taken = [this](int piece) { return is_grouped[static_cast<std::size_t>(piece)]; };
+    plane_candidates candidates;
+    candidates.points = &result.points;
+    candidates.boundary_of = [this](int piece) -> const face_boundary& {
+        return at(piece).boundary;
+    };
+    candidates.find_neighbours = [this](int piece, std::vector<int>& found) {
+        visit_neighbours(piece, found);
+    };
+    candidates.allowed_deviation = [&](int piece, const std::array<double, 3>& normal) {
+        return is_taken(piece) ? -1.0 : allowed_deviation(piece, first, normal);
+    };
+    candidates.is_reversed = [](int, const std::array<double, 3>&) { return false; };
+    candidates.join = [this](int piece) { is_grouped[static_cast<std::size_t>(piece)] = true; };
+    face_group group;
+    group.plane = at(first).plane;
+    candidates.join(first);
+    group.pieces = collect_plane(first, group.plane, common_reach, candidates);
+    group.first_face = at(first).face;
+    for (const int piece : group.pieces) {
+        const face_boundary& part = at(piece).boundary;
+        group.boundary.insert(group.boundary.end(), part.begin(), part.end());
+        group.first_face = (std::min)(group.first_face, at(piece).face);
+    }
+    cancel_opposites(group.boundary);
+    return group;
+}
+
+std::vector<face_group> group_search::run() {
+    std::vector<int> order(result.pieces.size());
+    std::iota(order.begin(), order.end(), 0);
+    const auto area = [this](int i) {
+        return result.pieces[static_cast<std::size_t>(i)].plane.area;
+    };
+    std::stable_sort(order.begin(), order.end(),
+                     [&area](int a, int b) { return area(a) > area(b); });
+    std::vector<face_group> groups;
+    for (const int first : order) {
+        if (!is_grouped[static_cast<std::size_t>(first)]) {
+            groups.push_back(grow_from(first));
+        }
+    }
+    std::stable_sort(groups.begin(), groups.end(), [](const face_group& a, const face_group& b) {
+        return a.first_face < b.first_face;
+    });
+    return groups;
+}
+
+} // namespace
+
+std::vector<face_group> group_faces(const result_pieces& result, const scene& faces,
+                                    const working_grid& grid) {
+    return group_search(result, faces, grid).run();
+}
+
+} // namespace ox::internal::csg

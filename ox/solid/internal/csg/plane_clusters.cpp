@@ -1,0 +1,100 @@
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+#include <vector>
+
+#include <ox/solid/internal/csg/plane_growth.h>
+#include <ox/solid/internal/csg/scene.h>
+
+namespace ox::internal::csg {
+
+namespace {
+
+/// Cosine between the normals of faces that may be of one plane: a small face that stands across a
+/// plane lies within the tolerance of it too.
+constexpr double parallel_cosine = 0.7;
+
+/// Grows the clusters of a scene, the largest faces first.
+class cluster_search {
+public:
+    cluster_search(scene& all, double reach);
+    void run();
+
+private:
+    void grow_from(int first);
+    double allowed_deviation(int face, const std::array<double, 3>& normal) const;
+    scene_face& at(int face) const { return faces.faces[static_cast<std::size_t>(face)]; }
+
+    scene& faces;
+    double tolerance;
+    std::vector<grid_box> boxes;
+    box_tree tree;
+};
+
+std::vector<grid_box> grown_boxes(const scene& faces, double margin) {
+    std::vector<grid_box> boxes;
+    for (const scene_face& face : faces.faces) {
+        boxes.push_back(box_of_face(faces, face));
+        boxes.back().grow(margin);
+    }
+    return boxes;
+}
+
+cluster_search::cluster_search(scene& all, double reach)
+    : faces(all), tolerance(reach), boxes(grown_boxes(all, reach)), tree(boxes) {
+    for (scene_face& face : faces.faces) {
+        face.cluster = -1;
+    }
+}
+
+void cluster_search::run() {
+    std::vector<int> order(faces.faces.size());
+    std::iota(order.begin(), order.end(), 0);
+    const auto area = [this](int i) { return faces.faces[static_cast<std::size_t>(i)].plane.area; };
+    std::stable_sort(order.begin(), order.end(),
+                     [&area](int a, int b) { return area(a) > area(b); });
+    for (const int first : order) {
+        if (faces.faces[static_cast<std::size_t>(first)].cluster < 0) {
+            grow_from(first);
+        }
+    }
+}
+
+double cluster_search::allowed_deviation(int face, const std::array<double, 3>& normal) const {
+    const bool is_parallel = std::fabs(dot(at(face).plane.normal, normal)) > parallel_cosine;
+    return is_parallel && at(face).unevenness <= tolerance ? tolerance : -1.0;
+}
+
+void cluster_search::grow_from(int first) {
+    at(first).cluster = first;
+    if (at(first).unevenness > tolerance || at(first).plane.area == 0.0) {
+        return;
+    }
+    plane_candidates candidates;
+    candidates.points = &faces.points;
+    candidates.boundary_of = [this](int face) -> const face_boundary& { return at(face).boundary; };
+    candidates.find_neighbours = [this](int face, std::vector<int>& found) {
+        tree.visit_meeting(boxes[static_cast<std::size_t>(face)], [&](int other) {
+            if (at(other).cluster < 0) {
+                found.push_back(other);
+            }
+        });
+    };
+    candidates.allowed_deviation = [this](int face, const std::array<double, 3>& normal) {
+        return at(face).cluster < 0 ? allowed_deviation(face, normal) : -1.0;
+    };
+    candidates.is_reversed = [this](int face, const std::array<double, 3>& normal) {
+        return dot(at(face).plane.normal, normal) < 0.0;
+    };
+    candidates.join = [this, first](int face) { at(face).cluster = first; };
+    fitted_plane plane = at(first).plane;
+    collect_plane(first, plane, tolerance, candidates);
+}
+
+} // namespace
+
+void cluster_planes(scene& faces, const working_grid& grid) {
+    cluster_search(faces, std::max(grid.get_tolerance(), 1.0)).run();
+}
+
+} // namespace ox::internal::csg

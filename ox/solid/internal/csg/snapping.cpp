@@ -1,0 +1,310 @@
+#include <ox/solid/internal/csg/snapping.h>
+
+#include <algorithm>
+
+#include <ox/solid/internal/csg/edge_register.h>
+#include <ox/solid/internal/csg/planar_view.h>
+#include <ox/solid/internal/csg/point_index.h>
+#include <ox/solid/internal/csg/segment_distance.h>
+
+// An edge is named by its two points, and all faces along it name the same one. So it is enough to
+// say at which points it is divided: every face receives the same path, and what was closed stays
+// closed. Dividing an edge at a point beside it bends it, by the tolerance at most, and may make
+// new crossings; so the search is repeated for the parts of divided edges, a few times at most.
+// What is left then costs a sliver, not the guarantee.
+
+namespace ox::internal::csg {
+
+namespace {
+
+/// Searches after which crossings are left to the arrangement.
+constexpr int largest_round_count = 6;
+
+/// Part of the tolerance within which the crossing of two edges is taken for a point that is there.
+constexpr double crossing_reach = 0.5;
+
+/// Pairs of edges between two reports.
+constexpr int report_interval = 50000;
+
+/// Several operands have the edge.
+constexpr int shared_operand = -1;
+
+/// What is known of an edge in a round.
+struct edge_record {
+    int operand;
+    bool is_fresh;
+    std::vector<int> clusters; // ascending
+};
+
+/// One point in common for two edges that pass each other.
+struct closest_places {
+    double first;
+    double second;
+    double square_distance;
+};
+
+/// The nearest places of the lines through two segments; parameters of -1 where they are parallel.
+closest_places find_closest(const grid_point& a, const grid_point& b, const grid_point& c,
+                            const grid_point& d) {
+    const std::array<double, 3> u = difference(a, b);
+    const std::array<double, 3> v = difference(c, d);
+    const std::array<double, 3> w = difference(c, a);
+    const double uu = dot(u, u);
+    const double uv = dot(u, v);
+    const double vv = dot(v, v);
+    const double uw = dot(u, w);
+    const double vw = dot(v, w);
+    const std::array<double, 3> normal = cross(u, v);
+    const double determinant = dot(normal, normal);
+    if (!(determinant > 0.0)) {
+        return {-1.0, -1.0, 0.0};
+    }
+    const double s = (uv * vw - vv * uw) / determinant;
+    const double t = (uu * vw - uv * uw) / determinant;
+    const std::array<double, 3> between = {w[0] + s * u[0] - t * v[0], w[1] + s * u[1] - t * v[1],
+                                           w[2] + s * u[2] - t * v[2]};
+    return {s, t, dot(between, between)};
+}
+
+class edge_snapper {
+public:
+    edge_snapper(scene& all, double reach, const progress_report& progress);
+
+    /// True where no edge was divided.
+    bool run_round(int round);
+
+    bool is_stopped() const { return stopped; }
+
+private:
+    void record_edges();
+    void search(int round);
+    void compare(int e, int f);
+    void divide_at_end(int edge, int point, bool& touched);
+    void join_passing(int e, int f);
+    void join_crossing(int e, int f);
+    void join_at(int e, int f, double parameter);
+    bool may_differ(int e, int f) const;
+    int common_cluster(int e, int f) const;
+    void apply();
+
+    const grid_point& at(int point) const { return faces.points[static_cast<std::size_t>(point)]; }
+    const edge_record& record(int edge) const { return records[static_cast<std::size_t>(edge)]; }
+
+    scene& faces;
+    double tolerance;
+    const progress_report& report;
+    bool stopped = false;
+    int compared = 0;
+
+    edge_register edges;
+    std::vector<edge_record> records;
+    std::vector<bool> was_known; // edges of the rounds before
+    edge_division division{0};
+    point_index near;
+};
+
+edge_snapper::edge_snapper(scene& all, double reach, const progress_report& progress)
+    : faces(all), tolerance(reach), report(progress), near(reach * crossing_reach) {
+    for (std::size_t i = 0; i < faces.points.size(); ++i) {
+        near.add(faces.points[i], static_cast<int>(i));
+    }
+}
+
+bool edge_snapper::run_round(int round) {
+    record_edges();
+    division = edge_division(edges.size());
+    search(round);
+    if (stopped || division.is_empty()) {
+        return true;
+    }
+    apply();
+    return false;
+}
+
+/// Names every edge of every face anew, those of this round with new numbers.
+void edge_snapper::record_edges() {
+    const std::size_t known = static_cast<std::size_t>(edges.size());
+    records.clear();
+    for (const scene_face& face : faces.faces) {
+        for (const directed_edge& edge : face.boundary) {
+            const auto number = static_cast<std::size_t>(edges.find_or_add(edge[0], edge[1]));
+            if (number >= records.size()) {
+                records.resize(number + 1, {shared_operand, false, {}});
+            }
+            edge_record& found = records[number];
+            found.is_fresh = number >= known;
+            if (found.clusters.empty()) {
+                found.operand = face.operand;
+            } else if (found.operand != face.operand) {
+                found.operand = shared_operand;
+            }
+            if (std::find(found.clusters.begin(), found.clusters.end(), face.cluster) ==
+                found.clusters.end()) {
+                found.clusters.push_back(face.cluster);
+            }
+        }
+    }
+    records.resize(static_cast<std::size_t>(edges.size()), {shared_operand, false, {}});
+}
+
+/// True if the edges may be of different operands.
+bool edge_snapper::may_differ(int e, int f) const {
+    return record(e).operand == shared_operand || record(e).operand != record(f).operand;
+}
+
+int edge_snapper::common_cluster(int e, int f) const {
+    for (const int cluster : record(e).clusters) {
+        for (const int other : record(f).clusters) {
+            if (cluster == other) {
+                return cluster;
+            }
+        }
+    }
+    return -1;
+}
+
+void edge_snapper::search(int round) {
+    std::vector<grid_box> boxes(records.size());
+    for (std::size_t e = 0; e < records.size(); ++e) {
+        if (!records[e].clusters.empty()) {
+            boxes[e].include(at(edges.ends(static_cast<int>(e))[0]));
+            boxes[e].include(at(edges.ends(static_cast<int>(e))[1]));
+            boxes[e].grow(tolerance);
+        }
+    }
+    const box_tree tree(boxes);
+    for (int e = 0; e < static_cast<int>(records.size()) && !stopped; ++e) {
+        if (record(e).clusters.empty() || !record(e).is_fresh) {
+            continue;
+        }
+        tree.visit_meeting(boxes[static_cast<std::size_t>(e)], [&](int f) {
+            const bool is_own_turn = f != e && (!record(f).is_fresh || e < f);
+            if (is_own_turn && !record(f).clusters.empty() && (round > 0 || may_differ(e, f))) {
+                compare(e, f);
+            }
+        });
+    }
+}
+
+void edge_snapper::compare(int e, int f) {
+    if (stopped || ++compared % report_interval == 0) {
+        stopped = stopped || !report(0.0);
+    }
+    bool touched = false;
+    if (may_differ(e, f)) {
+        for (const int point : edges.ends(f)) {
+            divide_at_end(e, point, touched);
+        }
+        for (const int point : edges.ends(e)) {
+            divide_at_end(f, point, touched);
+        }
+    }
+    const directed_edge& first = edges.ends(e);
+    const directed_edge& second = edges.ends(f);
+    const bool is_shared = first[0] == second[0] || first[0] == second[1] ||
+                           first[1] == second[0] || first[1] == second[1];
+    if (touched || is_shared) {
+        return;
+    }
+    if (may_differ(e, f)) {
+        join_passing(e, f);
+    } else {
+        join_crossing(e, f);
+    }
+}
+
+void edge_snapper::divide_at_end(int edge, int point, bool& touched) {
+    const directed_edge& ends = edges.ends(edge);
+    if (ends[0] != point && ends[1] != point &&
+        lies_along(at(ends[0]), at(ends[1]), at(point), tolerance)) {
+        division.add(edge, point);
+        touched = true;
+    }
+}
+
+/// Joins edges that pass each other within the tolerance, or cross in a plane that both lie in.
+void edge_snapper::join_passing(int e, int f) {
+    const directed_edge& first = edges.ends(e);
+    const directed_edge& second = edges.ends(f);
+    const closest_places places =
+        find_closest(at(first[0]), at(first[1]), at(second[0]), at(second[1]));
+    const bool is_inside =
+        places.first > 0.0 && places.first < 1.0 && places.second > 0.0 && places.second < 1.0;
+    if (is_inside && places.square_distance <= tolerance * tolerance) {
+        join_at(e, f, places.first);
+    } else {
+        join_crossing(e, f);
+    }
+}
+
+void edge_snapper::join_crossing(int e, int f) {
+    const int cluster = common_cluster(e, f);
+    if (cluster < 0) {
+        return;
+    }
+    const planar_view view(faces.faces[static_cast<std::size_t>(cluster)].plane.normal);
+    const planar_point a = view.see(at(edges.ends(e)[0]));
+    const planar_point b = view.see(at(edges.ends(e)[1]));
+    const planar_point c = view.see(at(edges.ends(f)[0]));
+    const planar_point d = view.see(at(edges.ends(f)[1]));
+    if (orientation(a, b, c) * orientation(a, b, d) >= 0 ||
+        orientation(c, d, a) * orientation(c, d, b) >= 0) {
+        return;
+    }
+    const double ux = static_cast<double>(b.x - a.x);
+    const double uy = static_cast<double>(b.y - a.y);
+    const double vx = static_cast<double>(d.x - c.x);
+    const double vy = static_cast<double>(d.y - c.y);
+    const double wx = static_cast<double>(c.x - a.x);
+    const double wy = static_cast<double>(c.y - a.y);
+    const double determinant = ux * vy - uy * vx;
+    if (determinant != 0.0) {
+        join_at(e, f, std::clamp((wx * vy - wy * vx) / determinant, 0.0, 1.0));
+    }
+}
+
+/// Divides both edges at a place of the first one: at a point that is there or a new one.
+void edge_snapper::join_at(int e, int f, double parameter) {
+    const directed_edge first = edges.ends(e);
+    const directed_edge second = edges.ends(f);
+    const grid_point place = point_between(at(first[0]), at(first[1]), parameter);
+    int point = near.find_nearest(place);
+    if (point < 0) {
+        point = static_cast<int>(faces.points.size());
+        faces.points.push_back(place);
+        near.add(place, point);
+    }
+    if (point != first[0] && point != first[1]) {
+        division.add(e, point);
+    }
+    if (point != second[0] && point != second[1]) {
+        division.add(f, point);
+    }
+}
+
+void edge_snapper::apply() {
+    division.sort(edges, faces.points);
+    for (scene_face& face : faces.faces) {
+        const bool is_divided =
+            std::any_of(face.boundary.begin(), face.boundary.end(), [this](const directed_edge& e) {
+                return division.divides(edges.find_or_add(e[0], e[1]));
+            });
+        if (is_divided) {
+            division.apply(edges, face.boundary);
+        }
+    }
+}
+
+} // namespace
+
+bool snap_edges(scene& faces, const working_grid& grid, const progress_report& report) {
+    edge_snapper snapper(faces, grid.get_tolerance(), report);
+    for (int round = 0; round < largest_round_count; ++round) {
+        if (snapper.run_round(round)) {
+            break;
+        }
+    }
+    return !snapper.is_stopped();
+}
+
+} // namespace ox::internal::csg

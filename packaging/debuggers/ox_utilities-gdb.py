@@ -218,8 +218,14 @@ class SolidPrinter(RecordPrinter):
     shown = ("vertices", "contours", "contour_sizes")
 
     def summary(self, record):
-        return "solid of %s, %s" % (contours_text(record["contour_sizes"]),
-                                    counted(list_size(record["vertices"]), "vertex"))
+        storage = record["storage"]
+        return "solid of %s, %s" % (contours_text(storage["contour_sizes"]),
+                                    counted(list_size(storage["vertices"]), "vertex"))
+
+    def children(self):
+        if self.record is not None:
+            for name in self.shown:
+                yield name, self.record["storage"][name]
 
 
 class TablePrinter(RecordPrinter):

@@ -9,13 +9,13 @@ const ox_3dvector& ox_polygon::get_best_center() {
     if (data->best_center_computed) {
         return data->best_center;
     }
-    data->best_center_computed = true;
     if (data->contour_vertices.size() < 1) {
         data->best_center = data->point;
     } else {
         // Without a candidate inside, the previous centre stays.
         center_search(*data).find(data->best_center);
     }
+    data->best_center_computed = true;
     return data->best_center;
 }
 

@@ -16,13 +16,15 @@ bool stretches_meet(float origin, float size, float other_origin, float other_si
 
 } // namespace
 
+bool ox_polygon_data::contains(const ox_3dvector& p) const {
+    const ox_2dvector q = plane_coordinates(*this, p);
+    const auto vertex = [this](int i) { return plane_coordinates(*this, contour_vertices[i]); };
+    return contours_contain(contour_sizes, vertex, q.x, q.y);
+}
+
 bool ox_polygon::contains(const ox_3dvector& p) {
     data->compute_contours();
-    const ox_2dvector q = plane_coordinates(*data, p);
-    const auto vertex = [this](int i) {
-        return plane_coordinates(*data, data->contour_vertices[i]);
-    };
-    return contours_contain(data->contour_sizes, vertex, q.x, q.y);
+    return data->contains(p);
 }
 
 bool ox_polygon::may_intersect(const ox_box& box) {

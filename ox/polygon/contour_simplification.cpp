@@ -1,8 +1,10 @@
 // Dropping vertices of closed contours: those at the end of short edges, and flat corners.
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <set>
+#include <utility>
 #include <vector>
 
 #include <ox/polygon/internal/ox_polygon_data.h>
@@ -168,10 +170,19 @@ void ox_polygon::optimize_contours(float tolerance) {
     if (left == data->contour_vertices.size()) {
         return;
     }
-    clear();
+    ox_list<ox_3dvector> vertices;
+    ox_list<unsigned int> sizes;
     for (const ox_list<ox_3dvector>& contour : contours) {
-        add_contour(contour);
+        if (contour.size() > 0) {
+            std::for_each(contour.begin(), contour.end(),
+                          [&vertices](const ox_3dvector& v) { vertices.push_right(v); });
+            sizes.push_right(static_cast<unsigned int>(contour.size()));
+        }
     }
+    clear();
+    data->pending_vertices = std::move(vertices);
+    data->pending_sizes = std::move(sizes);
+    data->contours_computed = data->tesselation_computed = data->pending_sizes.size() == 0;
 }
 
 } // namespace ox

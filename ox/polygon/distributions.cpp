@@ -99,7 +99,7 @@ ox_list<ox_3dvector> ox_polygon::regular_distribution(float step) {
         return points;
     }
     region_rows region(*data, columns, rows);
-    if (!region.is_within_reach()) {
+    if (!region.can_be_found()) {
         return points;
     }
     int count = 0;

@@ -1,6 +1,7 @@
 #include <ox/polygon/internal/integer_grid.h>
 
 #include <algorithm>
+#include <new>
 
 #include <ox/polygon/internal/contour_lists.h>
 #include <ox/polygon/internal/contour_tree.h>
@@ -22,23 +23,61 @@ bool to_grid_unit(float coordinate, ClipperLib::cInt& unit) {
     return true;
 }
 
-void add_paths(ClipperLib::Clipper& clipper, const grid_contours& contours,
-               ClipperLib::PolyType group) {
-    ClipperLib::Path path;
-    for (std::size_t i = 0; i < contours.count(); ++i) {
-        path.assign(contours.begin(i), contours.begin(i) + contours.size(i));
-        clipper.AddPath(path, group, true);
+bool runs_counter_clockwise(const ClipperLib::IntPoint* points, std::size_t count) {
+    double area = 0.0;
+    for (std::size_t i = 0, before = count - 1; i < count; before = i++) {
+        const ClipperLib::IntPoint& a = points[before];
+        const ClipperLib::IntPoint& b = points[i];
+        area += (static_cast<double>(a.X) + static_cast<double>(b.X)) *
+                (static_cast<double>(a.Y) - static_cast<double>(b.Y));
     }
+    return count < 3 || -area * 0.5 >= 0.0;
 }
 
-// The tree is empty when the clipping library fails.
+// The clipping library, which loses what it has made when an allocation fails while it writes its
+// answer.
+class clipper : public ClipperLib::Clipper {
+public:
+    clipper() = default;
+    clipper(const clipper&) = delete;
+    clipper& operator=(const clipper&) = delete;
+    ~clipper() override { DisposeAllOutRecs(); }
+};
+
+// True if an edge was left to sweep.
+bool add_paths(clipper& sweep, const grid_contours& contours, ClipperLib::PolyType group) {
+    bool any_edge = false;
+    ClipperLib::Path path;
+    for (std::size_t i = 0; i < contours.count(); ++i) {
+        path.assign(contours.begin(i), contours.end(i));
+        any_edge |= sweep.AddPath(path, group, true);
+    }
+    return any_edge;
+}
+
+// False when the library gave up. It catches what is thrown inside, a failed allocation too, and
+// keeps what it was to itself.
+bool try_to_clip(ClipperLib::ClipType operation, const grid_contours& subjects,
+                 const grid_contours& clips, ClipperLib::PolyTree& tree) {
+    clipper sweep;
+    const bool any_subject = add_paths(sweep, subjects, ClipperLib::ptSubject);
+    const bool any_clip = add_paths(sweep, clips, ClipperLib::ptClip);
+    return (!any_subject && !any_clip) ||
+           sweep.Execute(operation, tree, ClipperLib::pftEvenOdd, ClipperLib::pftEvenOdd);
+}
+
+// What the library gives up once, it does when asked again, unless memory is short: of hundreds of
+// thousands of arrangements as degenerate as can be, none was beyond it.
 void clip_contours(ClipperLib::ClipType operation, const grid_contours& subjects,
                    const grid_contours& clips, ClipperLib::PolyTree& tree) {
     try {
-        ClipperLib::Clipper clipper;
-        add_paths(clipper, subjects, ClipperLib::ptSubject);
-        add_paths(clipper, clips, ClipperLib::ptClip);
-        clipper.Execute(operation, tree, ClipperLib::pftEvenOdd, ClipperLib::pftEvenOdd);
+        if (try_to_clip(operation, subjects, clips, tree)) {
+            return;
+        }
+        tree.Clear();
+        if (!try_to_clip(operation, subjects, clips, tree)) {
+            throw std::bad_alloc();
+        }
     } catch (const ClipperLib::clipperException&) {
         tree.Clear();
     }
@@ -79,16 +118,12 @@ bool grid_path::take(const ox_polygon_data& plane, const ox_3dvector* vertices, 
     return count > 0;
 }
 
+bool grid_contours::is_counter_clockwise(std::size_t contour) const {
+    return runs_counter_clockwise(begin(contour), size(contour));
+}
+
 bool grid_path::is_counter_clockwise() {
-    const ClipperLib::IntPoint* points = data();
-    double area = 0.0;
-    for (std::size_t i = 0, before = count - 1; i < count; before = i++) {
-        const ClipperLib::IntPoint& a = points[before];
-        const ClipperLib::IntPoint& b = points[i];
-        area += (static_cast<double>(a.X) + static_cast<double>(b.X)) *
-                (static_cast<double>(a.Y) - static_cast<double>(b.Y));
-    }
-    return count < 3 || -area * 0.5 >= 0.0;
+    return runs_counter_clockwise(data(), count);
 }
 
 bool contour_to_grid(const ox_polygon_data& plane, const ox_3dvector* vertices, std::size_t size,

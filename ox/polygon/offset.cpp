@@ -39,52 +39,90 @@ bool stays_in_grid(const grid_contours& contours, double delta) {
     return reach < static_cast<double>(grid_end);
 }
 
-// Radians by which a contour turns at its vertices, left and right turns added.
-double total_turning(const ClipperLib::IntPoint* contour, std::size_t size) {
-    double turning = 0.0;
+// Whether the clipping library takes the contours as they run: those whose lowest contour runs
+// clockwise it turns round first.
+bool keeps_directions(const grid_contours& contours) {
+    std::size_t lowest_contour = 0;
+    ClipperLib::IntPoint lowest = contours.all().front();
+    for (std::size_t i = 0; i < contours.count(); ++i) {
+        for (const ClipperLib::IntPoint* p = contours.begin(i); p != contours.end(i); ++p) {
+            if (p->Y > lowest.Y || (p->Y == lowest.Y && p->X < lowest.X)) {
+                lowest = *p;
+                lowest_contour = i;
+            }
+        }
+    }
+    return contours.is_counter_clockwise(lowest_contour);
+}
+
+struct turning {
+    double left = 0.0; // radians
+    double right = 0.0;
+};
+
+// Back where it came from, a contour turns either way.
+void add_turning(const ClipperLib::IntPoint* contour, std::size_t size, turning& sum) {
     for (std::size_t i = 0; i < size; ++i) {
         const ClipperLib::DoublePoint a(contour[i]);
         const ClipperLib::DoublePoint b(contour[(i + 1) % size]);
         const ClipperLib::DoublePoint c(contour[(i + 2) % size]);
         const double cross = (b.X - a.X) * (c.Y - b.Y) - (b.Y - a.Y) * (c.X - b.X);
         const double dot = (b.X - a.X) * (c.X - b.X) + (b.Y - a.Y) * (c.Y - b.Y);
-        turning += std::fabs(std::atan2(cross, dot));
+        const double angle = std::atan2(cross, dot);
+        sum.left += cross == 0.0 ? std::fabs(angle) : std::max(angle, 0.0);
+        sum.right += cross == 0.0 ? std::fabs(angle) : std::max(-angle, 0.0);
     }
-    return turning;
 }
 
-// An arc of radius r whose chords keep within the tolerance t turns by acos(1 - t / r), which is
-// sqrt(2 t / r), at each half chord.
+// An arc of radius r whose chords keep within the tolerance t turns by acos(1 - t / r) at each half
+// chord; small arcs are drawn more coarsely.
+double arc_vertices_per_radian(double delta) {
+    const double radius = std::fabs(delta);
+    const double tolerance = std::min(offset_arc_tolerance, offset_arc_tolerance * radius);
+    const double half_chord = std::acos(1.0 - tolerance / radius);
+    return std::min(0.5 / half_chord, 0.5 * radius);
+}
+
+// Only where the moved sides come apart are they joined by an arc: at left turns of a region that
+// grows, at right turns of one that shrinks.
 double count_arc_vertices(const grid_contours& contours, double delta) {
-    const double vertices_per_radian =
-        0.5 * std::sqrt(std::fabs(delta) / (2.0 * offset_arc_tolerance));
-    double count = 0.0;
-    for (std::size_t i = 0; i < contours.count(); ++i) {
-        count += total_turning(contours.begin(i), contours.size(i)) * vertices_per_radian;
+    if (delta == 0.0) {
+        return 0.0;
     }
-    return count;
+    turning sum;
+    for (std::size_t i = 0; i < contours.count(); ++i) {
+        add_turning(contours.begin(i), contours.size(i), sum);
+    }
+    const bool at_left_turns = (delta > 0.0) == keeps_directions(contours);
+    return (at_left_turns ? sum.left : sum.right) * arc_vertices_per_radian(delta);
 }
 
-bool is_within_reach(const grid_contours& contours, float distance, double delta,
-                     ClipperLib::JoinType join) {
-    if (!std::isfinite(delta) || !stays_in_grid(contours, delta)) {
-        return false;
-    }
-    return join != ClipperLib::jtRound ||
-           (std::fabs(distance) <= largest_round_offset &&
+bool is_within_reach(const grid_contours& contours, double delta, ClipperLib::JoinType join) {
+    return std::isfinite(delta) && stays_in_grid(contours, delta) &&
+           (join != ClipperLib::jtRound ||
             count_arc_vertices(contours, delta) <= most_arc_vertices);
 }
 
+void run_offset(const grid_contours& contours, ClipperLib::JoinType join, double delta,
+                ClipperLib::PolyTree& tree) {
+    ClipperLib::ClipperOffset offsetter(offset_miter_limit, offset_arc_tolerance);
+    ClipperLib::Path path;
+    for (std::size_t i = 0; i < contours.count(); ++i) {
+        path.assign(contours.begin(i), contours.end(i));
+        offsetter.AddPath(path, join, ClipperLib::etClosedPolygon);
+    }
+    offsetter.Execute(tree, delta);
+}
+
+// The library does not say when an allocation failed while it united what it had moved: its answer
+// is empty then. So one that is empty is only believed the second time.
 void offset_contours(const grid_contours& contours, ClipperLib::JoinType join, double delta,
                      ClipperLib::PolyTree& tree) {
     try {
-        ClipperLib::ClipperOffset offsetter(offset_miter_limit, offset_arc_tolerance);
-        ClipperLib::Path path;
-        for (std::size_t i = 0; i < contours.count(); ++i) {
-            path.assign(contours.begin(i), contours.begin(i) + contours.size(i));
-            offsetter.AddPath(path, join, ClipperLib::etClosedPolygon);
+        run_offset(contours, join, delta, tree);
+        if (tree.ChildCount() == 0) {
+            run_offset(contours, join, delta, tree);
         }
-        offsetter.Execute(tree, delta);
     } catch (const ClipperLib::clipperException&) {
         tree.Clear();
     }
@@ -102,7 +140,7 @@ void ox_polygon::offset(float distance, int join_type) {
     grid_contours contours;
     contours.append(*data, data->contour_vertices, data->contour_sizes);
     ClipperLib::PolyTree tree;
-    if (is_within_reach(contours, distance, delta, corner)) {
+    if (is_within_reach(contours, delta, corner)) {
         offset_contours(contours, corner, delta, tree);
     } else if (!(distance < 0.0f)) {
         return;

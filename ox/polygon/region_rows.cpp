@@ -22,8 +22,8 @@ double largest(const std::vector<float>& ascending) {
 
 region_rows::region_rows(const ox_polygon_data& region, const std::vector<float>& columns,
                          const std::vector<float>& rows)
-    : polygon(region), us(columns), row_slope(exact_dot(region.dx, region.dy)),
-      row_scale(exact_dot(region.dy, region.dy)) {
+    : polygon(region), us(columns), row_count(rows.size()),
+      row_slope(exact_dot(region.dx, region.dy)), row_scale(exact_dot(region.dy, region.dy)) {
     rounding = grid_point_underflow;
     for (unsigned int i = 0; i < 3; ++i) {
         const double scale = std::fabs(static_cast<double>(polygon.dy.at(i)));
@@ -41,6 +41,11 @@ region_rows::region_rows(const ox_polygon_data& region, const std::vector<float>
 
 bool region_rows::is_within_reach() const {
     return reach < farthest_grid_coordinate;
+}
+
+bool region_rows::can_be_found() const {
+    const double points = static_cast<double>(us.size()) * static_cast<double>(row_count);
+    return is_within_reach() || points * static_cast<double>(sides.size()) <= most_far_grid_tests;
 }
 
 void region_rows::add_sides() {
@@ -73,12 +78,27 @@ region_rows::band region_rows::band_of(float w) const {
 }
 
 const std::vector<column_range>& region_rows::find_inside(float w) {
+    if (!is_within_reach()) {
+        test_each(w);
+        return inside;
+    }
     const band row = band_of(w);
     met = &window.move_to(row.low, row.high);
     find_blurs(row);
     join_overlapping_blurs();
     walk(w);
     return inside;
+}
+
+void region_rows::test_each(float w) {
+    inside.clear();
+    int column = 0;
+    for (const float u : us) {
+        if (polygon.contains(at(u, w))) {
+            add_inside(column, column + 1);
+        }
+        ++column;
+    }
 }
 
 /// The vertices in the band belong to two sides each, so whatever line of the band is taken, the

@@ -2,6 +2,7 @@
 #include <cmath>
 #include <vector>
 
+#include <ox/internal/vectors.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
 #include <ox/polygon/internal/tolerances.h>
 #include <ox/polygon/ox_polygon.h>
@@ -30,11 +31,6 @@ struct section_plane {
     ox_3dvector meet(const ox_3dvector& a, const ox_3dvector& b) const {
         const float t = ox_dot(point - a, normal) / ox_dot(b - a, normal);
         return a + t * (b - a);
-    }
-
-    bool is_finite() const {
-        const float sum = point.manhattan_size() + normal.manhattan_size();
-        return std::isfinite(sum);
     }
 };
 
@@ -118,7 +114,7 @@ ox_list<ox_3dvector> ox_polygon::intersect_by_plane(const ox_3dvector& point,
     data->compute_contours();
     const section_plane plane = {point, normal};
     const float cosine = ox_dot(normal, data->normal);
-    if (!plane.is_finite() || std::fabs(cosine) > parallel_section_cosine) {
+    if (!is_finite(point) || !is_finite(normal) || std::fabs(cosine) > parallel_section_cosine) {
         return points;
     }
     std::vector<sortable_sp> records = all_crossings(*data, plane);

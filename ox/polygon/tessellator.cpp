@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <exception>
 #include <memory>
+#include <new>
 
 #include <ox/internal/opengl_headers.h>
 
@@ -84,7 +85,12 @@ void CALLBACK on_combine(GLdouble coordinates[3], void* /*neighbours*/[4], GLflo
     collect(collector, [coordinates, out](answer_collector& c) { *out = c.combine(coordinates); });
 }
 
-void CALLBACK on_error(GLenum /*error*/, void* /*collector*/) {}
+// Of all errors only this one says that the answer is not what the contours make it.
+void CALLBACK on_error(GLenum error, void* collector) {
+    if (error == GLU_OUT_OF_MEMORY) {
+        collect(collector, [](answer_collector&) { throw std::bad_alloc(); });
+    }
+}
 
 using glu_callback = void(CALLBACK*)();
 
@@ -96,14 +102,33 @@ void set_callbacks(GLUtesselator* tess) {
     gluTessCallback(tess, GLU_TESS_COMBINE_DATA, reinterpret_cast<glu_callback>(on_combine));
 }
 
-void feed_contours(GLUtesselator* tess, const ox_list<unsigned int>& sizes, double* vertex) {
+// Stops at a failed allocation: what the tessellator has then is not fit to go on with.
+void feed_contours(GLUtesselator* tess, const ox_list<unsigned int>& sizes, double* vertex,
+                   const answer_collector& collector) {
     for (const unsigned int size : sizes) {
         gluTessBeginContour(tess);
         for (unsigned int i = 0; i < size; ++i) {
             gluTessVertex(tess, vertex, vertex);
+            if (collector.failure) {
+                return;
+            }
             vertex += 3;
         }
         gluTessEndContour(tess);
+    }
+}
+
+void tessellate(GLUtesselator* tess, std::vector<double>& coordinates,
+                const ox_list<unsigned int>& sizes, const ox_3dvector& normal,
+                answer_collector& collector) {
+    set_callbacks(tess);
+    gluTessProperty(tess, GLU_TESS_WINDING_RULE, GLU_TESS_WINDING_ODD);
+    gluTessNormal(tess, static_cast<double>(normal.x), static_cast<double>(normal.y),
+                  static_cast<double>(normal.z));
+    gluTessBeginPolygon(tess, &collector);
+    feed_contours(tess, sizes, coordinates.data(), collector);
+    if (!collector.failure) {
+        gluTessEndPolygon(tess);
     }
 }
 
@@ -114,20 +139,11 @@ void run_tessellator(std::vector<double>& coordinates, const ox_list<unsigned in
     answer_collector collector(answer);
     answer.vertices.reserve(coordinates.size());
     answer.triangles.reserve(coordinates.size());
-    {
-        const tessellator owner(gluNewTess(), gluDeleteTess);
-        GLUtesselator* tess = owner.get();
-        if (tess == nullptr) {
-            return;
-        }
-        set_callbacks(tess);
-        gluTessProperty(tess, GLU_TESS_WINDING_RULE, GLU_TESS_WINDING_ODD);
-        gluTessNormal(tess, static_cast<double>(normal.x), static_cast<double>(normal.y),
-                      static_cast<double>(normal.z));
-        gluTessBeginPolygon(tess, &collector);
-        feed_contours(tess, sizes, coordinates.data());
-        gluTessEndPolygon(tess);
+    const tessellator owner(gluNewTess(), gluDeleteTess);
+    if (!owner) {
+        throw std::bad_alloc();
     }
+    tessellate(owner.get(), coordinates, sizes, normal, collector);
     if (collector.failure) {
         std::rethrow_exception(collector.failure);
     }

@@ -27,6 +27,14 @@ public:
     }
     ClipperLib::IntPoint* begin(std::size_t contour) { return points.data() + first(contour); }
 
+    const ClipperLib::IntPoint* end(std::size_t contour) const {
+        return points.data() + ends[contour];
+    }
+
+    /// True if the contour runs counter-clockwise or encloses nothing, as the clipping library
+    /// tells it: by an area summed in its order.
+    bool is_counter_clockwise(std::size_t contour) const;
+
     /// The points of all contours.
     const std::vector<ClipperLib::IntPoint>& all() const { return points; }
 
@@ -83,7 +91,8 @@ inline ox_3dvector grid_to_plane(const ox_polygon_data& plane, const ClipperLib:
 void rebuild_contours(ox_polygon_data& polygon, const ClipperLib::PolyTree& tree);
 
 /// Replaces the normalised contours of `polygon` by the combination of two groups of contours on
-/// its grid, both filled even-odd. None are left when the clipping library fails.
+/// its grid, both filled even-odd. An allocation failure, with the contours as they were, when the
+/// clipping library fails twice.
 void combine_on_grid(ox_polygon_data& polygon, ClipperLib::ClipType operation,
                      const grid_contours& subjects, const grid_contours& clips);
 

@@ -47,6 +47,9 @@ struct ox_polygon_data {
     /// Empties the polygon and forgets its plane.
     void clear();
 
+    /// True where the projection of `p` lies inside the region, which must have been merged.
+    bool contains(const ox_3dvector& p) const;
+
     /// Combines the normalised contours with those of `other`, on this plane; both must have
     /// been merged. No operand is checked for being empty. Results outside what the clipping
     /// library can do leave this polygon without contours.

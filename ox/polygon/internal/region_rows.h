@@ -1,6 +1,7 @@
 #ifndef OX_POLYGON_INTERNAL_REGION_ROWS_H
 #define OX_POLYGON_INTERNAL_REGION_ROWS_H
 
+#include <cstddef>
 #include <vector>
 
 #include <ox/geometry/ox_2dvector.h>
@@ -35,8 +36,9 @@ public:
     region_rows(const ox_polygon_data& region, const std::vector<float>& columns,
                 const std::vector<float>& rows);
 
-    /// True when no sum of coordinates can overflow, which `find_inside` relies on.
-    bool is_within_reach() const;
+    /// True if the rows can be found in bounded time. So far away that sums of coordinates could
+    /// overflow, each point is tested against every side, and there may be too many of both.
+    bool can_be_found() const;
 
     /// The stretches of columns of the row w that are inside, in order. Rows must be asked for in
     /// ascending order.
@@ -64,6 +66,8 @@ private:
     };
 
     void add_sides();
+    bool is_within_reach() const;
+    void test_each(float w);
     band band_of(float w) const;
     void find_blurs(const band& row);
     void join_overlapping_blurs();
@@ -74,6 +78,7 @@ private:
 
     const ox_polygon_data& polygon;
     const std::vector<float>& us;
+    std::size_t row_count;
     std::vector<side> sides;
     sweep_window window;
     const std::vector<sweep_window::interval>* met = nullptr; ///< sides that reach the row

@@ -22,8 +22,8 @@ struct tessellator_answer {
 };
 
 /// Tessellates contours of so many vertices each, given as concatenated x, y, z that must outlive
-/// the answer. No triangles when there is no tessellator. The errors of the tessellator are
-/// ignored; a failed allocation in its callbacks is thrown once it has ended.
+/// the answer. The errors of the tessellator are ignored but that memory is short: a failed
+/// allocation, its own or in its callbacks, is thrown once it has ended.
 void run_tessellator(std::vector<double>& coordinates, const ox_list<unsigned int>& sizes,
                      const ox_3dvector& normal, tessellator_answer& answer);
 

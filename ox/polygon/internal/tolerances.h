@@ -65,12 +65,9 @@ constexpr double offset_arc_tolerance = 0.25;
 /// generously.
 constexpr double offset_bounds_margin = 16.0;
 
-/// Model units. The number of vertices of an arc grows with the root of its radius: a full circle
-/// of this radius has 444,000, a second of work.
-constexpr float largest_round_offset = 1000000.0f;
-
-/// Vertices of all arcs of one round offset together: about a gigabyte for the clipping library.
-constexpr double most_arc_vertices = 8000000.0;
+/// Vertices of all arcs of one round offset together: some gigabytes and a minute for the clipping
+/// library. The number in an arc grows with the root of its radius.
+constexpr double most_arc_vertices = 16000000.0;
 
 // Best centre
 
@@ -96,8 +93,12 @@ constexpr double roundings_of_offset = 9.0;
 /// float, 1.4e-45, in space and in the frame), taken generously.
 constexpr double grid_point_underflow = 1e-43;
 
-/// Model units: a grid whose sums could come near the largest float has no points.
+/// Model units: beyond it the sums on the way to a grid point could come near the largest float,
+/// and what is known about their roundings does not hold.
 constexpr double farthest_grid_coordinate = 1e37;
+
+/// Beyond it points are tested one by one against every side, as long as that ends within seconds.
+constexpr double most_far_grid_tests = 1e9;
 
 /// The share of the coordinates, in cells, that rounding in double precision can move a point of a
 /// rasterised region by; taken generously.

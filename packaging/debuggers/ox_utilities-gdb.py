@@ -214,18 +214,19 @@ class PolygonPrinter(RecordPrinter):
 
 
 class SolidPrinter(RecordPrinter):
+    """Its primary storage."""
+
     name = "solid"
     shown = ("vertices", "contours", "contour_sizes")
 
-    def summary(self, record):
-        storage = record["storage"]
+    def __init__(self, value):
+        super().__init__(value)
+        if self.record is not None:
+            self.record = self.record["storage"]
+
+    def summary(self, storage):
         return "solid of %s, %s" % (contours_text(storage["contour_sizes"]),
                                     counted(list_size(storage["vertices"]), "vertex"))
-
-    def children(self):
-        if self.record is not None:
-            for name in self.shown:
-                yield name, self.record["storage"][name]
 
 
 class TablePrinter(RecordPrinter):

@@ -4,18 +4,20 @@
 #include <algorithm>
 #include <utility>
 
+#include <ox/internal/contour_view.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
 #include <ox/polygon/internal/tolerances.h>
 #include <ox/polygon/ox_polygon.h>
 
 namespace ox {
+
+using namespace internal;
 namespace {
 
 void reverse_each_contour(ox_polygon_data& polygon) {
-    ox_3dvector* contour = polygon.contour_vertices.get_data();
-    for (const unsigned int size : polygon.contour_sizes) {
-        std::reverse(contour, contour + size);
-        contour += size;
+    ox_3dvector* const vertices = polygon.contour_vertices.get_data();
+    for (const contour_view contour : contour_views(polygon.contour_sizes)) {
+        std::reverse(vertices + contour.first, vertices + contour.end);
     }
 }
 
@@ -57,8 +59,7 @@ bool turn_plane(ox_polygon_data& polygon, ox_3dvector normal, bool& flip) {
         return false;
     }
     flip = ox_dot(normal, polygon.normal) < 0.0f;
-    polygon.normal = normal;
-    polygon.normal.build_axis(polygon.dx, polygon.dy);
+    polygon.turn_to(normal);
     polygon.plane_defined = true;
     return true;
 }

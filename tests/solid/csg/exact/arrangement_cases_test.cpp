@@ -1,10 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <new>
 
 #include <tests/solid/csg/exact/arrangement_laws.h>
 #include <tests/solid/csg/exact/arrangement_shapes.h>
-#include <tests/support/failing_allocation.h>
+#include <tests/support/failing_memory.h>
 
 namespace {
 
@@ -219,20 +220,23 @@ TEST(CsgArrangementCases, AnAllocationThatFailsLeavesTheResultAsItWas) {
     input_builder builder;
     builder.add(operation::unite, bricks(0, 0, 0, 3, 1, 3));
     builder.add(operation::substract, bricks(1, -1, 1, 2, 2, 2));
-    const auto earlier = [] {
+    int failures = 0;
+    for (bool has_failed = true; has_failed; ++failures) {
         arrangement_result result;
         result.points = {{1.0, 2.0, 3.0}};
-        return result;
-    };
-    const int failures = support::fail_each_allocation(
-        earlier,
-        [&](arrangement_result& result) {
+        bool has_thrown = false;
+        failing_memory::start(failures + 1, false);
+        try {
             ox::internal::csg::arrange(builder.input(), {}, result);
-        },
-        [](arrangement_result& result, bool has_thrown) {
-            EXPECT_EQ(result.points.size() == 1, has_thrown);
-            EXPECT_EQ(result.pieces.empty(), has_thrown);
-        });
+        } catch (const std::bad_alloc&) {
+            has_thrown = true;
+        }
+        has_failed = failing_memory::stop();
+        // A sort that gets no memory does without.
+        EXPECT_TRUE(has_failed || !has_thrown);
+        EXPECT_EQ(result.points.size() == 1, has_thrown);
+        EXPECT_EQ(result.pieces.empty(), has_thrown);
+    }
     EXPECT_GT(failures, 20);
 }
 

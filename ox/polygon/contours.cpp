@@ -36,12 +36,12 @@ ox_3dvector sum_of_edge_crosses(const ox_3dvector* v, int n) {
 
 enum class plane_verdict { good, flat, outside_grid };
 
-// What a contour says about the plane through its first vertex, with the normal on the side from
-// which it runs counter-clockwise.
+/// What a contour says about the plane through its first vertex, with the normal on the side from
+/// which it runs counter-clockwise.
 struct plane_decision {
     plane_verdict verdict = plane_verdict::outside_grid;
-    plane_frame plane; // unless the verdict is good, with no normal
-    grid_path path;    // the contour in that plane's frame
+    plane_frame plane; ///< unless the verdict is good, with no normal
+    grid_path path;    ///< the contour in that plane's frame
 };
 
 plane_decision decide_plane(const ox_3dvector* contour, int size) {
@@ -71,8 +71,8 @@ plane_decision decide_plane(const ox_3dvector* contour, int size) {
     return decision;
 }
 
-// The decision of the first pending contour that fits the grid. A flat one decides that there is
-// no plane; where none fits, the plane's point stays.
+/// The decision of the first pending contour that fits the grid. A flat one decides that there is
+/// no plane; where none fits, the plane's point stays.
 plane_decision decide_plane(const ox_polygon_data& polygon) {
     for (const contour_view contour : contour_views(polygon.pending_sizes)) {
         plane_decision decision =
@@ -86,7 +86,7 @@ plane_decision decide_plane(const ox_polygon_data& polygon) {
     return none;
 }
 
-// The first contour is mostly the only one: its list gets no room to spare.
+/// The first contour is mostly the only one: its list gets no room to spare.
 void append(ox_list<ox_3dvector>& list, const ox_3dvector* vertices, int size) {
     const int before = list.size();
     const int needed = before + size;
@@ -102,7 +102,7 @@ void drop_pending(ox_polygon_data& polygon) {
     polygon.pending_sizes.clear();
 }
 
-// The triangle stands as it was given: it is not projected on the plane.
+/// The triangle stands as it was given: it is not projected on the plane.
 void replace_by_pending_triangle(ox_polygon_data& polygon) {
     if (ox_polygon::is_clockwise(polygon.pending_vertices, polygon.normal) > 0) {
         std::reverse(polygon.pending_vertices.begin(), polygon.pending_vertices.end());
@@ -114,7 +114,7 @@ void replace_by_pending_triangle(ox_polygon_data& polygon) {
     polygon.drop_region_unless_finite();
 }
 
-// `path` is the first pending contour if it has points.
+/// `path` is the first pending contour if it has points.
 void unite_with_pending(ox_polygon_data& polygon, grid_path& path) {
     if (polygon.contour_sizes.size() == 0 && polygon.pending_sizes.size() == 1 &&
         (path.size() > 0 ||

@@ -18,12 +18,12 @@ using namespace internal;
 
 namespace {
 
-// The directions in a polygon's plane along which a cutting plane measures it.
+/// The directions in a polygon's plane along which a cutting plane measures it.
 struct cut_frame {
-    ox_3dvector origin; // in the cutting plane
-    ox_3dvector along;  // of the line in which the planes meet
-    ox_3dvector away;   // from the side the cutting normal points to
-    bool parallel;      // the planes do not meet, or not in a line that can be computed
+    ox_3dvector origin; ///< in the cutting plane
+    ox_3dvector along;  ///< of the line in which the planes meet
+    ox_3dvector away;   ///< from the side the cutting normal points to
+    bool parallel;      ///< the planes do not meet, or not in a line that can be computed
 };
 
 cut_frame make_cut_frame(const ox_3dvector& origin, const ox_3dvector& cut_normal,
@@ -38,7 +38,7 @@ cut_frame make_cut_frame(const ox_3dvector& origin, const ox_3dvector& cut_norma
     return frame;
 }
 
-// The extent of a polygon in a cut frame: s away from the cutting plane, t along it.
+/// The extent of a polygon in a cut frame: s away from the cutting plane, t along it.
 struct cut_extent {
     float s_min = 0.0f;
     float s_max = 0.0f;
@@ -59,7 +59,7 @@ cut_extent measure(const ox_list<ox_3dvector>& vertices, const cut_frame& frame)
     return extent;
 }
 
-// The rectangle over the polygon's whole extent along the cut, from `s_first` to `s_last` away.
+/// The rectangle over the polygon's whole extent along the cut, from `s_first` to `s_last` away.
 ox_list<ox_3dvector> rectangle(const cut_frame& f, const cut_extent& x, float s_first,
                                float s_last) {
     ox_list<ox_3dvector> corners;
@@ -70,7 +70,7 @@ ox_list<ox_3dvector> rectangle(const cut_frame& f, const cut_extent& x, float s_
     return corners;
 }
 
-// The part of `polygon` inside a rectangle of its plane, as a new polygon.
+/// The part of `polygon` inside a rectangle of its plane, as a new polygon.
 std::unique_ptr<ox_polygon> piece_inside(const ox_polygon& polygon,
                                          const ox_list<ox_3dvector>& corners) {
     ox_polygon clip(polygon.get_point(), polygon.get_normal());

@@ -33,7 +33,7 @@ void project_on_plane(const ox_polygon_data& plane, ox_list<ox_3dvector>& vertic
     }
 }
 
-// Brings contours and triangles along to a plane that was just set.
+/// Brings contours and triangles along to a plane that was just set.
 void follow_plane(ox_polygon_data& polygon, bool flip) {
     if (flip) {
         reverse_each_contour(polygon);
@@ -48,8 +48,8 @@ void follow_plane(ox_polygon_data& polygon, bool flip) {
     }
 }
 
-// Sets normal and frame. False when the normal is too short, or is the one the polygon has:
-// nothing is to follow then.
+/// Sets normal and frame. False when the normal is too short, or is the one the polygon has:
+/// nothing is to follow then.
 bool turn_plane(ox_polygon_data& polygon, ox_3dvector normal, bool& flip) {
     if (normal.size() < shortest_plane_normal) {
         return false;
@@ -64,8 +64,8 @@ bool turn_plane(ox_polygon_data& polygon, ox_3dvector normal, bool& flip) {
     return true;
 }
 
-// The next vertex after `from` that differs from `origin`, or `end` when the walk comes back
-// there first.
+/// The next vertex after `from` that differs from `origin`, or `end` when the walk comes back
+/// there first.
 int next_different(const ox_list<ox_3dvector>& contour, int from, const ox_3dvector& origin,
                    int end) {
     const int n = contour.size();

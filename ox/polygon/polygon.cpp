@@ -11,7 +11,7 @@
 namespace ox {
 namespace {
 
-// Polygons are made by all threads that cut solids of their own.
+/// Polygons are made by all threads that cut solids of their own.
 std::atomic<int> living_polygons{0};
 
 } // namespace

@@ -17,7 +17,7 @@ using namespace internal;
 
 namespace {
 
-// True unless the two stretches of an axis are farther apart than the tolerance.
+/// True unless the two stretches of an axis are farther apart than the tolerance.
 bool stretches_meet(float origin, float size, float other_origin, float other_size) {
     return !(origin > other_origin + other_size + box_contact_tolerance) &&
            !(other_origin - box_contact_tolerance > origin + size);

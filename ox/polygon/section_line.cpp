@@ -14,11 +14,11 @@ using namespace internal;
 
 namespace {
 
-// A point where the section line crosses the outline.
+/// A point where the section line crosses the outline.
 struct sortable_sp {
     ox_3dvector point;
-    bool flag; // alternates along the line where it enters and leaves the region
-    float key; // position along the line
+    bool flag; ///< alternates along the line where it enters and leaves the region
+    float key; ///< position along the line
 };
 
 struct section_plane {
@@ -37,7 +37,7 @@ struct section_plane {
     }
 };
 
-// Records the crossings of one contour: where it passes through a vertex, and inside its edges.
+/// Records the crossings of one contour: where it passes through a vertex, and inside its edges.
 void record_crossings(const ox_list<ox_3dvector>& vertices, const contour_view& contour, bool outer,
                       const section_plane& plane, std::vector<sortable_sp>& records) {
     const int reference = outer ? -1 : 1;
@@ -68,8 +68,8 @@ std::vector<sortable_sp> all_crossings(const ox_polygon_data& polygon, const sec
     return records;
 }
 
-// Sorts the records along the line. Equal keys keep the order in which they were made. Returns
-// false when a key is not a number.
+/// Sorts the records along the line. Equal keys keep the order in which they were made. Returns
+/// false when a key is not a number.
 bool sort_along(const ox_3dvector& direction, std::vector<sortable_sp>& records) {
     const ox_3dvector start = records.front().point;
     for (sortable_sp& record : records) {

@@ -8,14 +8,14 @@
 
 namespace ox::internal {
 
-// Everything here relies on the library's wide, planar points.
+/// Everything here relies on the library's wide, planar points.
 static_assert(sizeof(ClipperLib::cInt) == 8, "compiled without use_int32");
 static_assert(sizeof(ClipperLib::IntPoint) == 16, "compiled without use_xyz");
 
 namespace {
 
-// The clipping library, which loses what it has made when an allocation fails while it writes its
-// answer.
+/// The clipping library, which loses what it has made when an allocation fails while it writes its
+/// answer.
 class clipper : public ClipperLib::Clipper {
 public:
     clipper() = default;
@@ -24,7 +24,7 @@ public:
     ~clipper() override { DisposeAllOutRecs(); }
 };
 
-// True if an edge was left to sweep.
+/// True if an edge was left to sweep.
 bool add_paths(clipper& sweep, const grid_contours& contours, ClipperLib::PolyType group) {
     bool any_edge = false;
     ClipperLib::Path path;
@@ -35,8 +35,8 @@ bool add_paths(clipper& sweep, const grid_contours& contours, ClipperLib::PolyTy
     return any_edge;
 }
 
-// False when the library gave up. It catches what is thrown inside, a failed allocation too, and
-// keeps what it was to itself.
+/// False when the library gave up. It catches what is thrown inside, a failed allocation too, and
+/// keeps what it was to itself.
 bool try_to_clip(ClipperLib::ClipType operation, const grid_contours& subjects,
                  const grid_contours& clips, ClipperLib::PolyTree& tree) {
     clipper sweep;
@@ -57,15 +57,15 @@ double largest_coordinate(const grid_contours& contours) {
     return largest;
 }
 
-// Not below the farthest coordinate that any join can reach.
+/// Not below the farthest coordinate that any join can reach.
 bool stays_in_grid(const grid_contours& contours, double delta) {
     const double reach =
         largest_coordinate(contours) + offset_miter_limit * std::fabs(delta) + offset_bounds_margin;
     return reach < static_cast<double>(grid_end);
 }
 
-// True if the clipping library takes the contours as they run. It turns them round where the one
-// with the highest vertex, the left one of two, runs clockwise.
+/// True if the clipping library takes the contours as they run. It turns them round where the one
+/// with the highest vertex, the left one of two, runs clockwise.
 bool keeps_directions(const grid_contours& contours) {
     std::size_t outermost = 0;
     ClipperLib::IntPoint highest = contours.all().front();
@@ -81,11 +81,11 @@ bool keeps_directions(const grid_contours& contours) {
 }
 
 struct turning {
-    double left = 0.0; // radians
+    double left = 0.0; ///< radians
     double right = 0.0;
 };
 
-// Back where it came from, a contour turns either way.
+/// Back where it came from, a contour turns either way.
 void add_turning(const ClipperLib::IntPoint* contour, std::size_t size, turning& sum) {
     for (std::size_t i = 0; i < size; ++i) {
         const ClipperLib::DoublePoint a(contour[i]);
@@ -99,8 +99,8 @@ void add_turning(const ClipperLib::IntPoint* contour, std::size_t size, turning&
     }
 }
 
-// An arc of radius r whose chords keep within the tolerance t turns by acos(1 - t / r) at each half
-// chord; small arcs are drawn more coarsely.
+/// An arc of radius r whose chords keep within the tolerance t turns by acos(1 - t / r) at each
+/// half chord; small arcs are drawn more coarsely.
 double arc_vertices_per_radian(double delta) {
     const double radius = std::fabs(delta);
     const double tolerance = std::min(offset_arc_tolerance, offset_arc_tolerance * radius);
@@ -108,8 +108,8 @@ double arc_vertices_per_radian(double delta) {
     return std::min(0.5 / half_chord, 0.5 * radius);
 }
 
-// Only where the moved sides come apart are they joined by an arc: at left turns of a region that
-// grows, at right turns of one that shrinks.
+/// Only where the moved sides come apart are they joined by an arc: at left turns of a region that
+/// grows, at right turns of one that shrinks.
 double count_arc_vertices(const grid_contours& contours, double delta) {
     if (delta == 0.0 || contours.all().empty()) {
         return 0.0;
@@ -141,8 +141,8 @@ void run_offset(const grid_contours& contours, ClipperLib::JoinType join, double
 
 } // namespace
 
-// What the library gives up once, it does when asked again, unless memory is short: of hundreds of
-// thousands of arrangements as degenerate as can be, none was beyond it.
+/// What the library gives up once, it does when asked again, unless memory is short: of hundreds of
+/// thousands of arrangements as degenerate as can be, none was beyond it.
 void clip_contours(ClipperLib::ClipType operation, const grid_contours& subjects,
                    const grid_contours& clips, ClipperLib::PolyTree& tree) {
     try {
@@ -158,8 +158,8 @@ void clip_contours(ClipperLib::ClipType operation, const grid_contours& subjects
     }
 }
 
-// The library does not say when an allocation failed while it united what it had moved: its answer
-// is empty then. So one that is empty is only believed the second time.
+/// The library does not say when an allocation failed while it united what it had moved: its answer
+/// is empty then. So one that is empty is only believed the second time.
 bool offset_contours(const grid_contours& contours, ClipperLib::JoinType join, double delta,
                      ClipperLib::PolyTree& tree) {
     if (!is_within_reach(contours, delta, join)) {

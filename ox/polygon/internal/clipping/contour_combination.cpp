@@ -21,7 +21,7 @@
 namespace ox::internal {
 namespace {
 
-// Contours that are not known to keep clear of each other.
+/// Contours that are not known to keep clear of each other.
 void combine_crossing_contours(ox_polygon_data& polygon, ClipperLib::ClipType operation,
                                const grid_contours& subjects, const grid_contours& clips) {
     const rectilinear_arrangement arrangement(operation, subjects, clips);

@@ -8,8 +8,8 @@
 namespace ox::internal {
 namespace {
 
-// Rounds half away from zero. False when the value is not a number or outside the grid: the
-// conversion to an integer would then be undefined.
+/// Rounds half away from zero. False when the value is not a number or outside the grid: the
+/// conversion to an integer would then be undefined.
 bool to_grid_unit(float coordinate, ClipperLib::cInt& unit) {
     const float scaled = coordinate / grid_unit;
     const float shifted = scaled > 0.0f ? scaled + 0.5f : scaled - 0.5f;

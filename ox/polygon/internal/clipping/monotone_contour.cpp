@@ -20,7 +20,7 @@ IntPoint difference(const IntPoint& a, const IntPoint& b) {
     return IntPoint(a.X - b.X, a.Y - b.Y);
 }
 
-// Twice the signed area that turning from `a` to `b` spans.
+/// Twice the signed area that turning from `a` to `b` spans.
 cInt turn(const IntPoint& a, const IntPoint& b) {
     return a.X * b.Y - a.Y * b.X;
 }
@@ -30,16 +30,16 @@ cInt largest_coordinate(const IntPoint* points, std::size_t size) {
     return std::max({box.high.X, box.high.Y, -box.low.X, -box.low.Y});
 }
 
-// Whether no corner is left at `vertex`: it repeats a neighbour, the contour goes straight on
-// there, or it is the tip of a spike.
+/// True if no corner is left at `vertex`: it repeats a neighbour, the contour goes straight on
+/// there, or it is the tip of a spike.
 bool is_without_corner(const IntPoint& before, const IntPoint& vertex, const IntPoint& after) {
     return turn(difference(vertex, before), difference(after, vertex)) == 0;
 }
 
-// Drops the vertices without a corner, as the library does when it takes a contour; the corners
-// that stay begin at `points`. Dropping a tip can make the next one of its neighbours. Which one
-// goes first does not matter: of two neighbours that could go, the other one still can, and both
-// ways lead to the same corners. False when fewer than three stay.
+/// Drops the vertices without a corner, as the library does when it takes a contour; the corners
+/// that stay begin at `points`. Dropping a tip can make the next one of its neighbours. Which one
+/// goes first does not matter: of two neighbours that could go, the other one still can, and both
+/// ways lead to the same corners. False when fewer than three stay.
 bool drop_all_but_corners(IntPoint*& points, std::size_t& size) {
     std::size_t kept = 0;
     for (std::size_t i = 0; i < size; ++i) {
@@ -66,7 +66,7 @@ bool is_lower_or_right_of(const IntPoint& a, const IntPoint& b) {
     return a.Y != b.Y ? a.Y < b.Y : a.X > b.X;
 }
 
-// Counter-clockwise, the lowest vertex last.
+/// Counter-clockwise, the lowest vertex last.
 void put_lowest_last(IntPoint* points, std::size_t size) {
     IntPoint* lowest = std::min_element(points, points + size, is_lower_or_right_of);
     std::rotate(points, lowest + 1, points + size);
@@ -76,7 +76,7 @@ void put_lowest_last(IntPoint* points, std::size_t size) {
     }
 }
 
-// Whether the contour climbs once and falls once; finds the highest vertices.
+/// True if the contour climbs once and falls once; finds the highest vertices.
 bool find_highest(monotone_contour& contour) {
     const IntPoint* p = contour.points;
     const std::size_t last = contour.size - 1;
@@ -102,7 +102,7 @@ double x_at(const IntPoint& a, const IntPoint& b, cInt y) {
     return static_cast<double>(a.X) + static_cast<double>(b.X - a.X) * part;
 }
 
-// One side of a contour, walked upwards from its lowest vertex.
+/// One side of a contour, walked upwards from its lowest vertex.
 class side_walk {
 public:
     side_walk(const monotone_contour& walked, bool right)
@@ -141,8 +141,8 @@ private:
     std::size_t at;
 };
 
-// Whether the sides are apart at every level with a vertex, the ends excepted: then they are in
-// between.
+/// True if the sides are apart at every level with a vertex, the ends excepted: then they are in
+/// between.
 bool are_sides_apart(const monotone_contour& contour) {
     const cInt highest = contour.highest();
     side_walk right(contour, true);
@@ -159,8 +159,8 @@ bool are_sides_apart(const monotone_contour& contour) {
     }
 }
 
-// Whether two sides leave the end of a contour, a flat edge or a single vertex, without doubt
-// about which of them is the right one at the next level.
+/// True if two sides leave the end of a contour, a flat edge or a single vertex, without doubt
+/// about which of them is the right one at the next level.
 bool is_wide_at_end(const IntPoint& right_end, const IntPoint& right_next, const IntPoint& left_end,
                     const IntPoint& left_next) {
     if (right_end != left_end) {
@@ -183,7 +183,7 @@ bool are_ends_wide(const monotone_contour& contour) {
                           p[contour.high_left + 1]);
 }
 
-// The library takes the direction of a contour from an area summed in doubles.
+/// The library takes the direction of a contour from an area summed in doubles.
 bool is_area_certain(const monotone_contour& contour, cInt largest) {
     double area = 0.0;
     for (std::size_t i = 1; i + 1 < contour.size; ++i) {

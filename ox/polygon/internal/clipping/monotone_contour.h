@@ -35,7 +35,7 @@ struct monotone_contour {
     /// The highest level: tips of spikes do not count.
     ClipperLib::cInt highest() const { return points[high_right].Y; }
 
-    /// Whether the box lies inside, clear of both sides at every level. O(log size) plus the
+    /// True if the box lies inside, clear of both sides at every level. O(log size) plus the
     /// vertices at the levels of the box.
     bool surrounds(const grid_box& box) const;
 };

@@ -95,7 +95,7 @@ void rectilinear_arrangement::append_ranks(const grid_contours& contours) {
     }
 }
 
-// Any area that is not 0 is at least that of one cell between neighbouring coordinates.
+/// Any area that is not 0 is at least that of one cell between neighbouring coordinates.
 bool rectilinear_arrangement::are_areas_certain() const {
     const cInt reach = std::max(xs.reach(), ys.reach());
     if (reach > farthest_monotone_coordinate) {

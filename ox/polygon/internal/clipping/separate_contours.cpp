@@ -25,15 +25,15 @@ using ClipperLib::cInt;
 constexpr int none = -1;
 
 struct separate_contour {
-    grid_box box; // of all points, the tips of spikes included
+    grid_box box; ///< of all points, the tips of spikes included
     monotone_contour shape;
-    int parent = none;            // the contour directly around this one
-    bool clip = false;            // of the second group
-    bool subjects_around = false; // an odd number of them
+    int parent = none;            ///< the contour directly around this one
+    bool clip = false;            ///< of the second group
+    bool subjects_around = false; ///< an odd number of them
     bool clips_around = false;
     bool hole = false;
-    int kept_parent = none; // the contour of the result directly around this one
-    int first_child = none; // contours of the result: a list of those directly inside
+    int kept_parent = none; ///< the contour of the result directly around this one
+    int first_child = none; ///< contours of the result: a list of those directly inside
     int last_child = none;
     int next_sibling = none;
 };
@@ -78,8 +78,8 @@ box_map map_in(box_memory&) {
 }
 #endif
 
-// The boxes at one level by their left sides. They are nested or apart, so those around a place are
-// the one that begins before it, as far as it reaches, and those around that one.
+/// The boxes at one level by their left sides. They are nested or apart, so those around a place
+/// are the one that begins before it, as far as it reaches, and those around that one.
 class level_of_boxes {
 public:
     explicit level_of_boxes(separate_contour_list& placed) : contours(placed) {}
@@ -115,8 +115,8 @@ private:
     box_map boxes = map_in(memory);
 };
 
-// Finds the box directly around each. `begins` are the lowest levels in their order. The ends are
-// only put in order as far as they are reached: mostly boxes that overlap are found early.
+/// Finds the box directly around each. `begins` are the lowest levels in their order. The ends are
+/// only put in order as far as they are reached: mostly boxes that overlap are found early.
 bool nest_boxes(separate_contour_list& contours, const std::vector<contour_level>& begins) {
     std::vector<contour_level> ends =
         levels_of(contours, [](const separate_contour& c) { return c.box.high.Y; });
@@ -136,7 +136,7 @@ bool nest_boxes(separate_contour_list& contours, const std::vector<contour_level
     return true;
 }
 
-// Reads the contours of one group in place.
+/// Reads the contours of one group in place.
 bool read_contours(grid_contours& group, separate_contour* contours) {
     for (std::size_t i = 0; i < group.count(); ++i) {
         if (!read_monotone_contour(group.begin(i), group.size(i), contours[i].shape)) {
@@ -166,8 +166,8 @@ bool bounds_result(const separate_contour& contour, ClipperLib::ClipType operati
     }
 }
 
-// What lies around each contour; `order` has those around before those inside. Returns the
-// contours that bound the result.
+/// What lies around each contour; `order` has those around before those inside. Returns the
+/// contours that bound the result.
 std::vector<bool> place_contours(separate_contour_list& contours,
                                  const std::vector<contour_level>& order,
                                  ClipperLib::ClipType operation) {
@@ -189,9 +189,9 @@ std::vector<bool> place_contours(separate_contour_list& contours,
     return kept;
 }
 
-// The contours that the library's sweep keeps, as it reaches them: from the highest level down. It
-// sorts them by level alone, so the sort must be the one that it uses, given the same
-// sequence: then contours of one level come out in the same order, too.
+/// The contours that the library's sweep keeps, as it reaches them: from the highest level down. It
+/// sorts them by level alone, so the sort must be the one that it uses, given the same
+/// sequence: then contours of one level come out in the same order, too.
 std::vector<int> kept_in_sweep_order(const separate_contour_list& contours,
                                      const std::vector<bool>& kept) {
     std::vector<contour_level> levels =
@@ -208,8 +208,8 @@ std::vector<int> kept_in_sweep_order(const separate_contour_list& contours,
     return order;
 }
 
-// Lists the contours of the result inside the one around them; `first` and `last` hold those at
-// the top.
+/// Lists the contours of the result inside the one around them; `first` and `last` hold those at
+/// the top.
 void link_contours(separate_contour_list& contours, const std::vector<int>& order,
                    separate_contour& top) {
     for (const int index : order) {
@@ -224,7 +224,7 @@ void link_contours(separate_contour_list& contours, const std::vector<int>& orde
     }
 }
 
-// Depth first, without recursion.
+/// Depth first, without recursion.
 void write_contours(const plane_frame& plane, const separate_contour_list& contours,
                     const separate_contour& top, contour_lists& lists) {
     std::vector<std::pair<int, int>> pending{{top.first_child, none}}; // contour, its parent

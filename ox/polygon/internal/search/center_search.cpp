@@ -18,13 +18,13 @@ constexpr float finest_step_above = 0.05f; // halving ends when the step is no l
 constexpr float score_cap = 10000.0f;
 constexpr float penalty_per_distance = 0.1f;
 
-// A block of so few candidates is cheaper to score than to divide.
+/// A block of so few candidates is cheaper to score than to divide.
 constexpr int candidates_of_a_leaf = 64;
 
-// Beyond this the distances could overflow. The integer grid of the contours ends at 4.6e14.
+/// Beyond this the distances could overflow. The integer grid of the contours ends at 4.6e14.
 constexpr double largest_coordinate = 1e15;
 
-// Axes that differ from an orthonormal pair by more were scaled, not just rounded.
+/// Axes that differ from an orthonormal pair by more were scaled, not just rounded.
 constexpr double orthonormal_tolerance = 1e-4;
 
 double dot(const ox_3dvector& a, const ox_3dvector& b) {
@@ -85,8 +85,8 @@ bool center_search::by_bound::operator()(const block& a, const block& b) const {
     return a.bound != b.bound ? a.bound < b.bound : a.last() < b.last();
 }
 
-// Measures how the axes move a tested candidate, exactly and by rounding. Returns false when the
-// coordinates are not finite or too large.
+/// Measures how the axes move a tested candidate, exactly and by rounding. Returns false when the
+/// coordinates are not finite or too large.
 bool center_search::prepare_frame() {
     const double axis = std::hypot(length(polygon.dx), length(polygon.dy));
     const double extent = static_cast<double>(std::fabs(low.x)) + std::fabs(low.y) +
@@ -139,8 +139,8 @@ exact_point center_search::tested_point(const exact_point& candidate) const {
             frame_uv * candidate.u + frame_vv * candidate.v};
 }
 
-// The least distance to the outline at which the candidates of a block are tested for
-// containment; negative when it is not known to be positive.
+/// The least distance to the outline at which the candidates of a block are tested for
+/// containment; negative when it is not known to be positive.
 double center_search::clearance(const block& b, const exact_point& centre, double distance) const {
     const grid& g = grids[static_cast<std::size_t>(b.grid)];
     const double half_u = (static_cast<double>(g.u.at(b.u_end - 1)) - g.u.at(b.u_begin)) * 0.5;
@@ -166,8 +166,8 @@ float center_search::score(const ox_2dvector& candidate,
     return std::min(score_cap, outline.rounded(candidate, sides) - penalty);
 }
 
-// Opens a block, unless none of its candidates can win. What it holds as near sides and as
-// `inside` is its parent's knowledge, which is refined.
+/// Opens a block, unless none of its candidates can win. What it holds as near sides and as
+/// `inside` is its parent's knowledge, which is refined.
 void center_search::consider(block b) {
     if (b.u_begin == b.u_end || b.v_begin == b.v_end) {
         return;

@@ -27,9 +27,9 @@ float float_progression::at(int i) const {
                               static_cast<double>(i - containing.first_index) * step);
 }
 
-// How many coordinates from `first` on, and below `end`, are exact sums. Towards zero every sum is
-// exact once the first one is, since floats only become denser there. Away from zero all sums
-// below the next power of two are.
+/// How many coordinates from `first` on, and below `end`, are exact sums. Towards zero every sum is
+/// exact once the first one is, since floats only become denser there. Away from zero all sums
+/// below the next power of two are.
 int float_progression::length_of_exact_run(float first, float end) const {
     const double exact_sum = static_cast<double>(first) + step;
     const bool first_step_is_exact = static_cast<double>(first + step) == exact_sum;

@@ -12,8 +12,8 @@ namespace ox::internal {
 
 namespace {
 
-// The distances are sums of a dozen roundings of lengths up to the diagonal of the bounds, each
-// by 2^-24 of its value at most: 26 such errors were counted, and 32 are allowed.
+/// The distances are sums of a dozen roundings of lengths up to the diagonal of the bounds, each
+/// by 2^-24 of its value at most: 26 such errors were counted, and 32 are allowed.
 constexpr double relative_rounding_error = 32.0 / 16777216.0;
 
 double diagonal_of(const ox_list<ox_2dvector>& vertices) {

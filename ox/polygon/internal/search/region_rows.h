@@ -62,7 +62,7 @@ private:
     struct uncertain_span {
         float low;
         float high;
-        bool odd; ///< whether the crossings are odd in number
+        bool odd; ///< true if the crossings are odd in number
     };
 
     void add_sides();

@@ -14,8 +14,8 @@ namespace {
 
 using tessellator = std::unique_ptr<GLUtesselator, decltype(&gluDeleteTess)>;
 
-// The callbacks run inside C code, which no exception may cross: a failed allocation is kept here,
-// and everything after it is skipped.
+/// The callbacks run inside C code, which no exception may cross: a failed allocation is kept here,
+/// and everything after it is skipped.
 struct answer_collector {
     tessellator_answer& answer;
     GLenum primitive = 0;
@@ -85,7 +85,7 @@ void CALLBACK on_combine(GLdouble coordinates[3], void* /*neighbours*/[4], GLflo
     collect(collector, [coordinates, out](answer_collector& c) { *out = c.combine(coordinates); });
 }
 
-// Of all errors only this one says that the answer is not what the contours make it.
+/// Of all errors only this one says that the answer is not what the contours make it.
 void CALLBACK on_error(GLenum error, void* collector) {
     if (error == GLU_OUT_OF_MEMORY) {
         collect(collector, [](answer_collector&) { throw std::bad_alloc(); });
@@ -102,7 +102,7 @@ void set_callbacks(GLUtesselator* tess) {
     gluTessCallback(tess, GLU_TESS_COMBINE_DATA, reinterpret_cast<glu_callback>(on_combine));
 }
 
-// Stops at a failed allocation: what the tessellator has then is not fit to go on with.
+/// Stops at a failed allocation: what the tessellator has then is not fit to go on with.
 void feed_contours(GLUtesselator* tess, const ox_list<unsigned int>& sizes, double* vertex,
                    const answer_collector& collector) {
     for (const unsigned int size : sizes) {

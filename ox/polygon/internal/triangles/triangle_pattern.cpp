@@ -11,7 +11,7 @@
 namespace ox::internal {
 namespace {
 
-// The tessellator looks for a fan only in so many vertices.
+/// The tessellator looks for a fan only in so many vertices.
 constexpr std::size_t most_fan_vertices = 100;
 
 struct wide_vector {
@@ -26,7 +26,7 @@ wide_vector difference(const ox_3dvector& a, const ox_3dvector& b) {
             static_cast<double>(a.z) - static_cast<double>(b.z)};
 }
 
-// How far the normal at the corner between `a` and `b` points along `n`.
+/// How far the normal at the corner between `a` and `b` points along `n`.
 double turn_about(const wide_vector& a, const wide_vector& b, const ox_3dvector& n) {
     return (a.y * b.z - a.z * b.y) * static_cast<double>(n.x) +
            (a.z * b.x - a.x * b.z) * static_cast<double>(n.y) +
@@ -37,7 +37,7 @@ double manhattan_size(const wide_vector& v) {
     return std::fabs(v.x) + std::fabs(v.y) + std::fabs(v.z);
 }
 
-// A vertex in the plane of the tessellator's sweep, which runs along s.
+/// A vertex in the plane of the tessellator's sweep, which runs along s.
 struct sweep_vertex {
     double s = 0.0;
     double t = 0.0;
@@ -48,8 +48,8 @@ bool is_swept_before(const sweep_vertex& a, const sweep_vertex& b) {
     return (a.s < b.s) | ((a.s == b.s) & (a.t < b.t)); // without branches
 }
 
-// The plane of the tessellator's sweep: it leaves out the coordinate along which the normal is
-// longest.
+/// The plane of the tessellator's sweep: it leaves out the coordinate along which the normal is
+/// longest.
 class sweep_plane {
 public:
     explicit sweep_plane(const ox_3dvector& normal) {
@@ -71,12 +71,12 @@ private:
     double t_sign;
 };
 
-// On which side of the line from `a` to `c` the vertex `b` between them lies.
+/// On which side of the line from `a` to `c` the vertex `b` between them lies.
 double side_of(const sweep_vertex& a, const sweep_vertex& b, const sweep_vertex& c) {
     return (b.t - c.t) * (b.s - a.s) + (b.t - a.t) * (c.s - b.s);
 }
 
-// Appends bits to a key: 4 for the sizes, 4 for each vertex but one and 1 for any three vertices.
+/// Appends bits to a key: 4 for the sizes, 4 for each vertex but one and 1 for any three vertices.
 class key_writer {
 public:
     void append(std::uint64_t value, unsigned int bits) {
@@ -93,8 +93,8 @@ private:
 
 using swept_vertices = std::array<sweep_vertex, triangle_pattern::most_vertices>;
 
-// The vertices in the order of the sweep. They are counted to their places: the branches of a sort
-// would all be guesses.
+/// The vertices in the order of the sweep. They are counted to their places: the branches of a sort
+/// would all be guesses.
 swept_vertices sweep(const ox_3dvector* contours, std::size_t size, const ox_3dvector& normal) {
     const sweep_plane plane(normal);
     swept_vertices given;
@@ -124,8 +124,8 @@ double extent_of(const sweep_vertex* vertices, std::size_t size) {
     return std::max(high - low, vertices[size - 1].s - vertices[0].s);
 }
 
-// The order of the vertices: the last one follows from the others. False where two are the same
-// or nearly at the same place of the sweep.
+/// The order of the vertices: the last one follows from the others. False where two are the same
+/// or nearly at the same place of the sweep.
 bool append_order(const sweep_vertex* sorted, std::size_t size, double extent, key_writer& key) {
     for (std::size_t i = 0; i + 1 < size; ++i) {
         const double step = sorted[i + 1].s - sorted[i].s;
@@ -139,8 +139,8 @@ bool append_order(const sweep_vertex* sorted, std::size_t size, double extent, k
     return true;
 }
 
-// The side on which the middle one of any three lies of the line through the others. False where
-// that is in doubt.
+/// The side on which the middle one of any three lies of the line through the others. False where
+/// that is in doubt.
 bool append_sides(const sweep_vertex* sorted, std::size_t size, double extent, key_writer& key) {
     const double doubt = sweep_clearance * extent * extent;
     std::uint64_t sides = 0;

@@ -10,7 +10,7 @@ step() {
 # Programs that use the installed library: found by CMake, and by pkg-config.
 run_consumers() {
     rm -rf /tmp/consumers
-    cmake -S tests/packaging/consumer -B /tmp/consumers/package
+    cmake -S tests/packaging/consumer -B /tmp/consumers/package -G Ninja
     cmake --build /tmp/consumers/package
     /tmp/consumers/package/consumer
     # shellcheck disable=SC2046  # one word a flag
@@ -21,16 +21,17 @@ run_consumers() {
 
 # A program that takes the sources in.
 run_subproject() {
-    cmake -S tests/packaging/subproject -B /tmp/subproject -DOX_SOURCE="$PWD" \
+    cmake -S tests/packaging/subproject -B /tmp/subproject -G Ninja -DOX_SOURCE="$PWD" \
         -DCMAKE_BUILD_TYPE=Release
     cmake --build /tmp/subproject --parallel
     /tmp/subproject/consumer
 }
 
-# Nothing of the library is left: `expect_gone PREFIX`.
+# No file of the library is left: `expect_gone PREFIX`.
 expect_gone() {
     local left
-    left=$(find "$1/lib" "$1/include" "$1/share" -name '*ox_utilities*' -o -name '*ox-utilities*')
+    left=$(find "$1/lib" "$1/include" "$1/share" -not -type d \
+        \( -path '*ox_utilities*' -o -path '*ox-utilities*' -o -path '*/include/ox/*' \))
     [ -z "$left" ] || { echo "left behind: $left" >&2; exit 1; }
 }
 

@@ -30,6 +30,7 @@
 #include <ox/mesh/ox_vertex_optimizer.h>
 #include <ox/ox_functions.h>
 #include <ox/polygon/ox_polygon.h>
+#include <ox/polygon/ox_polygon_pieces.h>
 #include <ox/polygon/ox_polygon_projection.h>
 #include <ox/progress/ox_progress_manager.h>
 #include <ox/progress/ox_thread.h>

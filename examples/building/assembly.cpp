@@ -5,8 +5,10 @@
 #include <examples/building/volumes.h>
 
 #include <ox/core/ox_chrono.h>
+#include <ox/solid/ox_csg.h>
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace building {
 
@@ -40,14 +42,21 @@ ox::ox_solid cutter_solid(const opening& o, const wall& w, double floor) {
     return solid;
 }
 
-/// Keeps what lies under the planes.
-void clip_under(ox::ox_solid& solid, const std::vector<height_plane>& planes) {
+/// What the operands come to. Throws `std::runtime_error` where one of them is not closed.
+ox::ox_solid result_of(ox::ox_csg& csg) {
+    if (!csg.compute()) {
+        const ox::ox_csg_problem& problem = csg.get_problem(0);
+        throw std::runtime_error("part " + std::to_string(problem.operand) +
+                                 " of an element is no closed solid");
+    }
+    return csg.get_solid();
+}
+
+/// Keeps what lies under the planes. `near` is a place in the plan where their height is taken.
+void clip_under(ox::ox_csg& csg, const std::vector<height_plane>& planes, const plan_point& near) {
     for (const height_plane& plane : planes) {
-        const ox::ox_3dvector corner = solid.get_bounding_box().origin;
-        const plan_point below = {corner.x, corner.y};
-        ox::ox_3dvector normal(static_cast<float>(-plane.dx), static_cast<float>(-plane.dy), 1);
-        normal.normalize();
-        solid.clip(at_height(below, plane.at(below)), normal);
+        csg.clips(at_height(near, plane.at(near)),
+                  ox::ox_3dvector(static_cast<float>(-plane.dx), static_cast<float>(-plane.dy), 1));
     }
 }
 
@@ -60,37 +69,37 @@ ox::ox_solid solid_under(ox::ox_polygon base, double bottom,
             top = std::max(top, plane.at({corner.x, corner.y}));
         }
     }
-    ox::ox_solid solid;
-    solid.extrusion(base, at_height({}, top + headroom - bottom));
-    clip_under(solid, planes);
-    return solid;
+    ox::ox_solid block;
+    block.extrusion(base, at_height({}, top + headroom - bottom));
+    const ox::ox_3dvector corner = base.get_contour_vertices()[0];
+    ox::ox_csg csg;
+    csg.unites(block);
+    clip_under(csg, planes, {corner.x, corner.y});
+    return result_of(csg);
 }
 
-/// Joins the walls of a storey, then cuts all openings at once, then ends the walls at the roof.
-/// The cutting solids are joined first: side by side they would otherwise cut along each other's
-/// faces.
+/// Joins the walls of a storey, cuts its openings and ends the walls at the roof, all in one pass:
+/// walls may cross, overlap and abut in any way, along the axes or askew.
 ox::ox_solid storey_solid(const description& d, std::size_t storey, ox_examples::progress& steps) {
     const double floor = d.storeys[storey].level;
-    ox::ox_solid walls;
+    ox::ox_csg csg;
+    plan_point near;
     for (const wall& w : d.walls) {
         if (w.storey == storey) {
             steps.advance("wall " + w.name);
-            ox::ox_solid solid = wall_solid(w, floor);
-            walls.unites(solid);
+            csg.unites(wall_solid(w, floor));
+            near = w.from;
         }
     }
-    ox::ox_solid cutters;
     for (const opening& o : d.openings) {
         const wall& w = d.walls[o.wall];
         if (w.storey == storey) {
             steps.advance("opening " + o.name);
-            ox::ox_solid solid = cutter_solid(o, w, floor);
-            cutters.unites(solid);
+            csg.substracts(cutter_solid(o, w, floor));
         }
     }
-    walls.substracts(cutters);
-    clip_under(walls, ceilings(d, storey));
-    return walls;
+    clip_under(csg, ceilings(d, storey), near);
+    return result_of(csg);
 }
 
 /// Sweeps the slab's polygon from its lower side up: along the polygon's normal, so that the faces
@@ -111,13 +120,12 @@ ox::ox_solid roof_solid(const roof& r) {
         upper.push_back(upper_side(s));
         lower.push_back(lower_side(s, r.thickness));
     }
-    ox::ox_solid solid = solid_under(level_polygon(r.outline, {}, r.level), r.level, upper);
-
     ox::ox_polygon base = level_polygon(r.outline, {}, r.level - hollow_reach);
     base.offset(static_cast<float>(hollow_reach), ox::ox_polygon::join_miter);
-    ox::ox_solid hollow = solid_under(base, r.level - hollow_reach, lower);
-    solid.substracts(hollow);
-    return solid;
+    ox::ox_csg csg;
+    csg.unites(solid_under(level_polygon(r.outline, {}, r.level), r.level, upper));
+    csg.substracts(solid_under(base, r.level - hollow_reach, lower));
+    return result_of(csg);
 }
 
 bool has_walls(const description& d, std::size_t storey) {

@@ -1,11 +1,16 @@
-// Union, difference and intersection with another polygon, on the integer grid of the polygon
-// that changes.
+// Union, difference and intersection with another polygon, and the offset of the outline, on the
+// integer grid of the polygon that changes.
 
-#include <ox/polygon/internal/integer_grid.h>
+#include <ox/polygon/internal/clipping/clipping_library.h>
+#include <ox/polygon/internal/clipping/contour_combination.h>
+#include <ox/polygon/internal/clipping/integer_grid.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
+#include <ox/polygon/internal/tolerances.h>
 #include <ox/polygon/ox_polygon.h>
 
 namespace ox {
+
+using namespace internal;
 namespace {
 
 ClipperLib::ClipType clip_type(boolean_operation operation) {
@@ -18,6 +23,17 @@ ClipperLib::ClipType clip_type(boolean_operation operation) {
         break;
     }
     return ClipperLib::ctUnion;
+}
+
+ClipperLib::JoinType to_join(int join_type) {
+    switch (join_type) {
+    case ox_polygon::join_round:
+        return ClipperLib::jtRound;
+    case ox_polygon::join_miter:
+        return ClipperLib::jtMiter;
+    default:
+        return ClipperLib::jtSquare;
+    }
 }
 
 bool is_without_contours(const ox_polygon_data& polygon) {
@@ -34,7 +50,7 @@ void ox_polygon_data::combine(const ox_polygon_data& other, boolean_operation op
     if (ox_dot(normal, other.normal) < 0.0f) {
         clips.reverse_each();
     }
-    combine_on_grid(*this, clip_type(operation), subjects, clips);
+    combine_contours(*this, clip_type(operation), subjects, clips);
 }
 
 void ox_polygon::unites(const ox_polygon& other) {
@@ -69,6 +85,20 @@ void ox_polygon::intersects(const ox_polygon& other) {
         return;
     }
     data->combine(*other.data, boolean_operation::intersect);
+}
+
+void ox_polygon::offset(float distance, int join_type) {
+    data->compute_contours();
+    if (data->contour_sizes.size() == 0) {
+        return;
+    }
+    grid_contours contours;
+    contours.append(*data, data->contour_vertices, data->contour_sizes);
+    const double delta = static_cast<double>(distance) / static_cast<double>(grid_unit);
+    ClipperLib::PolyTree tree;
+    if (offset_contours(contours, to_join(join_type), delta, tree) || distance < 0.0f) {
+        rebuild_contours(*data, tree);
+    }
 }
 
 } // namespace ox

@@ -3,30 +3,30 @@
 //
 //  1. Without a plane, take the one of the first contour that fits the integer grid.
 //  2. Exactly three pending vertices: they replace everything by one triangle.
-//  3. Otherwise unite everything, and read the contours back from the tree of the union.
+//  3. Otherwise unite everything (`contour_combination`).
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
+#include <ox/internal/contour_view.h>
 #include <ox/internal/vectors.h>
-#include <ox/polygon/internal/contour_lists.h>
-#include <ox/polygon/internal/integer_grid.h>
-#include <ox/polygon/internal/monotone_contour.h>
+#include <ox/polygon/internal/clipping/contour_combination.h>
+#include <ox/polygon/internal/clipping/integer_grid.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
 #include <ox/polygon/internal/tolerances.h>
 #include <ox/polygon/ox_polygon.h>
 
 namespace ox {
+
+using namespace internal;
 namespace {
 
 constexpr int fewest_pending_vertices = 3;
 
-// Newell's idea with a fixed fan of neighbours: the sum of the cross products of successive edges.
-ox_3dvector sum_of_edge_crosses(const ox_3dvector* v, unsigned int n) {
+ox_3dvector sum_of_edge_crosses(const ox_3dvector* v, int n) {
     ox_3dvector sum;
     ox_3dvector incoming = v[1 % n] - v[0];
-    for (unsigned int i = 1; i <= n; ++i) {
+    for (int i = 1; i <= n; ++i) {
         const ox_3dvector outgoing = v[(i + 1) % n] - v[i % n];
         sum += ox_cross(incoming, outgoing);
         incoming = outgoing;
@@ -34,59 +34,59 @@ ox_3dvector sum_of_edge_crosses(const ox_3dvector* v, unsigned int n) {
     return sum;
 }
 
-enum class plane_source { good, flat, outside_grid };
+enum class plane_verdict { good, flat, outside_grid };
 
-// Gives `polygon` the plane of a contour: through its first vertex, with the normal on the side
-// from which the contour runs counter-clockwise. `path` becomes the contour in that plane's frame.
-// Unless the result is `good`, the plane of `polygon` is left in an unspecified state.
-plane_source take_plane_of(ox_polygon_data& polygon, const ox_3dvector* contour, unsigned int size,
-                           grid_path& path) {
-    polygon.point = contour[0];
-    polygon.normal = sum_of_edge_crosses(contour, size);
-    const float length = polygon.normal.size();
+/// What a contour says about the plane through its first vertex, with the normal on the side from
+/// which it runs counter-clockwise.
+struct plane_decision {
+    plane_verdict verdict = plane_verdict::outside_grid;
+    plane_frame plane; ///< unless the verdict is good, with no normal
+    grid_path path;    ///< the contour in that plane's frame
+};
+
+plane_decision decide_plane(const ox_3dvector* contour, int size) {
+    plane_decision decision;
+    decision.plane.point = contour[0];
+    ox_3dvector normal = sum_of_edge_crosses(contour, size);
+    const float length = normal.size();
     if (length < shortest_contour_normal) {
-        return plane_source::flat;
+        decision.verdict = plane_verdict::flat;
+        return decision;
     }
     if (!std::isfinite(length)) {
-        return plane_source::outside_grid;
+        return decision;
     }
-    polygon.normal.normalize();
-    polygon.normal.build_axis(polygon.dx, polygon.dy);
-    if (!path.take(polygon, contour, size)) {
-        return plane_source::outside_grid;
+    normal.normalize();
+    plane_frame plane = decision.plane;
+    plane.turn_to(normal);
+    if (!decision.path.take(plane, contour, static_cast<std::size_t>(size))) {
+        return decision;
     }
-    if (!path.is_counter_clockwise()) {
-        polygon.normal = -polygon.normal;
-        polygon.normal.build_axis(polygon.dx, polygon.dy);
-        path.take(polygon, contour, size);
+    if (!decision.path.is_counter_clockwise()) {
+        plane.turn_to(-plane.normal);
+        decision.path.take(plane, contour, static_cast<std::size_t>(size));
     }
-    return plane_source::good;
+    decision.verdict = plane_verdict::good;
+    decision.plane = plane;
+    return decision;
 }
 
-// Takes the plane of the first pending contour that fits the grid. False when there is none, or
-// when that contour is flat: the polygon then has a zero normal. `path` becomes that contour.
-bool derive_plane(ox_polygon_data& polygon, grid_path& path) {
-    const ox_3dvector point_before = polygon.point;
-    const ox_3dvector* contour = polygon.pending_vertices.get_data();
-    plane_source source = plane_source::outside_grid;
-    for (const unsigned int size : polygon.pending_sizes) {
-        source = take_plane_of(polygon, contour, size, path);
-        if (source != plane_source::outside_grid) {
-            break;
+/// The decision of the first pending contour that fits the grid. A flat one decides that there is
+/// no plane; where none fits, the plane's point stays.
+plane_decision decide_plane(const ox_polygon_data& polygon) {
+    for (const contour_view contour : contour_views(polygon.pending_sizes)) {
+        plane_decision decision =
+            decide_plane(polygon.pending_vertices.get_data() + contour.first, contour.size());
+        if (decision.verdict != plane_verdict::outside_grid) {
+            return decision;
         }
-        contour += size;
     }
-    polygon.plane_defined = source == plane_source::good;
-    if (source != plane_source::good) {
-        polygon.normal = ox_3dvector();
-    }
-    if (source == plane_source::outside_grid) {
-        polygon.point = point_before;
-    }
-    return polygon.plane_defined;
+    plane_decision none;
+    none.plane.point = polygon.point;
+    return none;
 }
 
-// The first contour is mostly the only one: its list gets no room to spare.
+/// The first contour is mostly the only one: its list gets no room to spare.
 void append(ox_list<ox_3dvector>& list, const ox_3dvector* vertices, int size) {
     const int before = list.size();
     const int needed = before + size;
@@ -102,7 +102,7 @@ void drop_pending(ox_polygon_data& polygon) {
     polygon.pending_sizes.clear();
 }
 
-// The triangle stands as it was given: it is not projected on the plane.
+/// The triangle stands as it was given: it is not projected on the plane.
 void replace_by_pending_triangle(ox_polygon_data& polygon) {
     if (ox_polygon::is_clockwise(polygon.pending_vertices, polygon.normal) > 0) {
         std::reverse(polygon.pending_vertices.begin(), polygon.pending_vertices.end());
@@ -114,31 +114,18 @@ void replace_by_pending_triangle(ox_polygon_data& polygon) {
     polygon.drop_region_unless_finite();
 }
 
-// A lone contour is the most common of all, and mostly one that need not be merged with itself.
-// `path` is that contour if it has points.
-bool take_single_contour(ox_polygon_data& polygon, grid_path& path) {
-    if (polygon.contour_sizes.size() != 0 || polygon.pending_sizes.size() != 1) {
-        return false;
+/// `path` is the first pending contour if it has points.
+void unite_with_pending(ox_polygon_data& polygon, grid_path& path) {
+    if (polygon.contour_sizes.size() == 0 && polygon.pending_sizes.size() == 1 &&
+        (path.size() > 0 ||
+         path.take(polygon, polygon.pending_vertices.get_data(), polygon.pending_sizes[0]))) {
+        unite_single_contour(polygon, path);
+        return;
     }
-    const bool is_on_grid =
-        path.size() > 0 ||
-        path.take(polygon, polygon.pending_vertices.get_data(), polygon.pending_sizes[0]);
-    monotone_contour contour;
-    if (!is_on_grid || !read_monotone_contour(path.data(), path.size(), contour)) {
-        return false;
-    }
-    contour_lists made(contour.size, std::move(polygon.pending_vertices),
-                       std::move(polygon.pending_sizes));
-    made.append(polygon, contour, false, -1);
-    made.move_to(polygon);
-    return true;
-}
-
-void unite_with_pending(ox_polygon_data& polygon) {
     grid_contours contours;
     contours.append(polygon, polygon.contour_vertices, polygon.contour_sizes);
     contours.append(polygon, polygon.pending_vertices, polygon.pending_sizes);
-    combine_on_grid(polygon, ClipperLib::ctUnion, contours, grid_contours());
+    combine_contours(polygon, ClipperLib::ctUnion, contours, grid_contours());
 }
 
 void merge_pending(ox_polygon_data& polygon) {
@@ -147,8 +134,13 @@ void merge_pending(ox_polygon_data& polygon) {
         return;
     }
     polygon.bounding_box.clear();
-    grid_path path;
-    if (!polygon.plane_defined && !derive_plane(polygon, path)) {
+    plane_decision decision;
+    if (!polygon.plane_defined) {
+        decision = decide_plane(polygon);
+        static_cast<plane_frame&>(polygon) = decision.plane;
+        polygon.plane_defined = decision.verdict == plane_verdict::good;
+    }
+    if (!polygon.plane_defined) {
         drop_pending(polygon);
         return;
     }
@@ -156,9 +148,7 @@ void merge_pending(ox_polygon_data& polygon) {
         replace_by_pending_triangle(polygon);
         return;
     }
-    if (!take_single_contour(polygon, path)) {
-        unite_with_pending(polygon);
-    }
+    unite_with_pending(polygon, decision.path);
     drop_pending(polygon);
 }
 
@@ -173,12 +163,13 @@ void ox_polygon_data::compute_contours() {
     contours_computed = true;
 }
 
-void ox_polygon_data::append_contour(const ox_3dvector* vertices, unsigned int size, bool outer,
+void ox_polygon_data::append_contour(const ox_3dvector* vertices, int size, bool outer,
                                      int parent) {
-    append(contour_vertices, vertices, static_cast<int>(size));
+    append(contour_vertices, vertices, size);
     contour_orientations.push_right(outer);
     contour_parents.push_right(parent);
-    contour_sizes.push_right(size); // last: no size without its vertices, even without memory
+    contour_sizes.push_right(
+        static_cast<unsigned int>(size)); // last: no size without its vertices, even without memory
 }
 
 void ox_polygon_data::clear_contours() {
@@ -194,9 +185,8 @@ void ox_polygon_data::forget_derived() {
 }
 
 void ox_polygon_data::drop_region_unless_finite() {
-    const bool finite_plane =
-        is_finite(point) && is_finite(normal) && is_finite(dx) && is_finite(dy);
-    if (finite_plane && std::all_of(contour_vertices.begin(), contour_vertices.end(), is_finite)) {
+    if (has_finite_numbers() &&
+        std::all_of(contour_vertices.begin(), contour_vertices.end(), is_finite)) {
         return;
     }
     clear_contours();

@@ -1,8 +1,12 @@
+// Cutting by a plane, and splitting into parts.
+
 #include <algorithm>
+#include <cstddef>
 #include <memory>
 #include <utility>
 #include <vector>
 
+#include <ox/internal/contour_view.h>
 #include <ox/polygon/internal/hand_over.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
 #include <ox/polygon/internal/tolerances.h>
@@ -10,14 +14,16 @@
 
 namespace ox {
 
+using namespace internal;
+
 namespace {
 
-// The directions in a polygon's plane along which a cutting plane measures it.
+/// The directions in a polygon's plane along which a cutting plane measures it.
 struct cut_frame {
-    ox_3dvector origin; // in the cutting plane
-    ox_3dvector along;  // of the line in which the planes meet
-    ox_3dvector away;   // from the side the cutting normal points to
-    bool parallel;      // the planes do not meet, or not in a line that can be computed
+    ox_3dvector origin; ///< in the cutting plane
+    ox_3dvector along;  ///< of the line in which the planes meet
+    ox_3dvector away;   ///< from the side the cutting normal points to
+    bool parallel;      ///< the planes do not meet, or not in a line that can be computed
 };
 
 cut_frame make_cut_frame(const ox_3dvector& origin, const ox_3dvector& cut_normal,
@@ -32,7 +38,7 @@ cut_frame make_cut_frame(const ox_3dvector& origin, const ox_3dvector& cut_norma
     return frame;
 }
 
-// The extent of a polygon in a cut frame: s away from the cutting plane, t along it.
+/// The extent of a polygon in a cut frame: s away from the cutting plane, t along it.
 struct cut_extent {
     float s_min = 0.0f;
     float s_max = 0.0f;
@@ -53,7 +59,7 @@ cut_extent measure(const ox_list<ox_3dvector>& vertices, const cut_frame& frame)
     return extent;
 }
 
-// The rectangle over the polygon's whole extent along the cut, from `s_first` to `s_last` away.
+/// The rectangle over the polygon's whole extent along the cut, from `s_first` to `s_last` away.
 ox_list<ox_3dvector> rectangle(const cut_frame& f, const cut_extent& x, float s_first,
                                float s_last) {
     ox_list<ox_3dvector> corners;
@@ -64,7 +70,7 @@ ox_list<ox_3dvector> rectangle(const cut_frame& f, const cut_extent& x, float s_
     return corners;
 }
 
-// The part of `polygon` inside a rectangle of its plane, as a new polygon.
+/// The part of `polygon` inside a rectangle of its plane, as a new polygon.
 std::unique_ptr<ox_polygon> piece_inside(const ox_polygon& polygon,
                                          const ox_list<ox_3dvector>& corners) {
     ox_polygon clip(polygon.get_point(), polygon.get_normal());
@@ -100,6 +106,74 @@ ox_list<ox_polygon*> ox_polygon::cut_by_plane(const ox_3dvector& point, const ox
         cut.push_back(piece_inside(*this, rectangle(frame, extent, 0.0f, extent.s_max)));
     }
     return hand_over(std::move(cut));
+}
+
+ox_list<ox_polygon*> ox_polygon::split_to_polygons() {
+    if (count_outer_contours() < 2) {
+        ox_list<ox_polygon*> itself;
+        itself.push_right(this);
+        return itself;
+    }
+    std::vector<std::unique_ptr<ox_polygon>> pieces;
+    // By contour, what an outer one became. Parents come before what lies inside them.
+    std::vector<ox_polygon_data*> piece_of(static_cast<std::size_t>(data->contour_sizes.size()));
+    for (const contour_view contour : contour_views(data->contour_sizes)) {
+        const ox_3dvector* vertices = data->contour_vertices.get_data() + contour.first;
+        const int parent = data->contour_parents[contour.index];
+        if (data->contour_orientations[contour.index]) {
+            pieces.push_back(std::make_unique<ox_polygon>(data->point, data->normal));
+            piece_of[static_cast<std::size_t>(contour.index)] = pieces.back()->data;
+            pieces.back()->data->append_contour(vertices, contour.size(), true, -1);
+        } else {
+            // Holes keep this index of their parent: callers match pieces with the whole by it.
+            piece_of[static_cast<std::size_t>(parent)]->append_contour(vertices, contour.size(),
+                                                                       false, parent);
+        }
+    }
+    return hand_over(std::move(pieces));
+}
+
+ox_list<ox_polygon*> ox_polygon::split_to_convex_polygons() {
+    ox_list<ox_polygon*> pieces;
+    if (is_convex(-1)) {
+        pieces.push_right(this);
+    }
+    return pieces;
+}
+
+bool ox_polygon::is_convex(int contour) {
+    data->compute_contours();
+    const int contours = data->contour_sizes.size();
+    if (contour < 0 && contours != 1) {
+        return false;
+    }
+    const int named = contour < 0 ? 0 : contour;
+    if (named >= contours) {
+        return false;
+    }
+    const int n = static_cast<int>(data->contour_sizes[named]);
+    if (n <= 3) {
+        return true;
+    }
+    // Whichever contour was named, its number of vertices is taken from the start of the list: a
+    // hole is called convex where its outline is, and pieces are told apart by that.
+    const ox_list<ox_3dvector>& v = data->contour_vertices;
+    float reference = 0.0f;
+    for (int i = 0; i < n; ++i) {
+        const ox_3dvector& a = v[i];
+        const ox_3dvector& b = v[(i + 1) % n];
+        const ox_3dvector& c = v[(i + 2) % n];
+        const float turn = ox_dot(ox_cross(b - a, c - b), data->normal);
+        if (turn == 0.0f) {
+            continue;
+        }
+        if (reference == 0.0f) {
+            reference = turn < 0.0f ? -1.0f : 1.0f;
+        } else if (turn * reference < 0.0f) {
+            return false;
+        }
+    }
+    return true;
 }
 
 } // namespace ox

@@ -8,11 +8,13 @@
 #include <ox/core/ox_random.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
 #include <ox/polygon/internal/plane_coordinates.h>
-#include <ox/polygon/internal/region_rows.h>
-#include <ox/polygon/internal/weighted_choice.h>
+#include <ox/polygon/internal/search/region_rows.h>
+#include <ox/polygon/internal/search/weighted_choice.h>
 #include <ox/polygon/ox_polygon.h>
 
 namespace ox {
+
+using namespace internal;
 namespace {
 
 /// The bounds of the contours in the polygon's frame, half a step wider on every side.
@@ -99,7 +101,7 @@ ox_list<ox_3dvector> ox_polygon::regular_distribution(float step) {
         return points;
     }
     region_rows region(*data, columns, rows);
-    if (!region.is_within_reach()) {
+    if (!region.can_be_found()) {
         return points;
     }
     int count = 0;

@@ -1,5 +1,7 @@
-#include <ox/internal/opengl_headers.h>
 #include <ox/polygon/ox_polygon.h>
+
+#include <ox/internal/contour_view.h>
+#include <ox/internal/opengl_headers.h>
 
 namespace ox {
 
@@ -20,9 +22,9 @@ void ox_polygon::draw_opengl() {
     glEnd();
 }
 
-static void draw_vertices(const ox_list<ox_3dvector>& vertices, int first, int count) {
-    for (int i = 0; i < count; ++i) {
-        glVertex3fv(&vertices.at(first + i).x);
+static void draw_vertices(const ox_list<ox_3dvector>& vertices, int first, int end) {
+    for (int i = first; i < end; ++i) {
+        glVertex3fv(&vertices.at(i).x);
     }
 }
 
@@ -31,14 +33,11 @@ void ox_polygon::draw_opengl_contour(bool with_points) {
     if (vertices.size() == 0) {
         return;
     }
-    int first = 0;
-    for (const unsigned int contour_size : get_contour_sizes()) {
-        const int count = static_cast<int>(contour_size);
+    for (const internal::contour_view contour : internal::contour_views(get_contour_sizes())) {
         glBegin(GL_LINE_STRIP);
-        draw_vertices(vertices, first, count);
-        glVertex3fv(&vertices.at(first).x);
+        draw_vertices(vertices, contour.first, contour.end);
+        glVertex3fv(&vertices.at(contour.first).x);
         glEnd();
-        first += count;
     }
     if (with_points) {
         glPointSize(contour_point_size);

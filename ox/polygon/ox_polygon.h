@@ -40,6 +40,10 @@ struct polygon_access;
 /// then. Queries fill caches, const ones too: one polygon must not be used by two threads at
 /// once.
 ///
+/// A failed allocation throws `std::bad_alloc`, and the contours stay as they were. Not every one
+/// of the libraries' own can be survived: where one fails among crossings, the clipping library may
+/// free memory twice, and the tessellator may read through a null pointer.
+///
 /// Degenerate input (nothing is reported, nothing throws but a failed allocation):
 /// - an empty contour: ignored;
 /// - fewer than three added vertices in total: dropped, the contours stay as they were;
@@ -53,9 +57,10 @@ struct polygon_access;
 ///   all pending contours are dropped and the plane stays undefined;
 /// - a plane of numbers that are not finite: the region is empty for as long as they stay.
 ///
-/// Ownership: a polygon owns everything it holds; copies are deep. Each thread keeps, until it
-/// ends, what merges and tessellations of small shapes gave, a few megabytes at most: shapes that
-/// lie alike are answered from there.
+/// Ownership: a polygon owns everything it holds; copies are deep.
+///
+/// Memory: each thread keeps, until it ends, what merges and tessellations of small shapes gave, a
+/// few megabytes at most: shapes that lie alike are answered from there.
 ///
 /// \code
 /// ox::ox_list<ox::ox_3dvector> square;
@@ -83,8 +88,8 @@ public:
     /// Makes an empty polygon without a plane: the first contour will define it. O(1).
     ox_polygon();
 
-    /// Makes an empty polygon in the plane through `point` with `normal`, which needs not be of
-    /// unit length. A normal shorter than 0.0001 is refused: the polygon then has no plane, and
+    /// Makes an empty polygon in the plane through `point` with `normal`, of any length.
+    /// A normal shorter than 0.0001 is refused: the polygon then has no plane, and
     /// `point` is kept.
     ox_polygon(const ox_3dvector& point, const ox_3dvector& normal);
 
@@ -95,6 +100,13 @@ public:
     /// Replaces this polygon by a copy, as the copy constructor makes it. Assignment to itself
     /// does nothing.
     ox_polygon& operator=(const ox_polygon& source);
+
+    /// Takes what `source` holds and leaves it a new polygon. O(1).
+    ox_polygon(ox_polygon&& source);
+
+    /// Exchanges what both hold. O(1).
+    ox_polygon& operator=(ox_polygon&& source) noexcept;
+    void swap(ox_polygon& other) noexcept;
 
     /// Frees everything the polygon holds.
     virtual ~ox_polygon();
@@ -178,7 +190,7 @@ public:
     /// size, seconds for rings of thousands of sides.
     const ox_3dvector& get_best_center();
 
-    /// Tells whether the projection of `p` on the plane lies inside the region, by counting
+    /// True if the projection of `p` on the plane lies inside the region, by counting
     /// crossings of a line through it along dx. No tolerance; `p`'s distance from the plane is
     /// ignored. O(n).
     bool contains(const ox_3dvector& p);
@@ -213,13 +225,16 @@ public:
 
     /// Grows (positive distance, model units) or shrinks (negative) the region: outlines move
     /// outwards, holes shrink. `join_type` is one of `join`; every other value is read as
-    /// `join_square`. Arcs keep within 0.000025 model units of the circle.
+    /// `join_square`. Arcs keep within 0.0001 model units of the circle: 0.000025 by their chords,
+    /// and the rounding to the grid.
     ///
     /// Out of reach is a distance that is not finite, one of which twice could lead outside the
-    /// integer grid, and with round joins one beyond 1,000,000 model units or whose arcs would
-    /// have more than 8,000,000 vertices. It leaves no contour when it is negative, and the
-    /// polygon unchanged otherwise. O(n log n) for n vertices, those of the arcs included, plus
-    /// the crossings of the moved sides.
+    /// integer grid, and with round joins one whose arcs would have more than 16,000,000 vertices.
+    /// An arc has 71 times the root of the distance for each radian that it turns: the limit is a
+    /// full circle of 1,290,000,000 model units, or 1,400 right angles of 10,000. It leaves no
+    /// contour when it is negative, and the polygon unchanged otherwise. O(n log n) for n vertices,
+    /// those of the arcs included, plus the crossings of the moved sides: seconds and gigabytes
+    /// near that limit.
     void offset(float distance, int join_type);
 
     // Cutting and splitting
@@ -232,9 +247,10 @@ public:
     /// without `both_sides`: empty list. Touching the plane is not crossing it.
     /// The cut runs through the projection of `point` on this polygon's plane, so a cutting plane
     /// that is not perpendicular needs a point in both planes. Planes count as parallel when the
-    /// cross product of the normals is shorter than 0.001 or not a number.
-    ox_list<ox_polygon*> cut_by_plane(const ox_3dvector& point, const ox_3dvector& normal,
-                                      bool both_sides);
+    /// cross product of the normals is shorter than 0.001 or not a number. `ox_polygon_pieces` owns
+    /// what is returned here and by `split_to_polygons`. O(n log n) plus the crossings.
+    [[nodiscard]] ox_list<ox_polygon*> cut_by_plane(const ox_3dvector& point,
+                                                    const ox_3dvector& normal, bool both_sides);
 
     /// The points where the line in which this plane meets the plane through `point` with
     /// `normal` enters and leaves the polygon, in order along it: each pair bounds one stretch
@@ -246,13 +262,13 @@ public:
     /// Makes one new polygon per outer boundary, with the holes directly inside it; the caller
     /// deletes them. A hole keeps its parent's index in this polygon. With fewer than two outer
     /// boundaries the list holds this polygon itself, which must not be deleted. O(n).
-    ox_list<ox_polygon*> split_to_polygons();
+    [[nodiscard]] ox_list<ox_polygon*> split_to_polygons();
 
     /// Returns a list that holds this polygon itself when it is one convex contour, otherwise an
     /// empty list: the polygon was not split.
     ox_list<ox_polygon*> split_to_convex_polygons();
 
-    /// Tells whether a contour is convex (collinear vertices are allowed). A negative index
+    /// True if a contour is convex (collinear vertices are allowed). A negative index
     /// means the only contour, and gives false when there are several. The vertices looked at
     /// are always those from the first of the whole polygon on, as many as the contour has.
     /// False for an index out of range. O(n).
@@ -294,8 +310,9 @@ public:
     /// says, so of points on the outline some are in.
     ///
     /// Empty for a step that is not positive, for bounds so far from the plane's point that the
-    /// step does not change a coordinate, and where coordinates reach 1e37 model units. Rows and
-    /// columns end with a coordinate that the step no longer changes. An allocation failure where
+    /// step does not change a coordinate, and where coordinates reach 1e37 model units and the
+    /// points of the whole grid, times the sides, are more than 1,000,000,000. Rows and columns end
+    /// with a coordinate that the step no longer changes. An allocation failure where
     /// the result has more than 2^31 - 1 points. O(n log n) for n sides, per row its crossings,
     /// and the points found.
     ox_list<ox_3dvector> regular_distribution(float step);

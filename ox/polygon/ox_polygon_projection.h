@@ -34,15 +34,25 @@ public:
     /// The frame of `polygon`, whose contours it merges, wider by `margin` on all four sides. O(n).
     ox_polygon_projection(ox_polygon* polygon, float margin);
 
+    /// Copies share the frame and the contours. O(1).
     ox_polygon_projection(const ox_polygon_projection& other);
     ox_polygon_projection& operator=(const ox_polygon_projection& other);
     virtual ~ox_polygon_projection();
 
+    /// The polygon that the frame was laid over, which is not owned; null if it was.
     ox_polygon* get_polygon() const;
-    const ox_3dvector& get_origin() const; ///< the world position of the frame's (0, 0)
+
+    /// The world position of the frame's (0, 0).
+    const ox_3dvector& get_origin() const;
+
+    /// The axes of the frame, of unit length: those of the polygon's own frame.
     const ox_3dvector& get_dx() const;
     const ox_3dvector& get_dy() const;
+
+    /// The polygon's normal.
     const ox_3dvector& get_normal() const;
+
+    /// The extent along both axes in model units, the margins included.
     const ox_2dvector& get_size() const;
 
     /// The coordinates of a point's projection on the plane.
@@ -59,7 +69,7 @@ public:
     ox_3dvector polygon_vector_to_world(float u, float v) const;
     ox_3dvector polygon_vector_to_world(const ox_2dvector& q) const;
 
-    /// Tells whether the point (u, v) lies inside the region, as `ox_polygon::contains` does. O(n).
+    /// True if the point (u, v) lies inside the region, as `ox_polygon::contains` does. O(n).
     bool contains(float u, float v) const;
     bool contains(const ox_2dvector& q) const;
 

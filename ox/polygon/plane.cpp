@@ -4,18 +4,20 @@
 #include <algorithm>
 #include <utility>
 
+#include <ox/internal/contour_view.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
 #include <ox/polygon/internal/tolerances.h>
 #include <ox/polygon/ox_polygon.h>
 
 namespace ox {
+
+using namespace internal;
 namespace {
 
 void reverse_each_contour(ox_polygon_data& polygon) {
-    ox_3dvector* contour = polygon.contour_vertices.get_data();
-    for (const unsigned int size : polygon.contour_sizes) {
-        std::reverse(contour, contour + size);
-        contour += size;
+    ox_3dvector* const vertices = polygon.contour_vertices.get_data();
+    for (const contour_view contour : contour_views(polygon.contour_sizes)) {
+        std::reverse(vertices + contour.first, vertices + contour.end);
     }
 }
 
@@ -31,7 +33,7 @@ void project_on_plane(const ox_polygon_data& plane, ox_list<ox_3dvector>& vertic
     }
 }
 
-// Brings contours and triangles along to a plane that was just set.
+/// Brings contours and triangles along to a plane that was just set.
 void follow_plane(ox_polygon_data& polygon, bool flip) {
     if (flip) {
         reverse_each_contour(polygon);
@@ -46,8 +48,8 @@ void follow_plane(ox_polygon_data& polygon, bool flip) {
     }
 }
 
-// Sets normal and frame. False when the normal is too short, or is the one the polygon has:
-// nothing is to follow then.
+/// Sets normal and frame. False when the normal is too short, or is the one the polygon has:
+/// nothing is to follow then.
 bool turn_plane(ox_polygon_data& polygon, ox_3dvector normal, bool& flip) {
     if (normal.size() < shortest_plane_normal) {
         return false;
@@ -57,14 +59,13 @@ bool turn_plane(ox_polygon_data& polygon, ox_3dvector normal, bool& flip) {
         return false;
     }
     flip = ox_dot(normal, polygon.normal) < 0.0f;
-    polygon.normal = normal;
-    polygon.normal.build_axis(polygon.dx, polygon.dy);
+    polygon.turn_to(normal);
     polygon.plane_defined = true;
     return true;
 }
 
-// The next vertex after `from` that differs from `origin`, or `end` when the walk comes back
-// there first.
+/// The next vertex after `from` that differs from `origin`, or `end` when the walk comes back
+/// there first.
 int next_different(const ox_list<ox_3dvector>& contour, int from, const ox_3dvector& origin,
                    int end) {
     const int n = contour.size();

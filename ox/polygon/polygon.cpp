@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <memory>
+#include <utility>
 
 #include <ox/internal/polygon_access.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
@@ -10,7 +11,7 @@
 namespace ox {
 namespace {
 
-// Polygons are made by all threads that cut solids of their own.
+/// Polygons are made by all threads that cut solids of their own.
 std::atomic<int> living_polygons{0};
 
 } // namespace
@@ -60,6 +61,19 @@ ox_polygon& ox_polygon::operator=(const ox_polygon& source) {
         data = copied;
     }
     return *this;
+}
+
+ox_polygon::ox_polygon(ox_polygon&& source) : ox_polygon() {
+    swap(source);
+}
+
+ox_polygon& ox_polygon::operator=(ox_polygon&& source) noexcept {
+    swap(source);
+    return *this;
+}
+
+void ox_polygon::swap(ox_polygon& other) noexcept {
+    std::swap(data, other.data);
 }
 
 ox_polygon::~ox_polygon() {

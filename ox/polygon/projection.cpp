@@ -1,8 +1,13 @@
-#include <algorithm>
-#include <ox/polygon/internal/crossing_count.h>
 #include <ox/polygon/ox_polygon_projection.h>
 
+#include <algorithm>
+
+#include <ox/internal/contour_view.h>
+#include <ox/polygon/internal/search/crossing_count.h>
+
 namespace ox {
+
+using namespace internal;
 
 struct ox_polygon_projection_data {
     ox_polygon* polygon = nullptr; ///< not owned
@@ -164,14 +169,10 @@ bool ox_polygon_projection::contains(const ox_2dvector& q) const {
 int ox_polygon_projection::raytrace(const ox_2dvector& start, const ox_2dvector& direction,
                                     ox_2dvector& hit, ox_2dvector& edge, float& distance) const {
     ray_search search(start, direction);
-    int first = 0;
-    for (const unsigned int size : data->sizes) {
-        const int count = static_cast<int>(size);
-        for (int i = 0; i < count; ++i) {
-            const int next = i + 1 < count ? i + 1 : 0;
-            search.try_edge(data->points[first + i], data->points[first + next], first + i);
+    for (const contour_view contour : contour_views(data->sizes)) {
+        for (int i = contour.first; i < contour.end; ++i) {
+            search.try_edge(data->points[i], data->points[contour.after(i)], i);
         }
-        first += count;
     }
     if (search.first >= 0) {
         hit = search.hit;

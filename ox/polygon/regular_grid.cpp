@@ -7,14 +7,17 @@
 #include <limits>
 #include <vector>
 
+#include <ox/internal/contour_view.h>
 #include <ox/internal/sweep_window.h>
-#include <ox/polygon/internal/crossing_count.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
 #include <ox/polygon/internal/plane_coordinates.h>
+#include <ox/polygon/internal/search/crossing_count.h>
 #include <ox/polygon/internal/tolerances.h>
 #include <ox/polygon/ox_polygon.h>
 
 namespace ox {
+
+using namespace internal;
 namespace {
 
 struct point {
@@ -106,17 +109,19 @@ private:
             const point p = in_plane(v);
             corners.push_back({p.x - start.x, p.y - start.y});
         }
-        std::size_t first = 0;
-        for (const unsigned int size : polygon.contour_sizes) {
-            for (std::size_t i = 0; i < size; ++i) {
-                const side s{corners[first + i], corners[first + (i + 1) % size]};
-                const side c{in_cells(s.a), in_cells(s.b)};
-                regular = regular && std::isfinite(c.a.x) && std::isfinite(c.a.y);
-                sides.push_back(s);
-                cell_sides.push_back(c);
+        for (const contour_view contour : contour_views(polygon.contour_sizes)) {
+            for (int i = contour.first; i < contour.end; ++i) {
+                add_side({corners[static_cast<std::size_t>(i)],
+                          corners[static_cast<std::size_t>(contour.after(i))]});
             }
-            first += size;
         }
+    }
+
+    void add_side(const side& s) {
+        const side c{in_cells(s.a), in_cells(s.b)};
+        regular = regular && std::isfinite(c.a.x) && std::isfinite(c.a.y);
+        sides.push_back(s);
+        cell_sides.push_back(c);
     }
 
     void start_sweep(double margin) {

@@ -2,19 +2,23 @@
 #include <cmath>
 #include <vector>
 
+#include <ox/internal/contour_view.h>
+#include <ox/internal/vectors.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
 #include <ox/polygon/internal/tolerances.h>
 #include <ox/polygon/ox_polygon.h>
 
 namespace ox {
 
+using namespace internal;
+
 namespace {
 
-// A point where the section line crosses the outline.
+/// A point where the section line crosses the outline.
 struct sortable_sp {
     ox_3dvector point;
-    bool flag; // alternates along the line where it enters and leaves the region
-    float key; // position along the line
+    bool flag; ///< alternates along the line where it enters and leaves the region
+    float key; ///< position along the line
 };
 
 struct section_plane {
@@ -31,63 +35,41 @@ struct section_plane {
         const float t = ox_dot(point - a, normal) / ox_dot(b - a, normal);
         return a + t * (b - a);
     }
-
-    bool is_finite() const {
-        const float sum = point.manhattan_size() + normal.manhattan_size();
-        return std::isfinite(sum);
-    }
 };
 
-struct contour_view {
-    const ox_3dvector* vertices;
-    int size;
-    bool outer;
-
-    const ox_3dvector& operator[](int i) const { return vertices[i % size]; }
-};
-
-std::vector<int> sides_of(const contour_view& contour, const section_plane& plane) {
-    std::vector<int> sides;
-    for (int i = 0; i < contour.size; ++i) {
-        sides.push_back(plane.side_of(contour[i]));
-    }
-    return sides;
-}
-
-// Records the crossings of one contour: where it passes through a vertex, and inside its edges.
-void record_crossings(const contour_view& contour, const section_plane& plane,
-                      std::vector<sortable_sp>& records) {
-    const std::vector<int> sides = sides_of(contour, plane);
-    const auto side = [&](int i) { return sides[static_cast<std::size_t>(i % contour.size)]; };
-    const int reference = contour.outer ? -1 : 1;
-    for (int k = 0; k < contour.size; ++k) {
-        const int before = side(k);
-        const int a = side(k + 1);
-        const int b = side(k + 2);
+/// Records the crossings of one contour: where it passes through a vertex, and inside its edges.
+void record_crossings(const ox_list<ox_3dvector>& vertices, const contour_view& contour, bool outer,
+                      const section_plane& plane, std::vector<sortable_sp>& records) {
+    const int reference = outer ? -1 : 1;
+    int before = plane.side_of(vertices[contour.first]);
+    int i = contour.after(contour.first);
+    int a = plane.side_of(vertices[i]);
+    for (int k = 0; k < contour.size(); ++k) {
+        const int next = contour.after(i);
+        const int b = plane.side_of(vertices[next]);
         if (a == 0 && b != 0 && before != b) {
             const bool flag = before == 0 ? b != reference : before == reference;
-            records.push_back({contour[k + 1], flag, 0.0f});
+            records.push_back({vertices[i], flag, 0.0f});
         } else if (a * b < 0) {
-            records.push_back({plane.meet(contour[k + 1], contour[k + 2]), a == reference, 0.0f});
+            records.push_back({plane.meet(vertices[i], vertices[next]), a == reference, 0.0f});
         }
+        before = a;
+        a = b;
+        i = next;
     }
 }
 
 std::vector<sortable_sp> all_crossings(const ox_polygon_data& polygon, const section_plane& plane) {
     std::vector<sortable_sp> records;
-    int first = 0;
-    for (int i = 0; i < polygon.contour_sizes.size(); ++i) {
-        const int size = static_cast<int>(polygon.contour_sizes[i]);
-        record_crossings(
-            {polygon.contour_vertices.get_data() + first, size, polygon.contour_orientations[i]},
-            plane, records);
-        first += size;
+    for (const contour_view contour : contour_views(polygon.contour_sizes)) {
+        record_crossings(polygon.contour_vertices, contour,
+                         polygon.contour_orientations[contour.index], plane, records);
     }
     return records;
 }
 
-// Sorts the records along the line. Equal keys keep the order in which they were made. Returns
-// false when a key is not a number.
+/// Sorts the records along the line. Equal keys keep the order in which they were made. Returns
+/// false when a key is not a number.
 bool sort_along(const ox_3dvector& direction, std::vector<sortable_sp>& records) {
     const ox_3dvector start = records.front().point;
     for (sortable_sp& record : records) {
@@ -118,7 +100,7 @@ ox_list<ox_3dvector> ox_polygon::intersect_by_plane(const ox_3dvector& point,
     data->compute_contours();
     const section_plane plane = {point, normal};
     const float cosine = ox_dot(normal, data->normal);
-    if (!plane.is_finite() || std::fabs(cosine) > parallel_section_cosine) {
+    if (!is_finite(point) || !is_finite(normal) || std::fabs(cosine) > parallel_section_cosine) {
         return points;
     }
     std::vector<sortable_sp> records = all_crossings(*data, plane);

@@ -44,9 +44,9 @@ void ox_solid::unites(ox_solid& other) {
     if (get_bounding_box().is_empty()) {
         *this = other;
     } else if (grown_by(get_bounding_box(), union_box_margin).intersects(other_box)) {
-        combine(*state, *other.state, boolean_operation::unite);
+        combine(get_state(), other.get_state(), boolean_operation::unite);
     } else {
-        append_solid(*state, *other.state);
+        append_solid(get_state(), other.get_state());
     }
 }
 
@@ -59,7 +59,7 @@ void ox_solid::substracts(ox_solid& other) {
     const ox_box box = get_bounding_box();
     const ox_box other_box = other.get_bounding_box();
     if (!box.is_empty() && !other_box.is_empty() && box.intersects(other_box)) {
-        combine(*state, *other.state, boolean_operation::subtract);
+        combine(get_state(), other.get_state(), boolean_operation::subtract);
     }
 }
 
@@ -75,7 +75,7 @@ void ox_solid::intersects(ox_solid& other) {
     }
     const ox_box other_box = other.get_bounding_box();
     if (!other_box.is_empty() && box.intersects(other_box)) {
-        combine(*state, *other.state, boolean_operation::intersect);
+        combine(get_state(), other.get_state(), boolean_operation::intersect);
     } else {
         clear();
     }

@@ -73,7 +73,7 @@ void build_clipping_brick(const ox_solid_state& state, const ox_3dvector& point,
 } // namespace
 
 void ox_solid::clip(const ox_3dvector& point, const ox_3dvector& normal) {
-    const side_counts counts = count_sides(*state, point, normal);
+    const side_counts counts = count_sides(get_state(), point, normal);
     if (counts.above == 0) {
         return;
     }
@@ -82,7 +82,7 @@ void ox_solid::clip(const ox_3dvector& point, const ox_3dvector& normal) {
         return;
     }
     ox_solid brick;
-    build_clipping_brick(*state, point, normal, brick);
+    build_clipping_brick(get_state(), point, normal, brick);
     substracts(brick);
 }
 

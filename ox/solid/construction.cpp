@@ -104,8 +104,8 @@ void add_sides(solid_storage& storage, const ox_list<ox_3dvector>& contour,
 } // namespace
 
 void ox_solid::add_face(ox_polygon& polygon) {
-    state->storage.append_polygon(polygon);
-    state->invalidate(); // only now: the polygon may be a cached face of this solid
+    get_state().storage.append_polygon(polygon);
+    get_state().invalidate(); // only now: the polygon may be a cached face of this solid
 }
 
 void ox_solid::brick(const ox_3dvector& origin, const ox_3dvector& a, const ox_3dvector& b,
@@ -118,7 +118,7 @@ void ox_solid::brick(const ox_3dvector& origin, const ox_3dvector& a, const ox_3
         far_normals[k].normalize();
         near_normals[k] = -far_normals[k];
     }
-    state->replace_storage(make_brick(origin, edges, near_normals, far_normals));
+    get_state().replace_storage(make_brick(origin, edges, near_normals, far_normals));
 }
 
 void ox_solid::brick(const ox_3dvector& origin, float dx, float dy, float dz) {
@@ -126,7 +126,7 @@ void ox_solid::brick(const ox_3dvector& origin, float dx, float dy, float dz) {
     const axis_vectors near_normals = {
         {-1.0f, 0.0f, 0.0f}, {0.0f, -1.0f, 0.0f}, {0.0f, 0.0f, -1.0f}};
     const axis_vectors far_normals = {{1.0f, 0.0f, 0.0f}, {0.0f, 1.0f, 0.0f}, {0.0f, 0.0f, 1.0f}};
-    state->replace_storage(make_brick(origin, edges, near_normals, far_normals));
+    get_state().replace_storage(make_brick(origin, edges, near_normals, far_normals));
 }
 
 void ox_solid::extrusion(ox_polygon& polygon, const ox_3dvector& direction) {
@@ -140,7 +140,7 @@ void ox_solid::extrusion(ox_polygon& polygon, const ox_3dvector& direction) {
     for (const ox_list<ox_3dvector>& contour : contours) {
         add_sides(prism, contour, direction);
     }
-    state->replace_storage(std::move(prism));
+    get_state().replace_storage(std::move(prism));
 }
 
 } // namespace ox

@@ -62,9 +62,20 @@ public:
     /// of 0.001, both flags off, stopwatches at 0. O(n).
     ox_solid(const ox_solid& source);
 
+    /// Takes everything from `source`, its caches, flags and stopwatches included; `source` is then
+    /// like new. References and face pointers that it gave stay valid. O(1).
+    ox_solid(ox_solid&& source) noexcept;
+
     /// Replaces this solid by a copy, as the copy constructor makes it: the flags and stopwatches
     /// of this solid are reset too. Assignment to itself changes nothing. O(n).
     ox_solid& operator=(const ox_solid& source);
+
+    /// Takes everything from `source`, as the move constructor does. Assignment to itself changes
+    /// nothing. O(1), and the time to free what the solid held.
+    ox_solid& operator=(ox_solid&& source) noexcept;
+
+    /// Exchanges everything with `other`. O(1).
+    void swap(ox_solid& other) noexcept;
 
     /// Frees everything the solid holds, its cached faces included.
     virtual ~ox_solid();
@@ -217,14 +228,15 @@ public:
     /// empty when it is the opposite one. Of an open shell the section depends on the order of the
     /// faces: a cut is only continued by the cut of a later face. O(n) for n faces to see that they
     /// are those of the last section, O(s log s) to join s crossing segments.
-    ox_list<ox_polygon*> intersect_by_plane(const ox_3dvector& point, const ox_3dvector& normal);
+    [[nodiscard]] ox_list<ox_polygon*> intersect_by_plane(const ox_3dvector& point,
+                                                          const ox_3dvector& normal);
 
     /// The cross-section of the solid bounded by `faces`, as above. The faces stay the caller's and
     /// keep their contours; null pointers are skipped. The faces are copied, so O(n log n) for
     /// n vertices, and O(s log s) to join s crossing segments.
-    static ox_list<ox_polygon*> intersect_by_plane(const ox_3dvector& point,
-                                                   const ox_3dvector& normal,
-                                                   const ox_list<ox_polygon*>& faces);
+    [[nodiscard]] static ox_list<ox_polygon*> intersect_by_plane(const ox_3dvector& point,
+                                                                 const ox_3dvector& normal,
+                                                                 const ox_list<ox_polygon*>& faces);
 
     /// Cuts away what lies on the side of the plane that `normal` points to. Distances are measured
     /// with the normal as given, which should therefore be of unit length. Nothing happens when no
@@ -235,7 +247,7 @@ public:
     /// The outline of the solid seen along `normal`: the union of the projections of its faces, as
     /// a new polygon in the plane through `point`, which the caller deletes. Faces seen edge-on
     /// (the cosine between the normals below 0.001) are skipped. Empty without faces.
-    ox_polygon* project_on_plane(const ox_3dvector& point, const ox_3dvector& normal);
+    [[nodiscard]] ox_polygon* project_on_plane(const ox_3dvector& point, const ox_3dvector& normal);
 
     // Drawing (with the OpenGL context of the calling thread)
 
@@ -263,8 +275,16 @@ public:
     static int get_instanced();
 
 private:
-    std::unique_ptr<ox_solid_state> state;
+    ox_solid_state& get_state();
+
+    std::unique_ptr<ox_solid_state>
+        state; // null while the solid is like new, having been moved from
 };
+
+/// Exchanges everything between two solids. O(1).
+inline void swap(ox_solid& a, ox_solid& b) noexcept {
+    a.swap(b);
+}
 
 } // namespace ox
 

@@ -86,7 +86,7 @@ face_cache& find_section_faces(ox_solid_state& state) {
 
 ox_list<ox_polygon*> ox_solid::intersect_by_plane(const ox_3dvector& point,
                                                   const ox_3dvector& normal) {
-    return split_section(find_section_faces(*state), point, normal);
+    return split_section(find_section_faces(get_state()), point, normal);
 }
 
 ox_list<ox_polygon*> ox_solid::intersect_by_plane(const ox_3dvector& point,

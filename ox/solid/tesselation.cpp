@@ -62,13 +62,13 @@ void compute_tesselation(ox_solid_state& state) {
 } // namespace
 
 const ox_list<ox_3dvector>& ox_solid::get_tesselation_vertices() {
-    compute_tesselation(*state);
-    return state->tesselation_vertices;
+    compute_tesselation(get_state());
+    return get_state().tesselation_vertices;
 }
 
 const ox_list<unsigned int>& ox_solid::get_tesselation_triangles() {
-    compute_tesselation(*state);
-    return state->tesselation_triangles;
+    compute_tesselation(get_state());
+    return get_state().tesselation_triangles;
 }
 
 void ox_solid::draw_opengl() {

@@ -214,12 +214,19 @@ class PolygonPrinter(RecordPrinter):
 
 
 class SolidPrinter(RecordPrinter):
+    """Its primary storage."""
+
     name = "solid"
     shown = ("vertices", "contours", "contour_sizes")
 
-    def summary(self, record):
-        return "solid of %s, %s" % (contours_text(record["contour_sizes"]),
-                                    counted(list_size(record["vertices"]), "vertex"))
+    def __init__(self, value):
+        super().__init__(value)
+        if self.record is not None:
+            self.record = self.record["storage"]
+
+    def summary(self, storage):
+        return "solid of %s, %s" % (contours_text(storage["contour_sizes"]),
+                                    counted(list_size(storage["vertices"]), "vertex"))
 
 
 class TablePrinter(RecordPrinter):

@@ -20,8 +20,9 @@ extern "C" bool log_from_c(const char* path, const char* message);
 
 namespace {
 
+/// What the log file holds; its lines end as usual on the system.
 std::string text_of(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(path);
     std::ostringstream text;
     text << file.rdbuf();
     return text.str();

@@ -4,6 +4,7 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <sstream>
 
 #include <ox/core/ox_log.h>
@@ -15,8 +16,12 @@ namespace {
 /// A path that no other test process and no other call gets.
 std::string new_path() {
     static const std::filesystem::path folder = [] {
-        std::string pattern = (std::filesystem::temp_directory_path() / "ox_mesh_XXXXXX").string();
-        return std::filesystem::path(mkdtemp(pattern.data()));
+        std::random_device random;
+        const std::string name =
+            "ox_mesh_" + std::to_string(random()) + "_" + std::to_string(random());
+        std::filesystem::path made = std::filesystem::temp_directory_path() / name;
+        std::filesystem::create_directory(made);
+        return made;
     }();
     static const struct remover {
         ~remover() { std::filesystem::remove_all(folder); }

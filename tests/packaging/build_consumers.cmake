@@ -1,5 +1,5 @@
 # Builds and runs one consumer of the installed library that is found through find_package and one
-# through pkg-config, the latter after the installed tree was moved.
+# through pkg-config, after the installed tree was moved.
 include("${CMAKE_CURRENT_LIST_DIR}/installed_tree.cmake")
 
 file(GLOB_RECURSE leaked "${prefix}/include/*internal*")
@@ -11,14 +11,15 @@ if(NOT licence)
   message(FATAL_ERROR "the licence was not installed")
 endif()
 
+set(moved "${WORK_DIR}/moved")
+file(RENAME "${prefix}" "${moved}")
+
 set(consumer "${CMAKE_CURRENT_LIST_DIR}/consumer")
 must_run(${CMAKE_COMMAND} -S "${consumer}" -B "${WORK_DIR}/package" -G Ninja
-         "-DCMAKE_CXX_COMPILER=${CXX}" "-DCMAKE_PREFIX_PATH=${prefix}")
+         "-DCMAKE_CXX_COMPILER=${CXX}" "-DCMAKE_PREFIX_PATH=${moved}")
 must_run(${CMAKE_COMMAND} --build "${WORK_DIR}/package")
 must_run("${WORK_DIR}/package/consumer")
 
-set(moved "${WORK_DIR}/moved")
-file(RENAME "${prefix}" "${moved}")
 flags_of_package(flags "${moved}" --cflags --libs)
 file(GLOB_RECURSE library "${moved}/*/libox_utilities.*[oa]")
 list(GET library 0 library)

@@ -134,6 +134,21 @@ TEST(OxPolygonRegularDistribution, CoordinatesNearTheLargestFloatGiveNoPoints) {
     EXPECT_EQ(huge.regular_distribution(1e30f).size(), 0);
 }
 
+TEST(OxPolygonRegularDistribution, LargeTriangleHasThePointsThatItContains) {
+    ox_polygon polygon(ox_3dvector(0, 0, 0), ox_3dvector(0, 0, 1));
+    polygon.add_contour(
+        contour({ox_3dvector(0, 0, 0), ox_3dvector(2e37f, 0, 0), ox_3dvector(0, 2e37f, 0)}));
+    EXPECT_GT(polygon.regular_distribution(5e36f).size(), 0);
+    expect_plain_grid(polygon, 5e36f);
+}
+
+TEST(OxPolygonRegularDistribution, LargeTriangleInAVastGridHasNoPoints) {
+    ox_polygon polygon(ox_3dvector(0, 0, 0), ox_3dvector(0, 0, 1));
+    polygon.add_contour(
+        contour({ox_3dvector(0, 0, 0), ox_3dvector(2e37f, 0, 0), ox_3dvector(0, 2e37f, 0)}));
+    EXPECT_EQ(polygon.regular_distribution(2e32f).size(), 0);
+}
+
 TEST(OxPolygonRegularDistribution, AgreesWithThePlainVersionOnTangles) {
     support::generator random(451);
     for (int round = 0; round < 6000; ++round) {

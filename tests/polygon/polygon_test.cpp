@@ -1,6 +1,9 @@
 // Construction, copying, clearing and the count of living polygons.
 
+#include <utility>
+
 #include <ox/polygon/ox_polygon.h>
+#include <ox/polygon/ox_polygon_pieces.h>
 #include <tests/polygon/polygon_checks.h>
 
 using namespace polygon_checks;
@@ -134,4 +137,54 @@ TEST(OxPolygon, ClearKeepsTheStoredPointAndNormal) {
     polygon.clear();
     expect_same_vector(polygon.get_point(), ox_3dvector(1.0f, 2.0f, 3.0f));
     expect_same_vector(polygon.get_normal(), ox_3dvector(0.0f, 1.0f, 0.0f));
+}
+
+TEST(OxPolygon, MoveTakesTheContoursAndLeavesANewPolygon) {
+    ox_polygon source = rectangle_polygon(0, 0, 1, 1);
+    const int before = ox_polygon::get_instanced();
+    ox_polygon taken(std::move(source));
+    EXPECT_EQ(ox_polygon::get_instanced(), before + 1);
+    EXPECT_EQ(count_contours(taken), 1);
+    expect_empty_region(source);
+}
+
+TEST(OxPolygon, MoveAssignmentAndSwapExchangeTheContours) {
+    ox_polygon small = rectangle_polygon(0, 0, 1, 1);
+    ox_polygon large = rectangle_polygon(0, 0, 2, 2);
+    small.swap(large);
+    EXPECT_FLOAT_EQ(small.get_area(), 4.0f);
+    small = std::move(large);
+    EXPECT_FLOAT_EQ(small.get_area(), 1.0f);
+}
+
+TEST(OxPolygonPieces, DeletesThePiecesOfACut) {
+    ox_polygon square = rectangle_polygon(0, 0, 1, 1);
+    const int before = ox_polygon::get_instanced();
+    {
+        const ox::ox_polygon_pieces pieces(
+            square, square.cut_by_plane(ox_3dvector(0.5f, 0.0f, 0.0f),
+                                        ox_3dvector(1.0f, 0.0f, 0.0f), true));
+        EXPECT_EQ(pieces.size(), 2);
+        EXPECT_FALSE(pieces.is_receiver());
+        EXPECT_NEAR(pieces[0].get_area(), 0.5f, 1e-4f);
+    }
+    EXPECT_EQ(ox_polygon::get_instanced(), before);
+}
+
+TEST(OxPolygonPieces, SparesThePolygonThatWasNotCut) {
+    ox_polygon square = rectangle_polygon(0, 0, 1, 1);
+    {
+        const ox::ox_polygon_pieces pieces(square, square.split_to_polygons());
+        EXPECT_TRUE(pieces.is_receiver());
+    }
+    EXPECT_FLOAT_EQ(square.get_area(), 1.0f);
+}
+
+TEST(OxPolygonPieces, MovesHandTheirPolygonsOver) {
+    ox_polygon squares = rectangle_polygon(0, 0, 1, 1);
+    squares.add_contour(rectangle(2, 0, 3, 1));
+    ox::ox_polygon_pieces first(squares, squares.split_to_polygons());
+    const ox::ox_polygon_pieces second(std::move(first));
+    EXPECT_EQ(first.size(), 0);
+    EXPECT_EQ(second.size(), 2);
 }

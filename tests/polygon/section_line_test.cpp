@@ -148,6 +148,13 @@ TEST(OxPolygonIntersectByPlane, IsEmptyForANormalThatIsZeroOrNotFinite) {
     }
 }
 
+TEST(OxPolygonIntersectByPlane, TakesAPlanePointOfLargeFiniteNumbers) {
+    ox_polygon square = rectangle_polygon(0.0f, 0.0f, 1.0f, 1.0f);
+    const auto points =
+        square.intersect_by_plane(ox_3dvector(0.5f, 2e38f, 2e38f), ox_3dvector(1.0f, 0.0f, 0.0f));
+    expect_points(points, contour({ox_3dvector(0.5f, 1.0f, 0.0f), ox_3dvector(0.5f, 0.0f, 0.0f)}));
+}
+
 TEST(OxPolygonIntersectByPlane, SurvivesPlanesOfAnyNumbers) {
     generator random(801);
     ox_polygon polygon = rectangle_polygon(0.0f, 0.0f, 1.0f, 1.0f);

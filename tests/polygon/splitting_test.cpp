@@ -270,6 +270,6 @@ TEST(OxPolygonIsConvex, SurvivesNumbersThatAreNotFinite) {
     overflow[0] = std::numeric_limits<float>::infinity();
     square.matrix_transform(overflow);
     square.is_convex(0);
-    square.split_to_polygons();
+    EXPECT_LE(square.split_to_polygons().size(), 1);
     square.split_to_convex_polygons();
 }

@@ -199,6 +199,19 @@ void section_at_half_height(ox_solid& solid, int expected_pieces) {
     }
 }
 
+TEST(KeptFaces, AreThePolygonsThatWereThereBeforeTheBoolean) {
+    ox_solid wall = support::brick_between(ox_3dvector(0, 0, 0), ox_3dvector(4, 0.3f, 3));
+    const ox_list<ox_polygon*> before = wall.get_faces();
+    ox_solid tool = support::brick_between(ox_3dvector(1, -1, 1), ox_3dvector(2, 1, 2));
+    wall.substracts(tool);
+    const ox_list<ox_polygon*>& after = wall.get_faces();
+    for (const int untouched : {0, 1, 4, 5}) { // all but the two that were cut
+        EXPECT_EQ(after[untouched], before[untouched]);
+    }
+    EXPECT_NE(after[2], before[2]);
+    EXPECT_NE(after[3], before[3]);
+}
+
 TEST(KeptFaces, AreNotCountedAmongTheLivingPolygonsBeforeTheyAreAskedFor) {
     ox_solid wall = support::brick_between(ox_3dvector(0, 0, 0), ox_3dvector(4, 0.3f, 3));
     ox_solid tool = support::brick_between(ox_3dvector(1, -1, 1), ox_3dvector(2, 1, 2));

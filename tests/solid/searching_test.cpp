@@ -219,8 +219,8 @@ TEST(SectionChains, AreThePlainOnes) {
         reference::chain_segments(plain, tolerance);
         ox::internal::chain_segments(chains, tolerance);
         for (std::size_t i = 0; i < plain.size(); ++i) {
-            ASSERT_EQ(chains[i].is_taken, plain[i].points.empty()) << round;
-            if (chains[i].is_taken) {
+            ASSERT_EQ(chains[i].is_appended, plain[i].points.empty()) << round;
+            if (chains[i].is_appended) {
                 continue;
             }
             ASSERT_EQ(chains[i].is_closed, plain[i].closed) << round;

@@ -1,5 +1,8 @@
 #include <ox/solid/ox_solid.h>
 
+#include <type_traits>
+#include <utility>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -94,6 +97,42 @@ TEST(OxSolid, AssignmentToItselfChangesNothing) {
     solid = same;
     EXPECT_EQ(solid.get_faces()[0], face);
     EXPECT_EQ(solid.get_vertices().size(), 24);
+}
+
+TEST(OxSolid, AMoveTakesEverythingAndLeavesASolidLikeNew) {
+    static_assert(std::is_nothrow_move_constructible_v<ox_solid>);
+    static_assert(std::is_nothrow_move_assignable_v<ox_solid>);
+    ox_solid source = unit_brick();
+    const ox_polygon* face = source.get_faces()[0];
+    ox_solid taken(std::move(source));
+    EXPECT_EQ(taken.get_faces()[0], face);
+    EXPECT_EQ(source.get_vertices().size(), 0);
+    EXPECT_EQ(ox_solid(source).get_faces().size(), 0);
+    EXPECT_FALSE(source.check_manifold());
+    EXPECT_EQ(source.get_faces().size(), 0);
+    source = std::move(taken);
+    EXPECT_EQ(source.get_faces()[0], face);
+    taken.unites(source);
+    EXPECT_EQ(taken.get_faces().size(), 6);
+}
+
+TEST(OxSolid, AMovedSolidCountsLikeAnyOther) {
+    const int before = ox_solid::get_instanced();
+    {
+        ox_solid source = unit_brick();
+        const ox_solid taken(std::move(source));
+        EXPECT_EQ(ox_solid::get_instanced(), before + 2);
+    }
+    EXPECT_EQ(ox_solid::get_instanced(), before);
+}
+
+TEST(OxSolid, SwappedSolidsHaveEachOthersFaces) {
+    ox_solid a = unit_brick();
+    ox_solid b;
+    const ox_polygon* face = a.get_faces()[0];
+    swap(a, b);
+    EXPECT_EQ(a.get_faces().size(), 0);
+    EXPECT_EQ(b.get_faces()[0], face);
 }
 
 TEST(OxSolid, SettersStoreCopiesWithoutComparingTheLists) {

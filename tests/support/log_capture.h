@@ -19,8 +19,9 @@ inline std::string own_file(const std::string& ending) {
     return name;
 }
 
+/// The text in a file, whose lines end as usual on the system.
 inline std::string text_of_file(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(path);
     std::ostringstream text;
     text << file.rdbuf();
     return text.str();

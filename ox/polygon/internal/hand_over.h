@@ -7,7 +7,7 @@
 #include <ox/core/ox_list.h>
 #include <ox/polygon/ox_polygon.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// Hands new polygons over to the caller of a public function, in their order. Until here they
 /// have an owner, so that an allocation that fails leaks none of them.
@@ -19,6 +19,6 @@ inline ox_list<ox_polygon*> hand_over(std::vector<std::unique_ptr<ox_polygon>> p
     return list;
 }
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

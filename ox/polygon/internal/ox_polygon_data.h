@@ -5,23 +5,18 @@
 #include <ox/geometry/ox_3dvector.h>
 #include <ox/geometry/ox_box.h>
 #include <ox/internal/boolean_operation.h>
+#include <ox/polygon/internal/plane_frame.h>
 
 namespace ox {
 
-using internal::boolean_operation;
-
 /// The record behind an `ox_polygon`. Its operations do what the polygon's do, for the code that
 /// works on several polygons at once.
-struct ox_polygon_data {
+struct ox_polygon_data : internal::plane_frame {
     bool counted = true; ///< among the living polygons
     bool plane_defined = false;
     bool contours_computed = false; ///< the pending contours have been merged
     bool tesselation_computed = false;
     bool best_center_computed = false;
-    ox_3dvector point;  ///< of the plane, and the origin of the frame
-    ox_3dvector normal; ///< unit length unless a transformation scaled it
-    ox_3dvector dx;     ///< in-plane axes; (dx, dy, normal) is right-handed
-    ox_3dvector dy;
     ox_list<ox_3dvector> pending_vertices; ///< of the contours added since the last merge
     ox_list<unsigned int> pending_sizes;
     ox_list<ox_3dvector> contour_vertices;
@@ -47,14 +42,16 @@ struct ox_polygon_data {
     /// Empties the polygon and forgets its plane.
     void clear();
 
+    /// True where the projection of `p` lies inside the region, which must have been merged.
+    bool contains(const ox_3dvector& p) const;
+
     /// Combines the normalised contours with those of `other`, on this plane; both must have
-    /// been merged. No operand is checked for being empty. Results outside what the clipping
-    /// library can do leave this polygon without contours.
-    void combine(const ox_polygon_data& other, boolean_operation operation);
+    /// been merged. No operand is checked for being empty.
+    void combine(const ox_polygon_data& other, internal::boolean_operation operation);
 
     /// Appends a contour to the normalised ones as it stands. The caller forgets the derived
     /// values afterwards.
-    void append_contour(const ox_3dvector* vertices, unsigned int size, bool outer, int parent);
+    void append_contour(const ox_3dvector* vertices, int size, bool outer, int parent);
 
     /// Empties the four lists of the normalised contours.
     void clear_contours();

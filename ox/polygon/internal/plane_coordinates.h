@@ -7,7 +7,7 @@
 #include <ox/internal/vectors.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// The coordinates (u, v) of a point in the frame of a polygon, in single precision.
 inline ox_2dvector plane_coordinates(const ox_polygon_data& polygon, const ox_3dvector& p) {
@@ -25,6 +25,6 @@ inline ox_list<ox_2dvector> plane_coordinates(const ox_polygon_data& polygon) {
     return coordinates;
 }
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -1,7 +1,7 @@
 #ifndef OX_POLYGON_INTERNAL_TOLERANCES_H
 #define OX_POLYGON_INTERNAL_TOLERANCES_H
 
-namespace ox {
+namespace ox::internal {
 
 // Lengths of normals
 
@@ -39,13 +39,14 @@ constexpr double smallest_slope_difference = 1.0 / 65536.0;
 constexpr long long farthest_monotone_coordinate = 1LL << 29;
 
 /// The error of an area summed in doubles, per vertex and relative to the square of the largest
-/// coordinate; taken generously.
+/// coordinate: two roundings of 2^-53 each are counted, and 16 times that allowed.
 constexpr double area_rounding = 1.0 / static_cast<double>(1LL << 48);
 
 // Triangles known beforehand
 
 /// The error of a fan triangle's normal along that of the plane, relative to the two sides and the
-/// plane's normal; the tessellator computes it in doubles, and takes its sign. Taken generously.
+/// plane's normal; the tessellator computes it in doubles, and takes its sign: 2^-50 is counted,
+/// and a thousand times that allowed.
 constexpr double fan_rounding = 1.0 / static_cast<double>(1LL << 40);
 
 /// Relative to the extent of a contour: distances in the direction of the tessellator's sweep
@@ -61,16 +62,13 @@ constexpr double offset_miter_limit = 2.0;
 /// Grid units between an arc and its chords.
 constexpr double offset_arc_tolerance = 0.25;
 
-/// Grid units that the clipping library adds around the bounds when it shrinks a region; taken
-/// generously.
+/// Grid units that the clipping library adds around the bounds when it shrinks a region: 10, and
+/// the rounding.
 constexpr double offset_bounds_margin = 16.0;
 
-/// Model units. The number of vertices of an arc grows with the root of its radius: a full circle
-/// of this radius has 444,000, a second of work.
-constexpr float largest_round_offset = 1000000.0f;
-
-/// Vertices of all arcs of one round offset together: about a gigabyte for the clipping library.
-constexpr double most_arc_vertices = 8000000.0;
+/// Vertices of all arcs of one round offset together: 3.5 gigabytes and some seconds for the
+/// clipping library. The number in an arc grows with the root of its radius.
+constexpr double most_arc_vertices = 16000000.0;
 
 // Best centre
 
@@ -87,20 +85,24 @@ constexpr float short_edge_share = 0.1f;
 // Grids of points
 
 /// Grid points go from the frame into space and back. In units of half the last place, what the
-/// roundings on that way amount to: of the plane's point (two of them) and of the offset from it
-/// (seven), taken generously.
+/// roundings on that way amount to: two of the plane's point and seven of the offset from it are
+/// counted, and one and two more allowed.
 constexpr double roundings_of_origin = 3.0;
 constexpr double roundings_of_offset = 9.0;
 
 /// Model units: what underflow can add to those roundings (a few units of the smallest
-/// float, 1.4e-45, in space and in the frame), taken generously.
+/// float, 1.4e-45, in space and in the frame); ten times that.
 constexpr double grid_point_underflow = 1e-43;
 
-/// Model units: a grid whose sums could come near the largest float has no points.
+/// Model units: beyond it the sums on the way to a grid point could come near the largest float,
+/// and what is known about their roundings does not hold.
 constexpr double farthest_grid_coordinate = 1e37;
 
+/// Beyond it points are tested one by one against every side, as long as that ends within seconds.
+constexpr double most_far_grid_tests = 1e9;
+
 /// The share of the coordinates, in cells, that rounding in double precision can move a point of a
-/// rasterised region by; taken generously.
+/// rasterised region by: a few times 2^-53, of which a million are allowed.
 constexpr double grid_cell_slack = 1e-9;
 
 // Cutting
@@ -116,6 +118,6 @@ constexpr float parallel_section_cosine = 0.999f;
 /// Model units: boxes this far apart still count as touching.
 constexpr float box_contact_tolerance = 0.0001f;
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -11,7 +11,7 @@
 
 namespace ox::internal {
 
-/// Whether two lists hold the same bits.
+/// True if two lists hold the same bits.
 template <typename T>
 bool have_same_bits(const ox_list<T>& a, const ox_list<T>& b) {
     static_assert(std::is_trivially_copyable_v<T>, "compared as bytes");
@@ -20,7 +20,7 @@ bool have_same_bits(const ox_list<T>& a, const ox_list<T>& b) {
                                          sizeof(T) * static_cast<std::size_t>(a.size())) == 0);
 }
 
-/// Whether two polygons have the same contours, bit for bit. O(n).
+/// True if two polygons have the same contours, bit for bit. O(n).
 inline bool have_same_contours(ox_polygon& a, ox_polygon& b) {
     return have_same_bits(a.get_contour_sizes(), b.get_contour_sizes()) &&
            have_same_bits(a.get_contour_vertices(), b.get_contour_vertices()) &&

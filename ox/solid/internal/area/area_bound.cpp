@@ -6,14 +6,14 @@
 #include <ox/core/ox_list.h>
 #include <ox/solid/internal/area/facade.h>
 #include <ox/solid/internal/area/kept_axes.h>
+#include <ox/solid/internal/area/limits.h>
 #include <ox/solid/internal/search/face_bounds.h>
-#include <ox/solid/internal/tolerances.h>
 
 namespace ox::internal {
 
 namespace {
 
-/// Whether no other contour meets the bounds of the first one, or spoils the sum of the areas.
+/// True if no other contour meets the bounds of the first one, or spoils the sum of the areas.
 bool is_first_contour_alone(ox_polygon& polygon, const face_bounds& first) {
     const ox_list<unsigned int>& sizes = polygon.get_contour_sizes();
     const kept_axes axes(polygon.get_normal());
@@ -49,7 +49,7 @@ double measure_vector_area(const ox_3dvector* vertices, unsigned int size) {
     return 0.5 * std::sqrt(sum[0] * sum[0] + sum[1] * sum[1] + sum[2] * sum[2]);
 }
 
-/// Whether the first contour alone has more area than that, as it has few vertices and no other
+/// True if the first contour alone has more area than that, as it has few vertices and no other
 /// contour near it. Its triangles are then so few that one of them is too large to be flat: flat
 /// triangles may lose all of their area in Heron's formula.
 bool is_first_contour_above(ox_polygon& polygon, float area) {

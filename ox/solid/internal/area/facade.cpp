@@ -22,8 +22,8 @@
 
 #include <ox/core/ox_list.h>
 #include <ox/solid/internal/area/kept_axes.h>
+#include <ox/solid/internal/area/limits.h>
 #include <ox/solid/internal/search/face_bounds.h>
-#include <ox/solid/internal/tolerances.h>
 
 namespace ox::internal {
 
@@ -46,7 +46,7 @@ struct side {
     double dot(const side& other) const { return x * other.x + y * other.y + z * other.z; }
 };
 
-/// Whether four vertices are the corners of a nearly rectangular quadrilateral with no side
+/// True if four vertices are the corners of a nearly rectangular quadrilateral with no side
 /// shorter than the gap: its angles are nearly right, and opposite sides run opposite ways.
 bool is_rectangle(const ox_3dvector* v, double gap) {
     const side sides[rectangle_corners] = {side(v[0], v[1]), side(v[1], v[2]), side(v[2], v[3]),
@@ -63,7 +63,7 @@ bool is_rectangle(const ox_3dvector* v, double gap) {
     return sides[0].dot(sides[2]) < 0.0 && sides[1].dot(sides[3]) < 0.0;
 }
 
-/// Whether all vertices of the outline are more than the gap apart.
+/// True if all vertices of the outline are more than the gap apart.
 bool has_distant_vertices(const ox_3dvector* vertices, unsigned int count, double gap) {
     for (unsigned int i = 0; i < count; ++i) {
         for (unsigned int j = i + 1; j < count; ++j) {

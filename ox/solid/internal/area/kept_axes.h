@@ -5,8 +5,8 @@
 #include <cmath>
 
 #include <ox/geometry/ox_3dvector.h>
+#include <ox/solid/internal/area/limits.h>
 #include <ox/solid/internal/search/face_bounds.h>
-#include <ox/solid/internal/tolerances.h>
 
 namespace ox::internal {
 
@@ -24,7 +24,7 @@ public:
 
     bool is_kept(unsigned int axis) const { return kept[axis]; }
 
-    /// Whether two bounds are more than `gap` (model units) apart on a kept axis.
+    /// True if two bounds are more than `gap` (model units) apart on a kept axis.
     bool are_apart(const face_bounds& a, const face_bounds& b, double gap) const {
         for (unsigned int axis = 0; axis < 3; ++axis) {
             if (kept[axis] && (is_before(a, b, axis, gap) || is_before(b, a, axis, gap))) {

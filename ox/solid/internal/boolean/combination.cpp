@@ -89,7 +89,7 @@ face_remains combination::cut_own_face(int i) const {
                                                      : cutter.keep_outside(face, other);
 }
 
-/// Whether a part is a change is told later, by its area.
+/// True if a part is a change is told later, by its area.
 void combination::keep_own(int i, face_remains remains) {
     switch (remains.left) {
     case face_remains::extent::whole:

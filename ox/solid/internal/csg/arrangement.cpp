@@ -19,7 +19,7 @@ using namespace exact;
 
 arrangement_result make_arrangement(const arrangement_input& input, progress_poll& poll) {
     poll.begin(0.0);
-    facet_complex complex(input);
+    facet_complex complex(input, poll);
     side_planes planes(complex);
     contact_list contacts = find_contacts(complex, planes, poll);
     poll.begin(0.4);

@@ -5,7 +5,7 @@
 #include <limits>
 
 #include <ox/internal/vectors.h>
-#include <ox/solid/internal/tolerances.h>
+#include <ox/solid/internal/search/roundings.h>
 
 namespace ox::internal {
 

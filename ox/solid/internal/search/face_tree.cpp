@@ -50,24 +50,24 @@ face_tree::face_tree(const std::vector<face_bounds>& bounds) {
 void face_tree::build_node(const std::vector<face_bounds>& bounds, int first, int end) {
     const std::size_t number = nodes.size();
     nodes.push_back({face_bounds(), first, end, 0});
-    face_bounds around;
+    face_bounds enclosing;
     for (int i = first; i < end; ++i) {
-        around.enlarge(bounds[static_cast<std::size_t>(faces[static_cast<std::size_t>(i)])]);
+        enclosing.enlarge(bounds[static_cast<std::size_t>(faces[static_cast<std::size_t>(i)])]);
     }
-    nodes[number].bounds = around;
+    nodes[number].bounds = enclosing;
     if (end - first <= largest_leaf) {
         return;
     }
-    const int halfway = split(bounds, around, first, end);
+    const int halfway = split(bounds, enclosing, first, end);
     build_node(bounds, first, halfway);
     nodes[number].second_child = static_cast<int>(nodes.size());
     build_node(bounds, halfway, end);
 }
 
 /// Sorts the faces of a node into two halves along the longest side of its bounds.
-int face_tree::split(const std::vector<face_bounds>& bounds, const face_bounds& around, int first,
-                     int end) {
-    const unsigned int axis = longest_axis(around);
+int face_tree::split(const std::vector<face_bounds>& bounds, const face_bounds& enclosing,
+                     int first, int end) {
+    const unsigned int axis = longest_axis(enclosing);
     const int halfway = first + (end - first) / 2;
     std::nth_element(faces.begin() + first, faces.begin() + halfway, faces.begin() + end,
                      [&](int a, int b) {

@@ -32,7 +32,7 @@ private:
     };
 
     void build_node(const std::vector<face_bounds>& bounds, int first, int end);
-    int split(const std::vector<face_bounds>& bounds, const face_bounds& around, int first,
+    int split(const std::vector<face_bounds>& bounds, const face_bounds& enclosing, int first,
               int end);
 
     std::vector<int> faces;         // sorted so that each node has a range of them

@@ -6,7 +6,7 @@
 #include <tuple>
 
 #include <ox/internal/vectors.h>
-#include <ox/solid/internal/tolerances.h>
+#include <ox/solid/internal/search/roundings.h>
 
 namespace ox::internal {
 

@@ -6,11 +6,17 @@
 #include <numeric>
 
 #include <ox/internal/vectors.h>
-#include <ox/solid/internal/tolerances.h>
 
 namespace ox::internal {
 
 namespace {
+
+/// Side of a cell of a grid of points, in reaches: wide enough for most look-ups to touch one cell
+/// only.
+constexpr double point_grid_cell = 8.0;
+
+/// Shift of that grid, in cells, so that round coordinates do not lie on the border of two cells.
+constexpr double point_grid_shift = 0.37;
 
 /// The cells of one axis that a stretch reaches into: one, or two.
 struct cell_range {

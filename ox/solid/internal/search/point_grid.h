@@ -9,6 +9,10 @@
 
 namespace ox::internal {
 
+/// Distance within which points are looked up, in tolerances: the distance measured in single
+/// precision may be a rounding below the true one.
+constexpr float point_grid_reach = 1.01f;
+
 /// Finds which of many points lie near another: they are kept in the cells of a grid, in a hash
 /// table by cell. Points in one cell may be far apart, and hashes collide: what is found are
 /// candidates.

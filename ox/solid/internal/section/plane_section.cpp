@@ -49,7 +49,7 @@ sided_vertex see_from_plane(const ox_3dvector& position, const section_plane& pl
 
 // Crossings of one face
 
-/// Whether the contour crosses the plane between `a` and `b`, or in `b`. Of a run of vertices on
+/// True if the contour crosses the plane between `a` and `b`, or in `b`. Of a run of vertices on
 /// the plane only one end counts: the one after which the contour leaves towards the other side, or
 /// the one at which it arrives from below or leaves downwards.
 bool is_crossing(const sided_vertex& a, const sided_vertex& b, const sided_vertex& c) {
@@ -156,7 +156,7 @@ std::unique_ptr<ox_polygon> plane_section(const ox_list<ox_polygon*>& faces, con
     chain_segments(segments, tolerance);
     auto section = std::make_unique<ox_polygon>(point, normal);
     for (std::size_t i = 0; i < segments.size(); ++i) {
-        if (!segments[i].is_taken) {
+        if (!segments[i].is_appended) {
             section->add_contour(list_points(segments, i));
         }
     }

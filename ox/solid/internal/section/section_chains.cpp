@@ -3,7 +3,6 @@
 #include <cstddef>
 
 #include <ox/solid/internal/search/point_grid.h>
-#include <ox/solid/internal/tolerances.h>
 
 namespace ox::internal {
 
@@ -12,7 +11,7 @@ namespace {
 using segment_list = std::vector<section_segment>;
 
 bool is_open(const section_segment& chain) {
-    return !chain.is_closed && !chain.is_taken;
+    return !chain.is_closed && !chain.is_appended;
 }
 
 const section_segment& last_segment(const segment_list& segments, std::size_t chain) {
@@ -50,13 +49,13 @@ void join(segment_list& segments, std::size_t chain, std::size_t continuation, f
     segments[chain].last = static_cast<int>(&new_last - segments.data());
     segments[chain].is_closed =
         new_last.end.manhattan_distance_to(segments[chain].start) <= tolerance;
-    segments[continuation].is_taken = true;
+    segments[continuation].is_appended = true;
 }
 
-/// Lets each of the `searching` chains take one continuation, and leaves in the list those that
+/// Appends one continuation to each of the `searching` chains, and leaves in the list those that
 /// found one and are still open.
 ///
-/// Chains only leave the search, by closing or by being taken: one that found no continuation
+/// Chains only leave the search, by closing or by being appended: one that found no continuation
 /// never will, and is not searched for again. So all passes together search at most twice per
 /// segment.
 void join_pass(segment_list& segments, const point_grid& starts,

@@ -9,16 +9,16 @@
 
 namespace ox::internal {
 
-/// A segment of a section and, unless it was taken by another, the chain that begins with it:
+/// A segment of a section and, unless it was appended to another, the chain that begins with it:
 /// segments that follow one another.
 struct section_segment {
     static constexpr int none = -1;
 
     ox_3dvector start;
     ox_3dvector end;
-    int next = none;       ///< the segment behind it in its chain
-    int last = none;       ///< the last one of the chain that begins here, none while it is alone
-    bool is_taken = false; ///< stands behind another
+    int next = none; ///< the segment behind it in its chain
+    int last = none; ///< the last one of the chain that begins here, none while it is alone
+    bool is_appended = false; ///< stands behind another
     bool is_closed = false;
 
     section_segment(const ox_3dvector& from, const ox_3dvector& to) : start(from), end(to) {}

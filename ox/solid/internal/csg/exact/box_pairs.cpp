@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <numeric>
 
 #include <ox/solid/internal/csg/exact/item.h>
 
@@ -11,133 +10,192 @@ namespace ox::internal::csg::exact {
 namespace {
 
 /// So few boxes are compared directly faster than they are divided.
-constexpr std::size_t direct_count = 24;
+constexpr std::size_t direct_count = 32;
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
-/// A lower end: ties are broken by the number of the box, so no two are equal.
-struct lower_end {
+constexpr int behind_all = std::numeric_limits<int>::max();
+
+/// A place along an axis: ties are broken by the number of the box, so no two lower ends are equal.
+struct place {
     double value;
     int box;
 
-    friend bool operator<(const lower_end& a, const lower_end& b) {
+    friend bool operator<(const place& a, const place& b) {
         return a.value != b.value ? a.value < b.value : a.box < b.box;
     }
 };
 
+/// The extent of a box along the axis that is searched.
+struct extent {
+    double low;
+    double high;
+    int box;
+
+    place lower_end() const { return {low, box}; }
+
+    /// Behind every lower end of its value: boxes are closed.
+    place upper_end() const { return {high, behind_all}; }
+};
+
+using extent_list = std::vector<extent>;
+
+bool is_lower(const extent& a, const extent& b) {
+    return a.lower_end() < b.lower_end();
+}
+
 /// One walk of the tree.
 class pair_search {
 public:
-    pair_search(const std::vector<bounds>& all_boxes, const pair_visitor& visitor)
-        : boxes(all_boxes), visit(visitor) {}
+    pair_search(const std::vector<bounds>& all_boxes, progress_poll& steps,
+                const pair_visitor& visitor);
 
-    /// Visits the pairs that overlap along an axis and those before it, of a box of each list.
-    void enter(std::vector<int> intervals, std::vector<int> points, int axis);
+    void search_all();
 
 private:
-    lower_end low_of(int box, int axis) const { return {item(item(boxes, box).low, axis), box}; }
-    /// An upper end is behind every lower end of its value: boxes are closed.
-    lower_end high_of(int box, int axis) const {
-        return {item(item(boxes, box).high, axis), std::numeric_limits<int>::max()};
-    }
-    /// True if the interval of one box holds the lower end of another.
-    bool holds(int interval, int point, int axis) const {
-        return low_of(interval, axis) < low_of(point, axis) &&
-               low_of(point, axis) < high_of(interval, axis);
-    }
+    double low(int box, int axis) const { return item(item(boxes, box).low, item(axes, axis)); }
+    double high(int box, int axis) const { return item(item(boxes, box).high, item(axes, axis)); }
     bool overlaps_below(int a, int b, int axis) const;
-    void compare_directly(const std::vector<int>& intervals, const std::vector<int>& points,
-                          int axis);
-    void search(std::vector<int>& intervals, std::vector<int>& points, lower_end low,
-                lower_end high, int axis);
-    void divide(std::vector<int>& intervals, std::vector<int>& points, lower_end low,
-                lower_end high, int axis);
+    extent_list sorted(const extent_list& list, int axis) const;
+    void compare_directly(const extent_list& intervals, const extent_list& points, int axis);
+    void search(extent_list& intervals, extent_list& points, place from, place to, int axis);
+    void search_below(const extent_list& spanning, const extent_list& points, int axis);
+    void divide(extent_list& intervals, extent_list& points, place from, place to, int axis);
 
     const std::vector<bounds>& boxes;
+    progress_poll& poll;
     const pair_visitor& visit;
+    /// The axes; the last one, along which the boxes are divided first, separates them best.
+    std::array<int, 3> axes = {0, 1, 2};
 };
+
+/// Along each axis the extents of the boxes against the extent of all tell how many boxes one
+/// overlaps.
+pair_search::pair_search(const std::vector<bounds>& all_boxes, progress_poll& steps,
+                         const pair_visitor& visitor)
+    : boxes(all_boxes), poll(steps), visit(visitor) {
+    std::array<double, 3> overlap{};
+    bounds whole = empty_bounds();
+    for (const bounds& box : boxes) {
+        enlarge(whole, box.low);
+        enlarge(whole, box.high);
+    }
+    for (const bounds& box : boxes) {
+        for (std::size_t axis = 0; axis < 3; ++axis) {
+            const double size = whole.high[axis] - whole.low[axis];
+            overlap[axis] += size > 0.0 ? (box.high[axis] - box.low[axis]) / size : 1.0;
+        }
+    }
+    std::stable_sort(axes.begin(), axes.end(),
+                     [&](int a, int b) { return item(overlap, a) > item(overlap, b); });
+}
+
+void pair_search::search_all() {
+    extent_list all;
+    all.reserve(boxes.size());
+    for (int box = 0; box < count_of(boxes); ++box) {
+        all.push_back({0.0, 0.0, box});
+    }
+    extent_list intervals = sorted(all, 2);
+    extent_list points = intervals;
+    search(intervals, points, {-infinity, -1}, {infinity, behind_all}, 2);
+}
+
+/// The extents of the same boxes along an axis, in the order of their lower ends.
+extent_list pair_search::sorted(const extent_list& list, int axis) const {
+    extent_list result;
+    result.reserve(list.size());
+    for (const extent& entry : list) {
+        result.push_back({low(entry.box, axis), high(entry.box, axis), entry.box});
+    }
+    std::sort(result.begin(), result.end(), is_lower);
+    return result;
+}
 
 /// True if two boxes overlap along the axes before the given one.
 bool pair_search::overlaps_below(int a, int b, int axis) const {
     for (int other = 0; other < axis; ++other) {
-        if (item(item(boxes, a).low, other) > item(item(boxes, b).high, other) ||
-            item(item(boxes, b).low, other) > item(item(boxes, a).high, other)) {
+        if (low(a, other) > high(b, other) || low(b, other) > high(a, other)) {
             return false;
         }
     }
     return true;
 }
 
-/// Both kinds in the order of their lower ends: each interval meets the points behind its lower
-/// end until its upper end.
-void pair_search::compare_directly(const std::vector<int>& intervals,
-                                   const std::vector<int>& points, int axis) {
+/// Each interval meets the points from its lower end to its upper end.
+void pair_search::compare_directly(const extent_list& intervals, const extent_list& points,
+                                   int axis) {
     std::size_t first = 0;
-    for (const int interval : intervals) {
-        while (first < points.size() && !(low_of(interval, axis) < low_of(points[first], axis))) {
+    for (const extent& interval : intervals) {
+        while (first < points.size() && !is_lower(interval, points[first])) {
             ++first;
         }
-        for (std::size_t i = first;
-             i < points.size() && low_of(points[i], axis) < high_of(interval, axis); ++i) {
-            if (overlaps_below(interval, points[i], axis)) {
-                visit(interval, points[i]);
+        for (std::size_t i = first; i < points.size() && points[i].low <= interval.high; ++i) {
+            if (overlaps_below(interval.box, points[i].box, axis)) {
+                poll.step();
+                visit(interval.box, points[i].box);
             }
         }
     }
 }
 
-void pair_search::enter(std::vector<int> intervals, std::vector<int> points, int axis) {
-    const auto is_lower = [&](int a, int b) { return low_of(a, axis) < low_of(b, axis); };
-    std::sort(intervals.begin(), intervals.end(), is_lower);
-    std::sort(points.begin(), points.end(), is_lower);
-    search(intervals, points, {-infinity, -1}, {infinity, std::numeric_limits<int>::max()}, axis);
-}
-
-/// Visits the pairs of an interval and a point in it. All points lie from `low` on, before `high`,
-/// and every interval reaches into that span. Both lists are in the order of their lower ends.
-void pair_search::search(std::vector<int>& intervals, std::vector<int>& points, lower_end low,
-                         lower_end high, int axis) {
+/// Visits the pairs of an interval and a point in it that overlap along the axes before as well.
+/// All points lie from one place on, before another, and every interval reaches into that span.
+/// Both lists are in the order of their lower ends.
+void pair_search::search(extent_list& intervals, extent_list& points, place from, place to,
+                         int axis) {
     if (intervals.empty() || points.empty()) {
         return;
     }
+    poll.step();
     if (axis == 0 || std::min(intervals.size(), points.size()) <= direct_count) {
         compare_directly(intervals, points, axis);
         return;
     }
-    std::vector<int> spanning;
-    std::vector<int> partial;
-    for (const int box : intervals) {
-        const bool spans = low_of(box, axis) < low && !(high_of(box, axis) < high);
-        (spans ? spanning : partial).push_back(box);
+    extent_list spanning;
+    extent_list partial;
+    for (const extent& interval : intervals) {
+        const bool spans = interval.lower_end() < from && !(interval.upper_end() < to);
+        (spans ? spanning : partial).push_back(interval);
     }
-    std::vector<int>().swap(intervals);
+    extent_list().swap(intervals);
     if (!spanning.empty()) {
-        enter(spanning, points, axis - 1);
-        enter(points, spanning, axis - 1);
+        search_below(spanning, points, axis - 1);
     }
-    divide(partial, points, low, high, axis);
+    divide(partial, points, from, to, axis);
+}
+
+/// Every interval holds every point: what remains are the axes below, where each may hold the
+/// other.
+void pair_search::search_below(const extent_list& spanning, const extent_list& points, int axis) {
+    extent_list first = sorted(spanning, axis);
+    extent_list second = sorted(points, axis);
+    extent_list first_as_points = first;
+    extent_list second_as_points = second;
+    search(first, second_as_points, {-infinity, -1}, {infinity, behind_all}, axis);
+    search(second, first_as_points, {-infinity, -1}, {infinity, behind_all}, axis);
 }
 
 /// Continues in the two halves of the points.
-void pair_search::divide(std::vector<int>& intervals, std::vector<int>& points, lower_end low,
-                         lower_end high, int axis) {
+void pair_search::divide(extent_list& intervals, extent_list& points, place from, place to,
+                         int axis) {
     const auto half = points.begin() + static_cast<std::ptrdiff_t>(points.size() / 2);
-    const lower_end middle = low_of(*half, axis);
-    std::vector<int> right_points(half, points.end());
+    const place middle = half->lower_end();
+    extent_list right_points(half, points.end());
     points.erase(half, points.end());
-    std::vector<int> left;
-    std::vector<int> right;
-    for (const int box : intervals) {
-        if (low_of(box, axis) < middle) {
-            left.push_back(box);
+    extent_list left;
+    extent_list right;
+    for (const extent& interval : intervals) {
+        if (interval.lower_end() < middle) {
+            left.push_back(interval);
         }
-        if (middle < high_of(box, axis)) {
-            right.push_back(box);
+        if (middle < interval.upper_end()) {
+            right.push_back(interval);
         }
     }
-    std::vector<int>().swap(intervals);
-    search(left, points, low, middle, axis);
-    search(right, right_points, middle, high, axis);
+    extent_list().swap(intervals);
+    search(left, points, from, middle, axis);
+    search(right, right_points, middle, to, axis);
 }
 
 } // namespace
@@ -153,10 +211,9 @@ void enlarge(bounds& box, const std::array<double, 3>& point) {
     }
 }
 
-void visit_overlapping_pairs(const std::vector<bounds>& boxes, const pair_visitor& visit) {
-    std::vector<int> all(boxes.size());
-    std::iota(all.begin(), all.end(), 0);
-    pair_search(boxes, visit).enter(all, all, 2);
+void visit_overlapping_pairs(const std::vector<bounds>& boxes, progress_poll& poll,
+                             const pair_visitor& visit) {
+    pair_search(boxes, poll, visit).search_all();
 }
 
 } // namespace ox::internal::csg::exact

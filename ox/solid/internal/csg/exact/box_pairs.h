@@ -14,6 +14,8 @@
 #include <functional>
 #include <vector>
 
+#include <ox/solid/internal/csg/exact/progress_poll.h>
+
 namespace ox::internal::csg::exact {
 
 /// A closed box.
@@ -31,9 +33,10 @@ void enlarge(bounds& box, const std::array<double, 3>& point);
 /// Takes a pair of boxes that overlap or touch.
 using pair_visitor = std::function<void(int, int)>;
 
-/// Visits each pair of boxes that overlap or touch once, in an order that depends on nothing but
-/// the boxes; in each pair either number may come first.
-void visit_overlapping_pairs(const std::vector<bounds>& boxes, const pair_visitor& visit);
+/// Visits each pair of boxes that overlap or touch once and counts it as a step, in an order that
+/// depends on nothing but the boxes; in each pair either number may come first.
+void visit_overlapping_pairs(const std::vector<bounds>& boxes, progress_poll& poll,
+                             const pair_visitor& visit);
 
 } // namespace ox::internal::csg::exact
 

@@ -5,6 +5,7 @@
 #include <ox/solid/internal/csg/exact/box_pairs.h>
 #include <ox/solid/internal/csg/exact/coplanar_contact.h>
 #include <ox/solid/internal/csg/exact/item.h>
+#include <ox/solid/internal/csg/exact/pair_table.h>
 
 namespace ox::internal::csg::exact {
 
@@ -122,6 +123,8 @@ private:
     facet_complex& complex;
     contact_list& contacts;
     coplanar_clipper clipper;
+    /// The crossing of each side and facet that is made.
+    pair_table crossings;
 };
 
 vertex_sides contact_finder::sides_of(const facet& f, const facet& other, int other_plane) const {
@@ -202,8 +205,14 @@ int contact_finder::point_of(const contact_end& end, int first, int second) {
     const bool is_of_first = end.of_first != nullptr;
     const interval_end& from = is_of_first ? *end.of_first : *end.of_second;
     const facet& f = item(complex.facets, is_of_first ? first : second);
-    const edge& side = complex.edges[item(f.sides, from.side)];
-    return complex.points.add_line_crossing(side.low, side.high, is_of_first ? second : first);
+    const int side = item(f.sides, from.side);
+    const int crossed = is_of_first ? second : first;
+    int& point = crossings.value_of(side, crossed);
+    if (point < 0) {
+        const edge& along = complex.edges[side];
+        point = complex.points.add_line_crossing(along.low, along.high, crossed);
+    }
+    return point;
 }
 
 void contact_finder::impose(int first, const line_interval& first_interval, int second,
@@ -250,26 +259,9 @@ void contact_finder::impose_segment(int facet_index, const line_interval& interv
 bounds box_of(const facet_complex& complex, const facet& f) {
     bounds box = empty_bounds();
     for (const int vertex : f.vertices) {
-        enlarge(box, complex.points.near(vertex));
+        complex.frame.enlarge(box, complex.points.near(vertex));
     }
     return box;
-}
-
-/// The pairs of facets whose boxes overlap, in order.
-std::vector<std::array<int, 2>> overlapping_pairs(const facet_complex& complex,
-                                                  progress_poll& poll) {
-    std::vector<bounds> boxes;
-    boxes.reserve(complex.facets.size());
-    for (const facet& f : complex.facets) {
-        boxes.push_back(box_of(complex, f));
-    }
-    std::vector<std::array<int, 2>> pairs;
-    visit_overlapping_pairs(boxes, [&](int a, int b) {
-        poll.step();
-        pairs.push_back({std::min(a, b), std::max(a, b)});
-    });
-    std::sort(pairs.begin(), pairs.end());
-    return pairs;
 }
 
 } // namespace
@@ -277,11 +269,14 @@ std::vector<std::array<int, 2>> overlapping_pairs(const facet_complex& complex,
 contact_list find_contacts(facet_complex& complex, side_planes& planes, progress_poll& poll) {
     contact_list contacts;
     contacts.has_coincidence.assign(complex.facets.size(), false);
-    contact_finder finder(complex, contacts, planes);
-    for (const std::array<int, 2>& pair : overlapping_pairs(complex, poll)) {
-        poll.step();
-        finder.meet(pair[0], pair[1]);
+    std::vector<bounds> boxes;
+    boxes.reserve(complex.facets.size());
+    for (const facet& f : complex.facets) {
+        boxes.push_back(box_of(complex, f));
     }
+    contact_finder finder(complex, contacts, planes);
+    visit_overlapping_pairs(boxes, poll,
+                            [&](int a, int b) { finder.meet(std::min(a, b), std::max(a, b)); });
     return contacts;
 }
 

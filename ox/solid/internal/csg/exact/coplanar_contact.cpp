@@ -21,10 +21,10 @@ bool is_within(const side_table& table, int vertex) {
            item(table[2], vertex) >= 0;
 }
 
-/// True if some side has every vertex of the other facet outside or on it, at or below a level.
-bool has_side_with_all_up_to(const side_table& table, int level) {
-    return std::any_of(table.begin(), table.end(), [&](const std::array<int, 3>& row) {
-        return row[0] <= level && row[1] <= level && row[2] <= level;
+/// True if some side has every vertex of the other facet outside or on it.
+bool has_separating_side(const side_table& table) {
+    return std::any_of(table.begin(), table.end(), [](const std::array<int, 3>& row) {
+        return row[0] <= 0 && row[1] <= 0 && row[2] <= 0;
     });
 }
 
@@ -54,12 +54,12 @@ void coplanar_clipper::clip(int first, int second) {
     const facet f = item(complex.facets, first);
     const facet g = item(complex.facets, second);
     const int axis = longest_axis(item(complex.points.planes, first));
-    const side_table g_beside_f = beside(f, first, g, axis);
-    const side_table f_beside_g = beside(g, second, f, axis);
-    if (has_side_with_all_up_to(g_beside_f, -1) || has_side_with_all_up_to(f_beside_g, -1)) {
+    side_table g_beside_f{};
+    side_table f_beside_g{};
+    if (!fill(g_beside_f, f, first, g, axis) || !fill(f_beside_g, g, second, f, axis)) {
         return;
     }
-    if (!has_side_with_all_up_to(g_beside_f, 0) && !has_side_with_all_up_to(f_beside_g, 0)) {
+    if (!has_separating_side(g_beside_f) && !has_separating_side(f_beside_g)) {
         contacts.has_coincidence[static_cast<std::size_t>(first)] = true;
         contacts.has_coincidence[static_cast<std::size_t>(second)] = true;
     }
@@ -74,19 +74,29 @@ void coplanar_clipper::clip(int first, int second) {
     }
 }
 
-coplanar_clipper::side_table coplanar_clipper::beside(const facet& f, int f_plane, const facet& g,
-                                                      int axis) const {
+/// Fills the table of the vertices of g beside the sides of f. False where a side of f has all of g
+/// outside, except vertices that the two share: then they impose nothing on each other.
+bool coplanar_clipper::fill(side_table& table, const facet& f, int f_plane, const facet& g,
+                            int axis) const {
     const int sense = item(item(complex.points.planes, f_plane).normal, axis).sign();
-    side_table table{};
     for (int side = 0; side < 3; ++side) {
-        const grid_point& from = item(complex.grid, item(f.vertices, side));
-        const grid_point& to = item(complex.grid, item(f.vertices, next_of(side)));
+        const int from = item(f.vertices, side);
+        const int to = item(f.vertices, next_of(side));
+        bool is_apart = true;
         for (int vertex = 0; vertex < 3; ++vertex) {
-            const grid_point& other = item(complex.grid, item(g.vertices, vertex));
-            item(item(table, side), vertex) = sense * turn(from, to, other, axis);
+            const int other = item(g.vertices, vertex);
+            const bool is_end = other == from || other == to;
+            int& beside = item(item(table, side), vertex);
+            beside = is_end ? 0
+                            : sense * turn(item(complex.grid, from), item(complex.grid, to),
+                                           item(complex.grid, other), axis);
+            is_apart = is_apart && (is_end || beside < 0);
+        }
+        if (is_apart) {
+            return false;
         }
     }
-    return table;
+    return true;
 }
 
 /// The crossings, by the side of f and the side of g; they divide both sides.

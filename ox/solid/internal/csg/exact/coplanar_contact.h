@@ -27,7 +27,7 @@ private:
     /// The crossings of the sides of two facets, -1 where they cross in no inner point of both.
     using crossing_table = std::array<std::array<int, 3>, 3>;
 
-    side_table beside(const facet& f, int f_plane, const facet& g, int axis) const;
+    bool fill(side_table& table, const facet& f, int f_plane, const facet& g, int axis) const;
     crossing_table cross_sides(const facet& f, const facet& g, const side_table& g_beside_f,
                                const side_table& f_beside_g, int axis);
     void impose_vertices(const facet& f, const facet& g, const side_table& g_beside_f);

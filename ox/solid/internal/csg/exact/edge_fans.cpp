@@ -32,9 +32,36 @@ edge_fans collect(const facet_complex& complex, const piece_list& list,
     return fans;
 }
 
+/// A member with its place in the order about the edge.
+struct placed_member {
+    fan_member member;
+    radial_order::half_plane half_plane;
+    int quarter;
+};
+
+/// Sorts the members of one edge by the angle from the first.
+void sort_fan(const facet_complex& complex, const piece_list& list, const edge& about,
+              fan_member* first, fan_member* end, std::vector<placed_member>& placed) {
+    const radial_order order(complex, about, half_plane_of(complex, list, *first));
+    placed.clear();
+    for (const fan_member* member = first + 1; member != end; ++member) {
+        const radial_order::half_plane half_plane = half_plane_of(complex, list, *member);
+        placed.push_back({*member, half_plane, order.quarter(half_plane)});
+    }
+    std::sort(placed.begin(), placed.end(), [&](const placed_member& a, const placed_member& b) {
+        if (a.quarter != b.quarter) {
+            return a.quarter < b.quarter;
+        }
+        const int turn = a.quarter % 2 != 0 ? order.turn(a.half_plane, b.half_plane) : 0;
+        return turn != 0 ? turn > 0 : a.member.piece < b.member.piece;
+    });
+    for (const placed_member& member : placed) {
+        *++first = member.member;
+    }
+}
+
 } // namespace
 
-/// 1 where the second half-plane is ahead of the first by less than half a turn.
 int radial_order::turn(half_plane a, half_plane b) const {
     const std::vector<plane>& planes = complex.points.planes;
     const int sign = line.is_of_planes
@@ -45,7 +72,6 @@ int radial_order::turn(half_plane a, half_plane b) const {
     return a.is_upward == b.is_upward ? sign : -sign;
 }
 
-/// 0 along the first half-plane, 1 up to half a turn, 2 opposite to it, 3 beyond.
 int radial_order::quarter(half_plane a) const {
     const int sign = turn(first, a);
     if (sign != 0) {
@@ -74,20 +100,14 @@ edge_fans join_wedges(const facet_complex& complex, const piece_list& list,
                       const coincidence_list& coincidences, disjoint_sets& cells,
                       progress_poll& poll) {
     edge_fans fans = collect(complex, list, coincidences);
+    std::vector<placed_member> placed;
     for (int i = 0; i < complex.edges.count(); ++i) {
         const int first = item(fans.first_member, i);
         const int end = item(fans.first_member, i + 1);
         if (end - first > 2) {
             poll.step();
-            const auto plane_at = [&](const fan_member& member) {
-                return half_plane_of(complex, list, member);
-            };
-            const radial_order order(complex, complex.edges[i],
-                                     plane_at(item(fans.members, first)));
-            std::stable_sort(fans.members.begin() + first + 1, fans.members.begin() + end,
-                             [&](const fan_member& a, const fan_member& b) {
-                                 return order(plane_at(a), plane_at(b));
-                             });
+            sort_fan(complex, list, complex.edges[i], fans.members.data() + first,
+                     fans.members.data() + end, placed);
         }
         for (int k = first; k < end; ++k) {
             const int next = k + 1 < end ? k + 1 : first;

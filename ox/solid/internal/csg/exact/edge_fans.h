@@ -60,13 +60,16 @@ public:
     radial_order(const facet_complex& owner, const edge& about, half_plane first_one)
         : complex(owner), line(about.line), first(first_one) {}
 
+    /// 0 along the first half-plane, 1 up to half a turn, 2 opposite to it, 3 beyond.
+    int quarter(half_plane a) const;
+
+    /// 1 where the second half-plane is ahead of the first by less than half a turn, -1 behind.
+    int turn(half_plane a, half_plane b) const;
+
     /// True if the angle to a is smaller than the angle to b.
     bool operator()(half_plane a, half_plane b) const;
 
 private:
-    int turn(half_plane a, half_plane b) const;
-    int quarter(half_plane a) const;
-
     const facet_complex& complex;
     const edge_line line;
     const half_plane first;

@@ -1,6 +1,7 @@
 #include <ox/solid/internal/csg/exact/facet_division.h>
 
 #include <algorithm>
+#include <utility>
 
 #include <ox/solid/internal/csg/exact/item.h>
 #include <ox/solid/internal/csg/exact/loop_sweep.h>
@@ -36,31 +37,49 @@ void facet_division::append_pieces(piece_list& list) {
     trace_loops();
     find_outer_loops();
     number_cells();
-    std::vector<std::vector<int>> arcs_of_cell(static_cast<std::size_t>(cell_count));
+    append_cells(list);
+}
+
+/// Appends the arcs of each cell, sorted by cell.
+void facet_division::append_cells(piece_list& list) {
+    std::vector<int>& next_arc = first_arc_of_cell;
+    next_arc.assign(static_cast<std::size_t>(cell_count) + 1, 0);
+    const auto cell_of = [&](int half_edge) {
+        return item(cell_of_loop, item(loop_of, half_edge));
+    };
     for (int half_edge = 0; half_edge < half_edge_count(); ++half_edge) {
-        const int cell = item(cell_of_loop, item(loop_of, half_edge));
-        if (cell >= 0) {
-            const int arc = arc_of(item(parts, half_edge / 2).edge, half_edge % 2 == 0);
-            item(arcs_of_cell, cell).push_back(arc);
+        if (cell_of(half_edge) >= 0) {
+            ++item(next_arc, cell_of(half_edge) + 1);
         }
     }
-    for (const std::vector<int>& arcs : arcs_of_cell) {
-        list.pieces.push_back({facet_index, count_of(list.arcs), count_of(arcs)});
-        list.arcs.insert(list.arcs.end(), arcs.begin(), arcs.end());
+    item(next_arc, 0) = count_of(list.arcs);
+    for (int cell = 0; cell < cell_count; ++cell) {
+        list.pieces.push_back({facet_index, item(next_arc, cell), item(next_arc, cell + 1)});
+        item(next_arc, cell + 1) += item(next_arc, cell);
+    }
+    list.arcs.resize(static_cast<std::size_t>(next_arc.back()));
+    for (int half_edge = 0; half_edge < half_edge_count(); ++half_edge) {
+        if (cell_of(half_edge) >= 0) {
+            item(list.arcs, item(next_arc, cell_of(half_edge))++) =
+                arc_of(item(parts, half_edge / 2).edge, half_edge % 2 == 0);
+        }
     }
 }
 
 void facet_division::number_vertices() {
     vertices.clear();
+    place_of_point.resize(static_cast<std::size_t>(complex.points.count()), -1);
+    const auto add_vertex = [&](int point) {
+        if (std::exchange(item(place_of_point, point), 0) < 0) {
+            vertices.push_back(point);
+        }
+    };
     for (const facet_edge& part : parts) {
-        vertices.push_back(complex.edges[part.edge].low);
-        vertices.push_back(complex.edges[part.edge].high);
+        add_vertex(complex.edges[part.edge].low);
+        add_vertex(complex.edges[part.edge].high);
     }
-    std::sort(vertices.begin(), vertices.end());
-    vertices.erase(std::unique(vertices.begin(), vertices.end()), vertices.end());
     std::sort(vertices.begin(), vertices.end(),
               [&](int a, int b) { return complex.points.compare(a, b) < 0; });
-    place_of_point.resize(static_cast<std::size_t>(complex.points.count()));
     for (int place = 0; place < count_of(vertices); ++place) {
         item(place_of_point, item(vertices, place)) = place;
     }
@@ -68,6 +87,9 @@ void facet_division::number_vertices() {
     for (const facet_edge& part : parts) {
         origins.push_back(item(place_of_point, complex.edges[part.edge].low));
         origins.push_back(item(place_of_point, complex.edges[part.edge].high));
+    }
+    for (const int vertex : vertices) {
+        item(place_of_point, vertex) = -1;
     }
 }
 
@@ -103,6 +125,7 @@ void facet_division::trace_loops() {
     loop_of.assign(origins.size(), -1);
     lowest_of_loop.clear();
     for (int half_edge = 0; half_edge < half_edge_count(); ++half_edge) {
+        poll.step();
         if (item(loop_of, half_edge) < 0) {
             trace_loop(half_edge);
         }

@@ -19,7 +19,7 @@ namespace ox::internal::csg::exact {
 /// three normals.
 class facet_division {
 public:
-    explicit facet_division(facet_complex& owner) : complex(owner) {}
+    facet_division(facet_complex& owner, progress_poll& steps) : complex(owner), poll(steps) {}
 
     /// Begins the division of a facet.
     void begin(int facet_number);
@@ -42,14 +42,17 @@ private:
     void trace_loop(int start);
     void find_outer_loops();
     void number_cells();
+    void append_cells(piece_list& list);
 
     facet_complex& complex;
+    progress_poll& poll;
     int facet_index = -1;
     /// The edges; part k has the half-edges 2 k upwards and 2 k + 1 downwards.
     std::vector<facet_edge> parts;
 
     /// The vertices from low to high; the others are named by their place here.
     std::vector<int> vertices;
+    /// For each point its place while the origins are found, otherwise -1.
     std::vector<int> place_of_point;
     std::vector<int> origins;
 
@@ -66,6 +69,7 @@ private:
     /// The cell on the left of each loop, -1 for the outside of the facet.
     std::vector<int> cell_of_loop;
     int cell_count = 0;
+    std::vector<int> first_arc_of_cell;
 };
 
 } // namespace ox::internal::csg::exact

@@ -9,11 +9,13 @@
 // share; what divides an edge therefore divides both alike.
 
 #include <array>
-#include <cstdint>
 #include <vector>
 
 #include <ox/solid/internal/csg/arrangement.h>
+#include <ox/solid/internal/csg/exact/box_frame.h>
+#include <ox/solid/internal/csg/exact/pair_table.h>
 #include <ox/solid/internal/csg/exact/point_table.h>
+#include <ox/solid/internal/csg/exact/progress_poll.h>
 
 namespace ox::internal::csg::exact {
 
@@ -53,23 +55,31 @@ public:
 
     int count() const { return static_cast<int>(edges.size()); }
 
-private:
-    std::size_t first_slot(int low, int high) const;
-    void grow();
+    /// Makes room for so many edges.
+    void reserve(std::size_t edge_count) {
+        edges.reserve(edge_count);
+        indices.reserve(edge_count);
+    }
 
+private:
     std::vector<edge> edges;
-    /// Open addressing: indices of edges, -1 where free; as many slots as a power of two.
-    std::vector<int> slots;
+    pair_table indices;
 };
 
 /// The facets of an input with their planes, points and edges.
 struct facet_complex {
-    explicit facet_complex(const arrangement_input& input);
+    facet_complex(const arrangement_input& input, progress_poll& poll);
 
     const std::vector<grid_point>& grid;
     point_table points;
     edge_table edges;
     std::vector<facet> facets;
+    /// The frame of the boxes in which contacts are looked for.
+    box_frame frame;
+
+private:
+    std::vector<facet> read_facets(const arrangement_input& input, progress_poll& poll);
+    int add_side(int from, int to);
 };
 
 /// True if the edge runs from the facet's vertex `side` to the next one upwards, from low to high.

@@ -6,6 +6,7 @@ namespace ox::internal::csg::exact {
 
 void loop_sweep::place_outer_loops() {
     for (int vertex = 0; vertex < count_of(division.vertices); ++vertex) {
+        division.poll.step();
         leave(vertex);
         place_loop_at(vertex);
         enter(vertex);

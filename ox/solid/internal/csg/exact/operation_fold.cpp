@@ -1,23 +1,13 @@
 #include <ox/solid/internal/csg/exact/operation_fold.h>
 
 #include <ox/solid/internal/csg/exact/item.h>
+#include <ox/solid/internal/csg/exact/wide_integer.h>
 
 namespace ox::internal::csg::exact {
 
 namespace {
 
 constexpr int word_bits = 64;
-
-int highest_bit(std::uint64_t word) {
-    int bit = 0;
-    for (int half = word_bits / 2; half > 0; half /= 2) {
-        if ((word >> half) != 0) {
-            word >>= half;
-            bit += half;
-        }
-    }
-    return bit;
-}
 
 std::uint64_t bit_of(int number) {
     return std::uint64_t(1) << (number % word_bits);
@@ -56,7 +46,7 @@ int number_set::greatest() const {
         if (levels[level].empty() || item(levels[level], number) == 0) {
             return -1;
         }
-        number = number * word_bits + highest_bit(item(levels[level], number));
+        number = number * word_bits + bit_length(item(levels[level], number)) - 1;
     }
     return number;
 }

@@ -17,7 +17,7 @@ public:
     facet_divider(facet_complex& owner, contact_list& found, side_planes& made_planes,
                   progress_poll& steps)
         : complex(owner), contacts(found), planes(made_planes), poll(steps), splitter(owner, steps),
-          division(owner) {}
+          division(owner, steps) {}
 
     piece_list divide();
 

@@ -43,17 +43,15 @@ void segment_splitter::find_divisions(const facet_point* points, int point_count
     divisions.clear();
     for (const facet_segment& segment : distinct) {
         boxes.push_back(empty_bounds());
-        enlarge(boxes.back(), complex.points.near(segment.low));
-        enlarge(boxes.back(), complex.points.near(segment.high));
+        complex.frame.enlarge(boxes.back(), complex.points.near(segment.low));
+        complex.frame.enlarge(boxes.back(), complex.points.near(segment.high));
     }
     for (int i = 0; i < point_count; ++i) {
         boxes.push_back(empty_bounds());
-        enlarge(boxes.back(), complex.points.near(points[i].point));
+        complex.frame.enlarge(boxes.back(), complex.points.near(points[i].point));
     }
-    visit_overlapping_pairs(boxes, [&](int a, int b) {
-        poll.step();
-        meet(std::min(a, b), std::max(a, b), points);
-    });
+    visit_overlapping_pairs(boxes, poll,
+                            [&](int a, int b) { meet(std::min(a, b), std::max(a, b), points); });
     std::sort(divisions.begin(), divisions.end(), [&](const division& a, const division& b) {
         return a.segment != b.segment ? a.segment < b.segment
                                       : complex.points.compare(a.point, b.point) < 0;
@@ -134,6 +132,7 @@ void segment_splitter::add_edges() {
     std::size_t next = 0;
     for (int i = 0; i < count_of(distinct); ++i) {
         const facet_segment& segment = item(distinct, i);
+        poll.step();
         const int sense = line_sense(complex.points, facet_index, segment.plane);
         int low = segment.low;
         for (; next < divisions.size() && divisions[next].segment == i; ++next) {

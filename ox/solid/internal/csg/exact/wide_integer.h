@@ -166,17 +166,25 @@ wide<N> magnitude(const wide<N>& value) {
     return value.is_negative() ? -value : value;
 }
 
+/// The number of bits of a word; 0 for 0.
+inline int bit_length(std::uint64_t word) {
+    int bits = 0;
+    for (int half = 32; half > 0; half /= 2) {
+        if ((word >> half) != 0) {
+            word >>= half;
+            bits += half;
+        }
+    }
+    return word != 0 ? bits + 1 : 0;
+}
+
 /// The number of bits of a number that is not negative; 0 for 0.
 template <int N>
 int bit_length(const wide<N>& value) {
     for (int i = N; i-- > 0;) {
-        std::uint64_t word = value.words[static_cast<std::size_t>(i)];
+        const std::uint64_t word = value.words[static_cast<std::size_t>(i)];
         if (word != 0) {
-            int bits = 64 * i;
-            for (; word != 0; word >>= 1) {
-                ++bits;
-            }
-            return bits;
+            return 64 * i + bit_length(word);
         }
     }
     return 0;

@@ -1,0 +1,124 @@
+// Who answers: a fast way gives the same answer as the library that it spares, so nothing but its
+// count tells that it is still taken. And what the libraries are assumed to do.
+
+#include <cstdint>
+#include <functional>
+
+#include <ox/polygon/internal/answer_counts.h>
+#include <ox/polygon/ox_polygon.h>
+#include <tests/polygon/plain_twins.h>
+
+using namespace polygon_checks;
+using ox::ox_3dvector;
+using ox::ox_list;
+using ox::ox_polygon;
+using ox::internal::answered_by;
+using ox::internal::answers_of;
+using support::contour;
+using support::rectangle;
+using support::rectangle_polygon;
+
+namespace {
+
+std::uint64_t answers_during(answered_by who, const std::function<void()>& question) {
+    const std::uint64_t before = answers_of(who);
+    question();
+    return answers_of(who) - before;
+}
+
+ox_list<ox_3dvector> turned_square(float x, float y) {
+    return contour({ox_3dvector(x + 2, y, 0), ox_3dvector(x + 4, y + 2.5f, 0),
+                    ox_3dvector(x + 1.5f, y + 4, 0), ox_3dvector(x, y + 1.5f, 0)});
+}
+
+} // namespace
+
+TEST(OxPolygonAnswers, SingleContourThatClimbsAndFallsOnceIsMergedWithoutTheLibrary) {
+    EXPECT_EQ(answers_during(answered_by::single_contour,
+                             [] { rectangle_polygon(0, 0, 1, 1).get_contour_sizes(); }),
+              1u);
+}
+
+TEST(OxPolygonAnswers, WallWithSeparateOpeningsIsMergedWithoutTheLibrary) {
+    EXPECT_EQ(answers_during(answered_by::separate_contours,
+                             [] {
+                                 ox_polygon wall = rectangle_polygon(0, 0, 10, 3);
+                                 wall.add_contour(rectangle(1, 1, 2, 2));
+                                 wall.add_contour(rectangle(4, 1, 5, 2));
+                                 wall.get_contour_sizes();
+                             }),
+              1u);
+}
+
+TEST(OxPolygonAnswers, OpeningCutIntoAWallIsSubtractedWithoutTheLibrary) {
+    ox_polygon wall = rectangle_polygon(0, 0, 10, 3);
+    ox_polygon opening = rectangle_polygon(1, 1, 2, 2);
+    wall.get_area();
+    opening.get_area();
+    EXPECT_EQ(answers_during(answered_by::separate_contours, [&] { wall.substracts(opening); }),
+              1u);
+}
+
+TEST(OxPolygonAnswers, RectanglesThatLieAsOthersDidBeforeAreKnown) {
+    const auto door = [](float x) {
+        ox_polygon wall = rectangle_polygon(0, 0, 10, 3);
+        wall.substracts(rectangle_polygon(x, -1, x + 1.5f, 2));
+    };
+    door(2.0f);
+    EXPECT_EQ(answers_during(answered_by::known_contours, [&] { door(7.5f); }), 1u);
+}
+
+TEST(OxPolygonAnswers, SlantedContoursThatCrossAreLeftToTheClippingLibrary) {
+    EXPECT_EQ(answers_during(answered_by::clipping_library,
+                             [] {
+                                 ox_polygon both;
+                                 both.add_contour(turned_square(0, 0));
+                                 both.add_contour(turned_square(1, 1));
+                                 both.get_contour_sizes();
+                             }),
+              1u);
+}
+
+TEST(OxPolygonAnswers, ConvexContourIsOneFan) {
+    ox_polygon square = rectangle_polygon(0, 0, 1, 1);
+    EXPECT_EQ(answers_during(answered_by::fan, [&] { square.get_area(); }), 1u);
+}
+
+TEST(OxPolygonAnswers, ShapesThatLieAsOthersDidBeforeGetTheirTriangles) {
+    const auto frame = [](float size) {
+        ox_polygon polygon = rectangle_polygon(0, 0, size, size + 1);
+        polygon.add_contour(rectangle(1, 1, size - 1, size - 1.5f));
+        polygon.get_area();
+    };
+    frame(4.0f);
+    EXPECT_EQ(answers_during(answered_by::known_triangles, [&] { frame(5.0f); }), 1u);
+}
+
+TEST(OxPolygonAnswers, ManyVerticesAreLeftToTheTessellator) {
+    ox_polygon both;
+    both.add_contour(turned_square(0, 0));
+    both.add_contour(turned_square(1, 1));
+    both.add_contour(turned_square(2, 2));
+    both.get_contour_sizes();
+    EXPECT_EQ(answers_during(answered_by::tessellator, [&] { both.get_area(); }), 1u);
+}
+
+// The library sorts contours by their highest level alone, so the order of those on one level is
+// that of `std::sort`, which must be the one that this library is compiled with. It differs from a
+// stable order only where there are more than 16.
+TEST(OxPolygonAnswers, ContoursOnOneLevelComeOutInTheOrderOfTheClippingLibrarysSort) {
+    for (int count = 1; count <= 120; ++count) {
+        twins pair;
+        pair.set_plane(ox_3dvector(), ox_3dvector(0, 0, 1));
+        for (int i = 0; i < count; ++i) {
+            const float x = 2.0f * static_cast<float>((i * 127) % count);
+            const float height = i % 3 == 0 ? 2.0f : 1.0f;
+            pair.add({ox_3dvector(x, 0, 0), ox_3dvector(x + 1, 0, 0), ox_3dvector(x + 1, height, 0),
+                      ox_3dvector(x, height, 0)});
+        }
+        EXPECT_EQ(answers_during(answered_by::separate_contours, [&] { pair.merge(); }),
+                  count > 1 ? 1u : 0u);
+        expect_equal(pair.polygon, pair.plain);
+        ASSERT_FALSE(HasFailure()) << count << " contours";
+    }
+}

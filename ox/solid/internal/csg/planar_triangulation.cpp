@@ -130,13 +130,38 @@ region_sweep::region_sweep(const std::vector<planar_point>& given_points,
     places.resize(edges.size(), status.end());
 }
 
+/// An edge of one region, from its left vertex to its right one.
+struct crossing {
+    int left;
+    int right;
+    covering gained;
+};
+
+bool join_the_same(const crossing& a, const crossing& b) {
+    return a.left == b.left && a.right == b.right;
+}
+
+bool comes_before(const crossing& a, const crossing& b) {
+    return a.left != b.left     ? a.left < b.left
+           : a.right != b.right ? a.right < b.right
+                                : a.gained.region < b.gained.region;
+}
+
+/// What the crossings from `i` on gain that join the same vertices and are of the same region.
+/// Moves `i` behind them.
+covering take_region(const std::vector<crossing>& crossings, std::size_t& i) {
+    const crossing& first = crossings[i];
+    covering gained = {first.gained.region, 0};
+    for (; i < crossings.size() && join_the_same(crossings[i], first) &&
+           crossings[i].gained.region == gained.region;
+         ++i) {
+        gained.winding += crossings[i].gained.winding;
+    }
+    return gained;
+}
+
 /// Makes one edge of all that join the same vertices. Those that gain nothing bound nothing.
 void region_sweep::collect_edges(const std::vector<region_edge>& given) {
-    struct crossing {
-        int left;
-        int right;
-        covering gained;
-    };
     std::vector<crossing> crossings;
     crossings.reserve(given.size());
     for (const region_edge& edge : given) {
@@ -148,21 +173,12 @@ void region_sweep::collect_edges(const std::vector<region_edge>& given) {
                              rises ? edge.to : edge.from,
                              {edge.region, rises ? 1 : -1}});
     }
-    std::sort(crossings.begin(), crossings.end(), [](const crossing& a, const crossing& b) {
-        return a.left != b.left     ? a.left < b.left
-               : a.right != b.right ? a.right < b.right
-                                    : a.gained.region < b.gained.region;
-    });
+    std::sort(crossings.begin(), crossings.end(), comes_before);
     for (std::size_t i = 0; i < crossings.size();) {
-        sweep_edge edge = {crossings[i].left, crossings[i].right, {}};
-        while (i < crossings.size() && crossings[i].left == edge.left &&
-               crossings[i].right == edge.right) {
-            covering gained = {crossings[i].gained.region, 0};
-            for (; i < crossings.size() && crossings[i].left == edge.left &&
-                   crossings[i].right == edge.right && crossings[i].gained.region == gained.region;
-                 ++i) {
-                gained.winding += crossings[i].gained.winding;
-            }
+        const crossing& first = crossings[i];
+        sweep_edge edge = {first.left, first.right, {}};
+        while (i < crossings.size() && join_the_same(crossings[i], first)) {
+            const covering gained = take_region(crossings, i);
             if (gained.winding != 0) {
                 edge.gained.push_back(gained);
             }

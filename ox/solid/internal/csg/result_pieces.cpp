@@ -130,14 +130,19 @@ void fit_piece(const scene& faces, const face_triangle& triangle, double flatnes
     }
 }
 
-/// Divides the edges of all pieces at the points beside them; false where there are none.
-bool divide_edges(result_pieces& result, double reach) {
+edge_register edges_of(const std::vector<result_piece>& pieces) {
     edge_register edges;
-    for (const result_piece& piece : result.pieces) {
+    for (const result_piece& piece : pieces) {
         for (const directed_edge& edge : piece.boundary) {
             edges.find_or_add(edge[0], edge[1]);
         }
     }
+    return edges;
+}
+
+/// Divides the edges of all pieces at the points beside them; false where there are none.
+bool divide_edges(result_pieces& result, double reach) {
+    edge_register edges = edges_of(result.pieces);
     const auto at = [&result](int i) -> const grid_point& {
         return result.points[static_cast<std::size_t>(i)];
     };

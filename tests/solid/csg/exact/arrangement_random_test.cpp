@@ -29,21 +29,21 @@ void expect_right(const arrangement_input& input, std::mt19937& engine) {
     EXPECT_EQ(misplaced_points(input, result, engine, 30), 0) << described(input);
 }
 
-TEST(CsgArrangementRandom, two_operands_on_a_grid_of_four_values_give_the_exact_result) {
+TEST(CsgArrangementRandom, TwoOperandsOnAGridOfFourValuesGiveTheExactResult) {
     for (unsigned int seed = 0; seed < 3000; ++seed) {
         std::mt19937 engine(seed);
         expect_right(random_input(engine, 4, 64, 2), engine);
     }
 }
 
-TEST(CsgArrangementRandom, chains_of_up_to_eight_operands_give_the_exact_result) {
+TEST(CsgArrangementRandom, ChainsOfUpToEightOperandsGiveTheExactResult) {
     for (unsigned int seed = 0; seed < 400; ++seed) {
         std::mt19937 engine(seed);
         expect_right(random_input(engine, 6, 64, reference::plain_dice(engine, 3, 8)), engine);
     }
 }
 
-TEST(CsgArrangementRandom, operands_at_the_ends_of_the_grid_give_the_exact_result) {
+TEST(CsgArrangementRandom, OperandsAtTheEndsOfTheGridGiveTheExactResult) {
     for (unsigned int seed = 0; seed < 400; ++seed) {
         std::mt19937 engine(seed);
         arrangement_input input = random_input(engine, 5, std::int64_t(1) << 36, 3);
@@ -55,7 +55,7 @@ TEST(CsgArrangementRandom, operands_at_the_ends_of_the_grid_give_the_exact_resul
     }
 }
 
-TEST(CsgArrangementRandom, the_order_of_the_triangles_does_not_change_the_result) {
+TEST(CsgArrangementRandom, TheOrderOfTheTrianglesDoesNotChangeTheResult) {
     for (unsigned int seed = 0; seed < 300; ++seed) {
         std::mt19937 engine(seed);
         arrangement_input input = random_input(engine, 5, 64, 3);

@@ -55,7 +55,7 @@ pair_set plain_pairs(const std::vector<bounds>& boxes) {
     return pairs;
 }
 
-TEST(CsgBoxPairs, every_pair_that_overlaps_or_touches_is_visited_once) {
+TEST(CsgBoxPairs, EveryPairThatOverlapsOrTouchesIsVisitedOnce) {
     for (const int count : {0, 1, 2, 30, 60, 300, 900}) {
         for (const std::array<int, 3>& values :
              {std::array<int, 3>{5, 5, 5}, {1000, 1000, 1000}, {1000, 2, 50}, {1, 40, 3000}}) {
@@ -66,12 +66,12 @@ TEST(CsgBoxPairs, every_pair_that_overlaps_or_touches_is_visited_once) {
     }
 }
 
-TEST(CsgBoxPairs, boxes_that_are_all_the_same_are_visited_pair_by_pair) {
+TEST(CsgBoxPairs, BoxesThatAreAllTheSameAreVisitedPairByPair) {
     const std::vector<bounds> boxes(100, bounds{{0.0, 0.0, 0.0}, {1.0, 0.0, 2.0}});
     EXPECT_EQ(visited_pairs(boxes).size(), 100u * 99u / 2u);
 }
 
-TEST(CsgBoxPairs, long_boxes_that_cross_short_ones_cost_no_more_than_their_pairs) {
+TEST(CsgBoxPairs, LongBoxesThatCrossShortOnesCostNoMoreThanTheirPairs) {
     std::vector<bounds> boxes;
     for (int i = 0; i < 2000; ++i) {
         boxes.push_back({{0.0, 3.0 * i, 0.0}, {6000.0, 3.0 * i + 1.0, 1.0}});

@@ -12,7 +12,7 @@
 #include <array>
 #include <cstdint>
 
-#if defined(__SIZEOF_INT128__) && !defined(OX_NO_INT128)
+#ifdef __SIZEOF_INT128__
 #define OX_HAS_INT128
 #endif
 
@@ -28,12 +28,9 @@ struct word_product {
     std::uint64_t high;
 };
 
-inline word_product multiply_words(std::uint64_t a, std::uint64_t b, std::uint64_t c,
-                                   std::uint64_t d) {
-#ifdef OX_HAS_INT128
-    const double_word product = static_cast<double_word>(a) * b + c + d;
-    return {static_cast<std::uint64_t>(product), static_cast<std::uint64_t>(product >> 64)};
-#else
+/// Made of products of half words, for compilers without a wider type.
+inline word_product multiply_halves(std::uint64_t a, std::uint64_t b, std::uint64_t c,
+                                    std::uint64_t d) {
     constexpr std::uint64_t half = 0xffffffffu;
     const std::uint64_t low = (a & half) * (b & half);
     const std::uint64_t left = (a >> 32) * (b & half) + (low >> 32);
@@ -45,6 +42,15 @@ inline word_product multiply_words(std::uint64_t a, std::uint64_t b, std::uint64
     product.low += d;
     product.high += product.low < d ? 1u : 0u;
     return product;
+}
+
+inline word_product multiply_words(std::uint64_t a, std::uint64_t b, std::uint64_t c,
+                                   std::uint64_t d) {
+#ifdef OX_HAS_INT128
+    const double_word product = static_cast<double_word>(a) * b + c + d;
+    return {static_cast<std::uint64_t>(product), static_cast<std::uint64_t>(product >> 64)};
+#else
+    return multiply_halves(a, b, c, d);
 #endif
 }
 

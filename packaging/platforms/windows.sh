@@ -81,7 +81,8 @@ run_consumer() {
         -Dox_utilities_DIR="$here/installed/lib/cmake/ox_utilities" \
         -DCMAKE_FIND_ROOT_PATH_MODE_PACKAGE=BOTH
     cmake --build "$here/consumer"
-    WINEPATH="$here/installed/bin" "$OX_WINE" "$(find "$here/consumer" -maxdepth 1 -name '*.exe')"
+    local folder=Z:$here/installed/bin
+    WINEPATH=${folder//\//\\} "$OX_WINE" "$(find "$here/consumer" -maxdepth 1 -name '*.exe')"
 }
 
 need x86_64-w64-mingw32-g++-posix g++-mingw-w64-x86-64-posix

@@ -60,8 +60,8 @@ struct overlaid {
             close_shell(shells.back(), 0, grid, problems);
         }
         EXPECT_TRUE(problems.empty());
-        faces = place_shells(shells, grid);
-        cluster_planes(faces, grid);
+        EXPECT_TRUE(place_shells(shells, grid, keep_going, faces));
+        EXPECT_TRUE(cluster_planes(faces, grid, keep_going));
         EXPECT_TRUE(snap_edges(faces, grid, keep_going));
         EXPECT_TRUE(triangulate_faces(faces, keep_going, triangles));
     }

@@ -9,6 +9,9 @@ namespace ox::internal::csg {
 
 namespace {
 
+/// A power of two; at most half of the slots are taken.
+constexpr std::size_t first_slot_count = 64;
+
 /// Orders the edges between the same points next to each other.
 bool is_lower_edge(const directed_edge& a, const directed_edge& b) {
     const auto key = [](const directed_edge& e) {
@@ -19,20 +22,47 @@ bool is_lower_edge(const directed_edge& a, const directed_edge& b) {
 
 } // namespace
 
+edge_register::edge_register() : slots(first_slot_count, -1) {}
+
+/// The slot that holds an edge, or the free one where it belongs.
+std::size_t edge_register::slot_of(const directed_edge& ends) const {
+    std::uint64_t mixed =
+        (static_cast<std::uint64_t>(ends[0]) << 32) | static_cast<std::uint32_t>(ends[1]);
+    mixed = (mixed ^ (mixed >> 30)) * 0xBF58476D1CE4E5B9u;
+    mixed = (mixed ^ (mixed >> 27)) * 0x94D049BB133111EBu;
+    const std::size_t mask = slots.size() - 1;
+    std::size_t slot = static_cast<std::size_t>(mixed ^ (mixed >> 31)) & mask;
+    while (slots[slot] >= 0 && edges[static_cast<std::size_t>(slots[slot])] != ends) {
+        slot = (slot + 1) & mask;
+    }
+    return slot;
+}
+
+void edge_register::enlarge() {
+    slots.assign(2 * slots.size(), -1);
+    for (std::size_t i = 0; i < edges.size(); ++i) {
+        slots[slot_of(edges[i])] = static_cast<int>(i);
+    }
+}
+
 int edge_register::find_or_add(int a, int b) {
     const directed_edge ends = {std::min(a, b), std::max(a, b)};
-    const std::uint64_t key =
-        (static_cast<std::uint64_t>(ends[0]) << 32) | static_cast<std::uint32_t>(ends[1]);
-    const auto [place, is_new] = numbers.emplace(key, size());
-    if (is_new) {
-        edges.push_back(ends);
+    const std::size_t slot = slot_of(ends);
+    if (slots[slot] >= 0) {
+        return slots[slot];
     }
-    return place->second;
+    const int number = size();
+    edges.push_back(ends);
+    slots[slot] = number;
+    if (2 * edges.size() > slots.size()) {
+        enlarge();
+    }
+    return number;
 }
 
 void edge_division::add(int edge, int point) {
     inner[static_cast<std::size_t>(edge)].push_back(point);
-    divided = true;
+    ++count;
 }
 
 void edge_division::sort(const edge_register& edges, const std::vector<grid_point>& points) {
@@ -53,6 +83,7 @@ void edge_division::sort(const edge_register& edges, const std::vector<grid_poin
         }
         std::sort(places.begin(), places.end());
         places.erase(std::unique(places.begin(), places.end()), places.end());
+        count -= inside.size() - places.size();
         inside.clear();
         for (const auto& place : places) {
             inside.push_back(place.second);

@@ -2,7 +2,6 @@
 #define OX_SOLID_INTERNAL_CSG_EDGE_REGISTER_H
 
 #include <cstdint>
-#include <unordered_map>
 #include <vector>
 
 #include <ox/solid/internal/csg/shell.h>
@@ -13,6 +12,8 @@ namespace ox::internal::csg {
 /// are first named.
 class edge_register {
 public:
+    edge_register();
+
     /// The number of the edge between two points, which is new where it was not named before.
     int find_or_add(int a, int b);
 
@@ -23,8 +24,11 @@ public:
     int size() const { return static_cast<int>(edges.size()); }
 
 private:
-    std::unordered_map<std::uint64_t, int> numbers;
+    std::size_t slot_of(const directed_edge& ends) const;
+    void enlarge();
+
     std::vector<directed_edge> edges;
+    std::vector<int> slots; ///< a power of two of them: an edge, or -1; the next one where taken
 };
 
 /// Points on the inside of edges, which divide them in the same way in every face.
@@ -35,8 +39,8 @@ public:
     /// Divides an edge at a point that is none of its ends.
     void add(int edge, int point);
 
-    /// True if no edge is divided.
-    bool is_empty() const { return !divided; }
+    /// The number of points put on edges; after `sort` each counts once for an edge.
+    std::size_t size() const { return count; }
 
     /// True if the edge is divided.
     bool divides(int edge) const { return !inner[static_cast<std::size_t>(edge)].empty(); }
@@ -48,7 +52,7 @@ public:
     void apply(edge_register& edges, face_boundary& face) const;
 
 private:
-    bool divided = false;
+    std::size_t count = 0;
     std::vector<std::vector<int>> inner;
 };
 

@@ -15,7 +15,9 @@ namespace ox::internal::csg {
 namespace {
 
 // How much of the work is done after each stage.
-constexpr double done_when_read = 0.1;
+constexpr double done_when_read = 0.05;
+constexpr double done_when_placed = 0.1;
+constexpr double done_when_clustered = 0.15;
 constexpr double done_when_snapped = 0.2;
 constexpr double done_when_cut = 0.3;
 constexpr double done_when_arranged = 0.8;
@@ -84,10 +86,12 @@ arrangement_input make_input(const std::vector<operand>& operands, const scene& 
 /// Evaluates shells that are closed; false where `report` ended the work.
 bool combine(const std::vector<operand>& operands, const std::vector<shell>& shells,
              const working_grid& grid, const progress_report& report, boundary& result) {
-    scene faces = place_shells(shells, grid);
-    cluster_planes(faces, grid);
+    scene faces;
     std::vector<face_triangle> triangles;
-    if (!snap_edges(faces, grid, stage_report(report, done_when_read, done_when_snapped)) ||
+    if (!place_shells(shells, grid, stage_report(report, done_when_read, done_when_placed),
+                      faces) ||
+        !cluster_planes(faces, grid, stage_report(report, done_when_placed, done_when_clustered)) ||
+        !snap_edges(faces, grid, stage_report(report, done_when_clustered, done_when_snapped)) ||
         !triangulate_faces(faces, stage_report(report, done_when_snapped, done_when_cut),
                            triangles)) {
         return false;

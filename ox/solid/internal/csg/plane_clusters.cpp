@@ -14,11 +14,14 @@ namespace {
 /// plane lies within the tolerance of it too.
 constexpr double parallel_cosine = 0.7;
 
+/// Faces between two reports.
+constexpr std::size_t report_interval = 256;
+
 /// Grows the clusters of a scene, the largest faces first.
 class cluster_search {
 public:
     cluster_search(scene& all, double reach);
-    void run();
+    bool run(const progress_report& report);
 
 private:
     void grow_from(int first);
@@ -47,17 +50,23 @@ cluster_search::cluster_search(scene& all, double reach)
     }
 }
 
-void cluster_search::run() {
+/// False where `report` ended the work.
+bool cluster_search::run(const progress_report& report) {
     std::vector<int> order(faces.faces.size());
     std::iota(order.begin(), order.end(), 0);
     const auto area = [this](int i) { return faces.faces[static_cast<std::size_t>(i)].plane.area; };
     std::stable_sort(order.begin(), order.end(),
                      [&area](int a, int b) { return area(a) > area(b); });
-    for (const int first : order) {
-        if (faces.faces[static_cast<std::size_t>(first)].cluster < 0) {
-            grow_from(first);
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        if (at(order[i]).cluster < 0) {
+            grow_from(order[i]);
+        }
+        if (i % report_interval == 0 &&
+            !report(static_cast<double>(i) / static_cast<double>(order.size()))) {
+            return false;
         }
     }
+    return true;
 }
 
 double cluster_search::allowed_deviation(int face, const std::array<double, 3>& normal) const {
@@ -93,8 +102,8 @@ void cluster_search::grow_from(int first) {
 
 } // namespace
 
-void cluster_planes(scene& faces, const working_grid& grid) {
-    cluster_search(faces, std::max(grid.get_tolerance(), 1.0)).run();
+bool cluster_planes(scene& faces, const working_grid& grid, const progress_report& report) {
+    return cluster_search(faces, std::max(grid.get_tolerance(), 1.0)).run(report);
 }
 
 } // namespace ox::internal::csg

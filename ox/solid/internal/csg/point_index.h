@@ -2,7 +2,6 @@
 #define OX_SOLID_INTERNAL_CSG_POINT_INDEX_H
 
 #include <cstdint>
-#include <unordered_map>
 #include <vector>
 
 #include <ox/solid/internal/csg/arrangement.h>
@@ -12,25 +11,26 @@ namespace ox::internal::csg {
 
 /// Points of the grid by where they are: finds those near a place.
 ///
-/// A hash table of cubic cells as wide as the reach, each with a list of its points. The order of
-/// the cells never shows: what is found comes in the order of insertion within a cell, cell by cell
-/// in the order of their places.
+/// A hash table of cubic cells several times as wide as the reach, so that most places have all
+/// that is near in their own cell. Nothing that it finds depends on the order within the table:
+/// whoever asks either takes all, or the nearest with the lowest number.
 class point_index {
 public:
     /// Finds points nearer than `reach` steps, and equal ones.
     explicit point_index(double reach);
 
-    /// Adds a point under a number of its own.
+    /// Adds a point under a number of its own. O(1) on average.
     void add(const grid_point& point, int number);
 
     /// Calls `visit(number, squared distance)` for every point near `place`.
     template <typename visitor>
     void visit_near(const grid_point& place, visitor visit) const {
-        const cell centre = cell_of(place);
-        for (std::int64_t dx = -1; dx <= 1; ++dx) {
-            for (std::int64_t dy = -1; dy <= 1; ++dy) {
-                for (std::int64_t dz = -1; dz <= 1; ++dz) {
-                    visit_cell({centre.x + dx, centre.y + dy, centre.z + dz}, place, visit);
+        const grid_point first = cell_of({place.x - reach, place.y - reach, place.z - reach});
+        const grid_point last = cell_of({place.x + reach, place.y + reach, place.z + reach});
+        for (grid_point cell = first; cell.x <= last.x; ++cell.x) {
+            for (cell.y = first.y; cell.y <= last.y; ++cell.y) {
+                for (cell.z = first.z; cell.z <= last.z; ++cell.z) {
+                    visit_cell(cell, place, visit);
                 }
             }
         }
@@ -42,38 +42,32 @@ public:
 private:
     struct entry {
         grid_point point;
+        grid_point cell;
         int number;
-    };
-    using cell = grid_point;
-    struct cell_hash {
-        std::size_t operator()(const cell& c) const {
-            std::uint64_t mixed = static_cast<std::uint64_t>(c.x) * 0x9E3779B97F4A7C15u;
-            mixed = (mixed ^ (mixed >> 29) ^ static_cast<std::uint64_t>(c.y)) * 0xBF58476D1CE4E5B9u;
-            mixed = (mixed ^ (mixed >> 32) ^ static_cast<std::uint64_t>(c.z)) * 0x94D049BB133111EBu;
-            return static_cast<std::size_t>(mixed ^ (mixed >> 31));
-        }
+        int next; ///< the next entry of the same slot, -1 for none
     };
 
-    cell cell_of(const grid_point& point) const;
+    grid_point cell_of(const grid_point& point) const;
+    std::size_t slot_of(const grid_point& cell) const;
+    void enlarge();
 
     template <typename visitor>
-    void visit_cell(const cell& where, const grid_point& place, visitor& visit) const {
-        const auto found = cells.find(where);
-        if (found == cells.end()) {
-            return;
-        }
-        for (const entry& held : found->second) {
+    void visit_cell(const grid_point& cell, const grid_point& place, visitor& visit) const {
+        for (int i = slots[slot_of(cell)]; i >= 0; i = entries[static_cast<std::size_t>(i)].next) {
+            const entry& held = entries[static_cast<std::size_t>(i)];
             const std::array<double, 3> way = difference(place, held.point);
             const double square = dot(way, way);
-            if (square < square_reach || square == 0.0) {
+            if ((square < square_reach || square == 0.0) && held.cell == cell) {
                 visit(held.number, square);
             }
         }
     }
 
     double square_reach;
+    std::int64_t reach;
     std::int64_t width;
-    std::unordered_map<cell, std::vector<entry>, cell_hash> cells;
+    std::vector<entry> entries;
+    std::vector<int> slots; ///< a power of two of them: the first entry of each, -1 for none
 };
 
 } // namespace ox::internal::csg

@@ -166,7 +166,7 @@ bool divide_edges(result_pieces& result, double reach) {
             }
         });
     }
-    if (division.is_empty()) {
+    if (division.size() == 0) {
         return false;
     }
     division.sort(edges, result.points);

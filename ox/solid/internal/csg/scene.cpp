@@ -118,8 +118,8 @@ grid_box box_of_face(const scene& faces, const scene_face& face) {
     return box;
 }
 
-scene place_shells(const std::vector<shell>& shells, const working_grid& grid) {
-    scene all;
+bool place_shells(const std::vector<shell>& shells, const working_grid& grid,
+                  const progress_report& report, scene& all) {
     point_index near(grid.get_tolerance());
     for (std::size_t operand = 0; operand < shells.size(); ++operand) {
         const shell& placed = shells[operand];
@@ -135,8 +135,11 @@ scene place_shells(const std::vector<shell>& shells, const working_grid& grid) {
             }
             all.faces.push_back(std::move(face));
         }
+        if (!report(static_cast<double>(operand + 1) / static_cast<double>(shells.size()))) {
+            return false;
+        }
     }
-    return all;
+    return true;
 }
 
 } // namespace ox::internal::csg

@@ -47,13 +47,15 @@ struct scene {
 
 /// Puts the shells together. A point within the tolerance of one of the operands before becomes
 /// that point, the nearest pairs first; no two points of one operand become the same. O(n log n).
-scene place_shells(const std::vector<shell>& shells, const working_grid& grid);
+/// False where `report` ended the work.
+bool place_shells(const std::vector<shell>& shells, const working_grid& grid,
+                  const progress_report& report, scene& all);
 
 /// Gives the faces of one plane the same number. The largest face not in a cluster yet begins one;
 /// faces whose boxes touch those of its members belong to it if all their corners lie within the
 /// tolerance of its plane, which is fitted to all of its members (see plane_growth.h).
-/// O((n + k) log n).
-void cluster_planes(scene& faces, const working_grid& grid);
+/// False where `report` ended the work. O((n + k) log n).
+bool cluster_planes(scene& faces, const working_grid& grid, const progress_report& report);
 
 /// The box around a face.
 grid_box box_of_face(const scene& faces, const scene_face& face);

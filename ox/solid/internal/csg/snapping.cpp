@@ -20,6 +20,10 @@ namespace {
 /// Searches after which crossings are left to the arrangement.
 constexpr int largest_round_count = 6;
 
+/// Divisions for each edge, and each division of the first search, after which no more are made:
+/// where everything is near to everything, bent edges would be divided for ever.
+constexpr std::size_t growth_limit = 4;
+
 /// Part of the tolerance within which the crossing of two edges is taken for a point that is there.
 constexpr double crossing_reach = 0.5;
 
@@ -70,7 +74,7 @@ class edge_snapper {
 public:
     edge_snapper(scene& all, double reach, const progress_report& progress);
 
-    /// True where no edge was divided.
+    /// True where no edge was divided, or too many would have been.
     bool run_round(int round);
 
     bool is_stopped() const { return stopped; }
@@ -95,10 +99,10 @@ private:
     const progress_report& report;
     bool stopped = false;
     int compared = 0;
+    std::size_t budget = 0; // divisions that may still be made
 
     edge_register edges;
     std::vector<edge_record> records;
-    std::vector<bool> was_known; // edges of the rounds before
     edge_division division{0};
     point_index near;
 };
@@ -114,9 +118,14 @@ bool edge_snapper::run_round(int round) {
     record_edges();
     division = edge_division(edges.size());
     search(round);
-    if (stopped || division.is_empty()) {
+    division.sort(edges, faces.points);
+    if (round == 0) {
+        budget = growth_limit * (static_cast<std::size_t>(edges.size()) + division.size());
+    }
+    if (stopped || division.size() == 0 || division.size() > budget) {
         return true;
     }
+    budget -= division.size();
     apply();
     return false;
 }
@@ -283,7 +292,6 @@ void edge_snapper::join_at(int e, int f, double parameter) {
 }
 
 void edge_snapper::apply() {
-    division.sort(edges, faces.points);
     for (scene_face& face : faces.faces) {
         const bool is_divided =
             std::any_of(face.boundary.begin(), face.boundary.end(), [this](const directed_edge& e) {

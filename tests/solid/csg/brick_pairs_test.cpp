@@ -158,7 +158,7 @@ TEST(CsgBrickPairs, TurnedPairsUpToAThousandUnitsAwayAreRightAndClosed) {
     const verdicts counts = judge_turned_pairs(1000.0);
     counts.print("turned pairs up to 1000 units away");
     expect_right(counts);
-    EXPECT_LE(counts.other_face_counts, counts.results / 20);
+    EXPECT_LE(counts.other_face_counts, counts.results / 100);
 }
 
 } // namespace

@@ -1,4 +1,34 @@
-#include <ox/solid/internal/csg/arrangement.h>
+// The boundary of a combination by the arrangement of its operands' triangles: space is divided
+// into cells at all of them, the cells are chosen, and what separates chosen cells from others is
+// the boundary (Zhou, Grinspun, Zorin and Jacobson, "Mesh arrangements for solid geometry", 2016;
+// Cherchi, Pellacini, Attene and Livesu, "Interactive and robust mesh Booleans", 2022). The steps,
+// one file each, in exact/:
+//
+//  1. facets         triangles with an area; neighbours share the index of their side
+//  2. contacts       pairs of facets whose boxes overlap (box_pairs, in a frame along the building,
+//                    box_frame) impose points and segments on each other, decided by orientations
+//                    of grid points alone (plane); coplanar ones their clipped sides
+//  3. pieces         each side is divided once, for all its facets; in each facet the segments are
+//                    divided at each other (segment_splitter), and the cells that they enclose are
+//                    traced (facet_division), parts inside others placed by a sweep (loop_sweep)
+//  4. coincidences   pieces of the same boundary become one piece with several covers
+//  5. edge_fans      about each edge the pieces are sorted; neighbours share a wedge of a cell
+//  6. shells         what no edge joins is placed by a ray down from its lowest point
+//  7. cell_selection a walk over the cells carries the winding numbers of the operands and the last
+//                    operation that decides (operation_fold)
+//  8. boundary_writer
+//
+// Why it is closed: once around an edge one crosses from cell to cell and comes back to the first,
+// so what goes out of the chosen cells comes in as often, at every edge, whichever cells are chosen
+// and whatever the geometry. Why it is right: every point of the arrangement is one index
+// (point_table), every decision is exact, and a cell has one winding number for each operand,
+// because each operand is a closed chain. Rounding happens once, to the coordinates of the result,
+// and no step reads them but to decide faster what it would decide anyway.
+//
+// Time: O(log n) for each facet, pair of overlapping boxes, and piece, but for three things that no
+// bound on pairs covers: a common point of three planes inside facets is made for each facet; a ray
+// passes the boxes above its first hit; and the piece of a hit facet is found by looking at all of
+// its edges.
 
 #include <ox/solid/internal/csg/exact/boundary_writer.h>
 #include <ox/solid/internal/csg/exact/cell_selection.h>

@@ -14,7 +14,7 @@ constexpr std::uint8_t all_exact = 7;
 /// Above the relative error of a sum of four products of twice rounded factors.
 constexpr double filter_error = 0x1p-48;
 
-/// The distance of the product of a wide and a machine integer, in the wide one's words.
+/// A coordinate of a normal times one of a point.
 wide<3> scaled(const wide<2>& factor, std::int64_t coordinate) {
     return factor * make_wide(coordinate);
 }

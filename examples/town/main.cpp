@@ -14,11 +14,11 @@
 namespace {
 
 /// Metres between the buildings of the picture.
-constexpr float plot = 30.0f;
+constexpr float plot = 18.0f;
 
 /// Buildings in a row of the picture, and in all of it.
-constexpr int row_length = 6;
-constexpr int most_drawn = 24;
+constexpr int row_length = 4;
+constexpr int most_drawn = 12;
 
 /// The solid moved to its plot of the picture.
 building::element on_plot(const ox::ox_solid& solid, int number) {

@@ -14,7 +14,7 @@ struct described_layouts {
     ox_csg* combination;
     ox_csg_state* combination_record;
     ox_csv* table;
-    oxp_csv_state* table_record;
+    ox_csv_state* table_record;
     ox_polygon* polygon;
     ox_polygon_data* polygon_record;
     ox_solid* solid;

@@ -1,14 +1,18 @@
+#include <ox/ox_functions.h>
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstring>
-#include <ox/core/internal/byte_list.h>
-#include <ox/ox_functions.h>
 #include <utility>
+
+#include <ox/core/internal/byte_list.h>
 
 // Base64 as RFC 4648 describes it: three bytes make four characters of six bits each.
 
 namespace ox {
+
+using namespace internal;
 
 namespace {
 

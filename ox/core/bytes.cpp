@@ -1,11 +1,15 @@
+#include <ox/ox_functions.h>
+
 #include <cstddef>
 #include <cstring>
 #include <limits>
 #include <new>
+
 #include <ox/core/internal/byte_list.h>
-#include <ox/ox_functions.h>
 
 namespace ox {
+
+using namespace internal;
 
 ox_list<unsigned char> ox_from_uchar_ptr(const unsigned char* p, int n) {
     if (p == nullptr && n > 0) {

@@ -1,7 +1,8 @@
+#include <ox/core/ox_chrono.h>
+
 #include <chrono>
 #include <cstdint>
 #include <ctime>
-#include <ox/core/ox_chrono.h>
 #include <ratio>
 
 namespace ox {
@@ -20,7 +21,7 @@ std::int64_t current_ticks() {
 
 } // namespace
 
-struct oxp_chrono {
+struct ox_chrono_state {
     /// The length of the running span in seconds.
     double running_span() const {
         return static_cast<double>(current_ticks() - start_ticks) / ticks_per_second;
@@ -31,13 +32,27 @@ struct oxp_chrono {
     double accumulated = 0.0; // seconds
 };
 
-ox_chrono::ox_chrono() : state(std::make_unique<oxp_chrono>()) {}
+ox_chrono::ox_chrono() : state(std::make_unique<ox_chrono_state>()) {}
 
-ox_chrono::ox_chrono(const ox_chrono& other) : state(std::make_unique<oxp_chrono>(*other.state)) {}
+ox_chrono::ox_chrono(const ox_chrono& other)
+    : state(std::make_unique<ox_chrono_state>(*other.state)) {}
 
 ox_chrono& ox_chrono::operator=(const ox_chrono& other) {
     *state = *other.state;
     return *this;
+}
+
+ox_chrono::ox_chrono(ox_chrono&& other) : ox_chrono() {
+    swap(other);
+}
+
+ox_chrono& ox_chrono::operator=(ox_chrono&& other) noexcept {
+    swap(other);
+    return *this;
+}
+
+void ox_chrono::swap(ox_chrono& other) noexcept {
+    state.swap(other.state);
 }
 
 ox_chrono::~ox_chrono() = default;

@@ -1,5 +1,6 @@
-#include <atomic>
 #include <ox/ox_functions.h>
+
+#include <atomic>
 
 namespace ox {
 

@@ -1,11 +1,12 @@
 // The self-checks of the ordered map: a few entries in and out, and the times of many.
 
+#include <ox/ox_functions.h>
+
 #include <ox/core/ox_chrono.h>
 #include <ox/core/ox_hash.h>
 #include <ox/core/ox_list.h>
 #include <ox/core/ox_log.h>
 #include <ox/internal/log_line.h>
-#include <ox/ox_functions.h>
 
 namespace ox {
 

@@ -18,7 +18,7 @@ bool log_enabled = true;
 bool echo_enabled = false;
 bool first_write_pending = true;
 
-// Null until a name is chosen.
+/// Null until a name is chosen.
 std::atomic<const char*> chosen_file_name = nullptr;
 
 /// Created by the first call, which the language keeps free of races, and never destroyed: threads

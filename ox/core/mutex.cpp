@@ -1,6 +1,8 @@
-#include <new>
-#include <omp.h>
 #include <ox/core/ox_mutex.h>
+
+#include <new>
+
+#include <omp.h>
 
 // The thread sanitizer does not see OpenMP locks, so it has to be told what they order.
 #if defined(__has_feature)
@@ -17,11 +19,11 @@
 
 namespace ox {
 
-struct oxp_lock {
-    oxp_lock() noexcept { omp_init_lock(&lock); }
-    ~oxp_lock() { omp_destroy_lock(&lock); }
-    oxp_lock(const oxp_lock&) = delete;
-    oxp_lock& operator=(const oxp_lock&) = delete;
+struct ox_mutex_state {
+    ox_mutex_state() noexcept { omp_init_lock(&lock); }
+    ~ox_mutex_state() { omp_destroy_lock(&lock); }
+    ox_mutex_state(const ox_mutex_state&) = delete;
+    ox_mutex_state& operator=(const ox_mutex_state&) = delete;
 
     void set() {
         omp_set_lock(&lock);
@@ -40,7 +42,7 @@ struct oxp_lock {
     omp_lock_t lock;
 };
 
-ox_mutex::ox_mutex() noexcept : state(new (std::nothrow) oxp_lock) {}
+ox_mutex::ox_mutex() noexcept : state(new (std::nothrow) ox_mutex_state) {}
 
 ox_mutex::ox_mutex(const ox_mutex&) noexcept : ox_mutex() {}
 

@@ -2,12 +2,13 @@
 #define OX_CORE_OX_CHRONO_H
 
 #include <memory>
-#include <ox/core/ox_export.h>
 #include <string>
+
+#include <ox/core/ox_export.h>
 
 namespace ox {
 
-struct oxp_chrono;
+struct ox_chrono_state;
 
 /// A stopwatch that can be paused, with helpers for time stamps and date-time texts.
 ///
@@ -33,6 +34,16 @@ public:
     /// Takes the state of `other`.
     ox_chrono& operator=(const ox_chrono& other);
 
+    /// Takes the state of `other`, which becomes a stopped stopwatch at 0.
+    ox_chrono(ox_chrono&& other);
+
+    /// Exchanges the contents with those of `other`. O(1).
+    ox_chrono& operator=(ox_chrono&& other) noexcept;
+
+    /// Exchanges the contents with those of `other`. O(1).
+    void swap(ox_chrono& other) noexcept;
+
+    /// Deletes the state.
     ~ox_chrono();
 
     /// Starts or resumes measuring. Nothing happens while it is running: the span goes on.
@@ -69,8 +80,13 @@ public:
     static long long from_xsd_datetime(const std::string& s);
 
 private:
-    std::unique_ptr<oxp_chrono> state;
+    std::unique_ptr<ox_chrono_state> state;
 };
+
+/// Exchanges the contents of two stopwatches. O(1).
+inline void swap(ox_chrono& a, ox_chrono& b) noexcept {
+    a.swap(b);
+}
 
 } // namespace ox
 

@@ -2,8 +2,9 @@
 #define OX_CORE_OX_HASH_H
 
 #include <memory>
-#include <ox/core/ox_list.h>
 #include <utility>
+
+#include <ox/core/ox_list.h>
 
 namespace ox {
 
@@ -54,11 +55,25 @@ public:
     ox_hash& operator=(const ox_hash& other) {
         if (this != &other) {
             ox_hash copy(other);
-            std::swap(root, copy.root);
-            std::swap(count, copy.count);
-            std::swap(unchanged, copy.unchanged);
+            swap(copy);
         }
         return *this;
+    }
+
+    /// Takes the entries of `other`, which becomes empty. O(1).
+    ox_hash(ox_hash&& other) noexcept { swap(other); }
+
+    /// Exchanges the contents with those of `other`. O(1).
+    ox_hash& operator=(ox_hash&& other) noexcept {
+        swap(other);
+        return *this;
+    }
+
+    /// Exchanges the contents with those of `other`. O(1).
+    void swap(ox_hash& other) noexcept {
+        std::swap(root, other.root);
+        std::swap(count, other.count);
+        std::swap(unchanged, other.unchanged);
     }
 
     /// Frees every entry. O(n).
@@ -216,7 +231,7 @@ private:
 
     ox_list<oxp_hash*> nodes_in_order() const {
         ox_list<oxp_hash*> nodes;
-        ox_list<oxp_hash*> ancestors; // those whose left subtree is being walked
+        ox_list<oxp_hash*> ancestors; ///< those whose left subtree is being walked
         oxp_hash* node = root;
         while (node != nullptr || ancestors.size() > 0) {
             for (; node != nullptr; node = node->left) {
@@ -260,6 +275,12 @@ private:
     unsigned int count = 0;
     bool unchanged = true;
 };
+
+/// Exchanges the contents of two tables. O(1).
+template <typename K, typename V>
+void swap(ox_hash<K, V>& a, ox_hash<K, V>& b) noexcept {
+    a.swap(b);
+}
 
 } // namespace ox
 

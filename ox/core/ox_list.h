@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <initializer_list>
 #include <limits>
 #include <memory>
 #include <new>
@@ -36,7 +37,8 @@ namespace ox {
 /// Allocation failure leaves the list as it was and reaches the caller as `std::bad_alloc` (or
 /// `std::bad_array_new_length`, which is one).
 ///
-/// `T` needs a default constructor, a copy constructor and copy assignment.
+/// `T` needs a default constructor, a copy constructor and copy assignment; moving it is used where
+/// it can be moved.
 ///
 ///     ox::ox_list<int> numbers;
 ///     numbers.push_right(2);
@@ -45,6 +47,10 @@ namespace ox {
 template <typename T>
 class ox_list {
 public:
+    using value_type = T;            ///< what it holds
+    using iterator = T*;             ///< lives until the next change of the list
+    using const_iterator = const T*; ///< lives until the next change of the list
+
     /// An empty list. Allocates nothing.
     ox_list() = default;
 
@@ -87,6 +93,9 @@ public:
     /// The number of elements, negative when a negative size was asked for.
     int size() const { return count; }
 
+    /// True if there is no element: the count is 0 or negative. O(1).
+    bool empty() const { return count < 1; }
+
     /// The number of elements the array has room for.
     int get_capacity() const { return capacity; }
 
@@ -123,7 +132,7 @@ public:
     /// count becomes 0 first. A full array grows by half its capacity, at least by one element:
     /// 1, 2, 3, 4, 6, 9, 13, 19, ... O(count - position), amortised.
     void insert(int position, const T& value) {
-        const T kept(value); // may be an element that the growth or the shift moves
+        const T kept(value); ///< may be an element that the growth or the shift moves
         const int live = live_count();
         if (live >= capacity) {
             reallocate(grown_capacity(live));
@@ -136,6 +145,22 @@ public:
 
     /// Appends `value`. Amortised O(1).
     void push_right(const T& value) { insert(count, value); }
+
+    /// Appends `value`, which is moved from, growing as `insert` does. Amortised O(1).
+    void push_right(T&& value) {
+        const int live = live_count();
+        if (live >= capacity) {
+            const int grown = grown_capacity(live);
+            std::unique_ptr<T[]> array(new_array_from(data, live, grown));
+            array[static_cast<std::size_t>(live)] = std::move(value); // may be one of the old array
+            delete[] data;
+            data = array.release();
+            capacity = grown;
+        } else {
+            data[live] = std::move(value);
+        }
+        count = live + 1;
+    }
 
     /// Prepends `value`. O(count): every element is shifted.
     void push_left(const T& value) { insert(0, value); }
@@ -164,11 +189,20 @@ public:
     /// elements that keeps the live ones; otherwise only the count changes, so slots that come
     /// back into use hold what they held before. A negative `n` is kept as it is. O(n).
     void set_size(int n) {
+        reserve(n);
+        count = n;
+    }
+
+    /// Makes the array one of exactly `n` elements when it has fewer, so that the list can grow to
+    /// that count without another. The count and the elements stay. O(n).
+    void reserve(int n) {
         if (n > 0 && n > capacity) { // the first test spares compilers a false warning
             reallocate(n);
         }
-        count = n;
     }
+
+    /// Exchanges the contents of two lists. O(1).
+    void swap(ox_list& other) noexcept { exchange(other); }
 
     /// Releases the array: count and capacity become 0.
     void clear() {
@@ -228,6 +262,23 @@ private:
     T* data = nullptr;
 };
 
+/// Exchanges the contents of two lists. O(1).
+template <typename T>
+void swap(ox_list<T>& a, ox_list<T>& b) noexcept {
+    a.swap(b);
+}
+
+/// A list of the given elements, with room for exactly these: `ox_make_list({1, 2, 3})`. O(n).
+template <typename T>
+ox_list<T> ox_make_list(std::initializer_list<T> elements) {
+    ox_list<T> list;
+    list.set_size(static_cast<int>(elements.size()));
+    std::copy(elements.begin(), elements.end(), list.begin());
+    return list;
+}
+
 } // namespace ox
+
+using ox::ox_make_list;
 
 #endif

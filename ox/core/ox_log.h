@@ -32,7 +32,7 @@ extern "C" {
  */
 OX_EXPORT void ox_log(const char* message);
 
-/** Tells whether messages go to the file. */
+/** True if messages go to the file. */
 OX_EXPORT bool ox_log_get(void);
 
 /** Switches the writing to the file on or off; the echo is not concerned. */

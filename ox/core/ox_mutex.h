@@ -2,11 +2,12 @@
 #define OX_CORE_OX_MUTEX_H
 
 #include <memory>
+
 #include <ox/core/ox_export.h>
 
 namespace ox {
 
-struct oxp_lock;
+struct ox_mutex_state;
 
 /// A simple lock between threads, whether they come from OpenMP or not.
 ///
@@ -41,7 +42,7 @@ public:
     void unlock();
 
 private:
-    std::unique_ptr<oxp_lock> state;
+    std::unique_ptr<ox_mutex_state> state;
 };
 
 } // namespace ox

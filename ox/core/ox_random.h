@@ -2,12 +2,13 @@
 #define OX_CORE_OX_RANDOM_H
 
 #include <memory>
+
 #include <ox/core/ox_export.h>
 #include <ox/geometry/ox_3dvector.h>
 
 namespace ox {
 
-struct oxp_random;
+struct ox_random_state;
 
 /// A seeded source of random numbers: equal seeds give equal sequences on every platform.
 ///
@@ -28,6 +29,16 @@ public:
     /// Goes on with the same numbers as `other`.
     ox_random& operator=(const ox_random& other);
 
+    /// Takes the sequence of `other`, which becomes a source with the default seed.
+    ox_random(ox_random&& other);
+
+    /// Exchanges the contents with those of `other`. O(1).
+    ox_random& operator=(ox_random&& other) noexcept;
+
+    /// Exchanges the contents with those of `other`. O(1).
+    void swap(ox_random& other) noexcept;
+
+    /// Deletes the state.
     ~ox_random();
 
     /// A whole number drawn uniformly from `[a, b]`, by rejection, so without bias. A range of one
@@ -43,8 +54,13 @@ public:
     ox_3dvector dice_vector();
 
 private:
-    std::unique_ptr<oxp_random> state;
+    std::unique_ptr<ox_random_state> state;
 };
+
+/// Exchanges the contents of two sources. O(1).
+inline void swap(ox_random& a, ox_random& b) noexcept {
+    a.swap(b);
+}
 
 } // namespace ox
 

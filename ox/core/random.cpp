@@ -1,23 +1,41 @@
+#include <ox/core/ox_random.h>
+
 #include <limits>
+
 #include <ox/core/internal/mersenne_twister.h>
 #include <ox/core/internal/tolerances.h>
-#include <ox/core/ox_random.h>
 
 namespace ox {
 
-struct oxp_random {
-    explicit oxp_random(int seed) : engine(static_cast<unsigned int>(seed)) {}
+using namespace internal;
+
+struct ox_random_state {
+    explicit ox_random_state(int seed) : engine(static_cast<unsigned int>(seed)) {}
 
     mersenne_twister engine;
 };
 
-ox_random::ox_random(int seed) : state(std::make_unique<oxp_random>(seed)) {}
+ox_random::ox_random(int seed) : state(std::make_unique<ox_random_state>(seed)) {}
 
-ox_random::ox_random(const ox_random& other) : state(std::make_unique<oxp_random>(*other.state)) {}
+ox_random::ox_random(const ox_random& other)
+    : state(std::make_unique<ox_random_state>(*other.state)) {}
 
 ox_random& ox_random::operator=(const ox_random& other) {
     *state = *other.state;
     return *this;
+}
+
+ox_random::ox_random(ox_random&& other) : ox_random() {
+    swap(other);
+}
+
+ox_random& ox_random::operator=(ox_random&& other) noexcept {
+    swap(other);
+    return *this;
+}
+
+void ox_random::swap(ox_random& other) noexcept {
+    state.swap(other.state);
 }
 
 ox_random::~ox_random() = default;
@@ -40,7 +58,7 @@ inline unsigned int draw_below(unsigned int n, mersenne_twister& engine) {
 
 } // namespace
 
-// Unsigned arithmetic wraps around, so every pair of bounds is a range of at least one number.
+/// Unsigned arithmetic wraps around, so every pair of bounds is a range of at least one number.
 int ox_random::dice(int a, int b) {
     const unsigned int first = static_cast<unsigned int>(a);
     const unsigned int span = static_cast<unsigned int>(b) - first;
@@ -50,7 +68,7 @@ int ox_random::dice(int a, int b) {
     return span == 0 ? a : static_cast<int>(first + draw_below(span + 1, state->engine));
 }
 
-// The same as dice(0, steps), by divisions whose divisor the compiler knows.
+/// The same as dice(0, steps), by divisions whose divisor the compiler knows.
 float ox_random::dice_0_1() {
     constexpr unsigned int steps = 1000000;
     return static_cast<float>(draw_below(steps + 1, state->engine)) / static_cast<float>(steps);
@@ -58,11 +76,11 @@ float ox_random::dice_0_1() {
 
 ox_3dvector ox_random::dice_vector() {
     for (;;) {
-        const float x = 2.f * dice_0_1() - 1.f;
-        const float y = 2.f * dice_0_1() - 1.f;
-        const float z = 2.f * dice_0_1() - 1.f;
+        const float x = 2.0f * dice_0_1() - 1.0f;
+        const float y = 2.0f * dice_0_1() - 1.0f;
+        const float z = 2.0f * dice_0_1() - 1.0f;
         const float squared_length = x * x + y * y + z * z;
-        if (squared_length > random_direction_min_squared_length && squared_length < 1.f) {
+        if (squared_length > random_direction_min_squared_length && squared_length < 1.0f) {
             ox_3dvector direction(x, y, z);
             direction.normalize();
             return direction;

@@ -1,5 +1,6 @@
-#include <cctype>
 #include <ox/ox_functions.h>
+
+#include <cctype>
 
 namespace ox {
 

@@ -1,7 +1,9 @@
+#include <ox/ox_functions.h>
+
 #include <cstdint>
 #include <iterator>
-#include <ox/ox_functions.h>
 #include <stdexcept>
+
 #include <utf8.h>
 
 #if defined(_WIN32)

@@ -1,20 +1,22 @@
+#include <ox/ox_functions.h>
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
+
 #include <ox/core/ox_chrono.h>
 #include <ox/core/ox_mutex.h>
 #include <ox/core/ox_random.h>
-#include <ox/ox_functions.h>
 
 namespace ox {
 
 namespace {
 
 constexpr int random_seed = 54873;
-constexpr std::size_t nb_time_bytes = 8;
-constexpr std::size_t nb_random_bytes = 4;
+constexpr std::size_t time_byte_count = 8;
+constexpr std::size_t random_byte_count = 4;
 
-using identifier_bytes = std::array<unsigned char, nb_time_bytes + nb_random_bytes>;
+using identifier_bytes = std::array<unsigned char, time_byte_count + random_byte_count>;
 
 /// Gives out the bytes of identifiers, one caller at a time.
 class identifier_source {
@@ -23,10 +25,10 @@ public:
         identifier_bytes bytes{};
         mutex.lock();
         last_time = std::max(ox_chrono::now(), last_time + 1);
-        for (std::size_t i = 0; i < nb_time_bytes; ++i) {
+        for (std::size_t i = 0; i < time_byte_count; ++i) {
             bytes[i] = static_cast<unsigned char>((last_time >> (8 * i)) & 255);
         }
-        for (std::size_t i = nb_time_bytes; i < bytes.size(); ++i) {
+        for (std::size_t i = time_byte_count; i < bytes.size(); ++i) {
             bytes[i] = static_cast<unsigned char>(random.dice(0, 255));
         }
         mutex.unlock();

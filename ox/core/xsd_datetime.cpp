@@ -1,7 +1,8 @@
+#include <ox/core/ox_chrono.h>
+
 #include <cstddef>
 #include <ctime>
 #include <limits>
-#include <ox/core/ox_chrono.h>
 #include <string>
 
 // Date-time texts of the form YYYY-MM-DDThh:mm:ssZ, with the fields in local time.

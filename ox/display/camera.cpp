@@ -1,15 +1,19 @@
+#include <ox/display/ox_camera.h>
+
 #include <algorithm>
 #include <cmath>
+
 #include <ox/display/internal/tolerances.h>
-#include <ox/display/ox_camera.h>
 #include <ox/geometry/ox_polar.h>
 #include <ox/internal/angles.h>
 #include <ox/ox_functions.h>
 
 namespace ox {
 
+using namespace internal;
+
 ox_camera::ox_camera()
-    : ox_camera(ox_3dvector(), ox_3dvector(), ox_3dvector(0.f, 0.f, 1.f), 30.f, 0, 0) {}
+    : ox_camera(ox_3dvector(), ox_3dvector(), ox_3dvector(0.0f, 0.0f, 1.0f), 30.0f, 0, 0) {}
 
 ox_camera::ox_camera(const ox_3dvector& eye, const ox_3dvector& looked_at, const ox_3dvector& up,
                      float field_of_view, int window_width, int window_height)
@@ -62,14 +66,14 @@ void ox_camera::_compute() {
 
     const float columns = static_cast<float>(width);
     const float rows = static_cast<float>(height);
-    const float half_angle = angle * 0.5f * half_turn / 180.f;
+    const float half_angle = angle * 0.5f * half_turn / 180.0f;
     const float half_height = static_cast<float>(std::tan(static_cast<double>(half_angle)));
     const float half_width = columns * half_height / rows;
     corner = forward - half_width * right - half_height * down;
-    projection_x_axis = right * (columns / (2.f * half_width));
-    projection_y_axis = down * (rows / (2.f * half_height));
-    right_step = right * (2.f * half_width / columns);
-    down_step = down * (2.f * half_height / rows);
+    projection_x_axis = right * (columns / (2.0f * half_width));
+    projection_y_axis = down * (rows / (2.0f * half_height));
+    right_step = right * (2.0f * half_width / columns);
+    down_step = down * (2.0f * half_height / rows);
     precompute_date = ox_get_new_date();
 }
 
@@ -89,7 +93,7 @@ bool ox_camera::get_projection(const ox_3dvector& point, float& x, float& y) {
     _compute();
     const ox_3dvector from_eye = point - position;
     const float depth = ox_dot(from_eye, forward);
-    if (!(depth > 0.f)) {
+    if (!(depth > 0.0f)) {
         return false;
     }
     const ox_3dvector from_corner = from_eye / depth - corner;
@@ -115,7 +119,7 @@ void ox_camera::go_toward(const ox_3dvector& point, float factor) {
 
 /// The vector `view` after a mouse move, the z axis being vertical.
 ox_3dvector ox_camera::turned(const ox_3dvector& view, float dx, float dy) const {
-    const float radians_per_pixel = (angle * half_turn) / (static_cast<float>(height) * 180.f);
+    const float radians_per_pixel = (angle * half_turn) / (static_cast<float>(height) * 180.0f);
     const ox_polar polar(view);
     const float elevation =
         std::clamp(radians_per_pixel * dy + polar.latitude, -largest_elevation, largest_elevation);

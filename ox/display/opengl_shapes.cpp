@@ -7,23 +7,32 @@
 
 namespace ox {
 
-ox_opengl_shapes::ox_opengl_shapes() : data(new ox_opengl_shapes_data) {}
+ox_opengl_shapes::ox_opengl_shapes() : data(std::make_unique<ox_opengl_shapes_data>()) {}
 
 ox_opengl_shapes::ox_opengl_shapes(const ox_opengl_shapes& source)
-    : data(new ox_opengl_shapes_data(*source.data)) {}
+    : data(std::make_unique<ox_opengl_shapes_data>(*source.data)) {}
 
 ox_opengl_shapes& ox_opengl_shapes::operator=(const ox_opengl_shapes& source) {
     if (this != &source) {
-        ox_opengl_shapes_data* copy = new ox_opengl_shapes_data(*source.data);
-        delete data;
-        data = copy;
+        data = std::make_unique<ox_opengl_shapes_data>(*source.data);
     }
     return *this;
 }
 
-ox_opengl_shapes::~ox_opengl_shapes() {
-    delete data;
+ox_opengl_shapes::ox_opengl_shapes(ox_opengl_shapes&& other) : ox_opengl_shapes() {
+    swap(other);
 }
+
+ox_opengl_shapes& ox_opengl_shapes::operator=(ox_opengl_shapes&& other) noexcept {
+    swap(other);
+    return *this;
+}
+
+void ox_opengl_shapes::swap(ox_opengl_shapes& other) noexcept {
+    data.swap(other.data);
+}
+
+ox_opengl_shapes::~ox_opengl_shapes() = default;
 
 void ox_opengl_shapes::add_point(const ox_3dvector& position, const ox_color& color, int size) {
     oxos_point point;

@@ -40,22 +40,45 @@ public:
     ox_camera(const ox_3dvector& position, const ox_3dvector& target, const ox_3dvector& upaxis,
               float angle, int width, int height);
 
-    // Setters; a value equal to the stored one changes nothing, not even the date.
+    // Setters, O(1); a value equal to the stored one changes nothing, not even the date. Values are
+    // stored as they are, numbers that are not finite included.
 
+    /// Moves the eye (model units), without the target.
     void set_position(const ox_3dvector& value);
+
+    /// Sets the point looked at (model units).
     void set_target(const ox_3dvector& value);
+
+    /// Sets the up direction, of any length and any angle to the view but 0.
     void set_upaxis(const ox_3dvector& value);
+
+    /// Sets the vertical field of view (degrees).
     void set_angle(float value);
+
+    /// Sets the width of the window (pixels).
     void set_width(int value);
+
+    /// Sets the height of the window (pixels).
     void set_height(int value);
 
-    // Getters
+    // Getters, O(1), without a recomputation
 
+    /// The eye (model units).
     const ox_3dvector& get_position() const { return position; }
+
+    /// The point looked at (model units).
     const ox_3dvector& get_target() const { return target; }
+
+    /// The up direction, as it was set.
     const ox_3dvector& get_upaxis() const { return upaxis; }
+
+    /// The vertical field of view (degrees).
     float get_angle() const { return angle; }
+
+    /// The width of the window (pixels).
     int get_width() const { return width; }
+
+    /// The height of the window (pixels).
     int get_height() const { return height; }
 
     // Queries, O(1)

@@ -1,11 +1,11 @@
 #ifndef OX_DISPLAY_OX_DEBUG_H
 #define OX_DISPLAY_OX_DEBUG_H
 
+#include <string>
+
 #include <ox/core/ox_export.h>
 #include <ox/core/ox_list.h>
 #include <ox/display/ox_opengl_shapes.h>
-
-#include <string>
 
 namespace ox {
 
@@ -44,6 +44,14 @@ public:
     /// children held so far are let go without being deleted, as another node may share them.
     /// Assigning a node to itself changes nothing.
     ox_debug& operator=(const ox_debug& source);
+
+    /// Takes the texts, children and shapes of `source`, which is left without them: this node is
+    /// now the owner.
+    ox_debug(ox_debug&& source);
+
+    /// Takes the texts, children and shapes of `source`, which is left without children. The
+    /// children held so far are let go without being deleted, as another node may share them.
+    ox_debug& operator=(ox_debug&& source);
 
     /// Deletes every child that is not null, in order, and with it all that it owns. O(n) in the
     /// number of nodes of the tree. The destructor of a derived class still finds its children;

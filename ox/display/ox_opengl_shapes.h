@@ -1,6 +1,8 @@
 #ifndef OX_DISPLAY_OX_OPENGL_SHAPES_H
 #define OX_DISPLAY_OX_OPENGL_SHAPES_H
 
+#include <memory>
+
 #include <ox/core/ox_export.h>
 #include <ox/geometry/ox_3dvector.h>
 #include <ox/geometry/ox_color.h>
@@ -47,6 +49,16 @@ public:
     /// content stays as it was.
     ox_opengl_shapes& operator=(const ox_opengl_shapes& source);
 
+    /// Takes the points and lines of `other`, which becomes empty.
+    ox_opengl_shapes(ox_opengl_shapes&& other);
+
+    /// Exchanges the contents with those of `other`. O(1).
+    ox_opengl_shapes& operator=(ox_opengl_shapes&& other) noexcept;
+
+    /// Exchanges the contents with those of `other`. O(1).
+    void swap(ox_opengl_shapes& other) noexcept;
+
+    /// Deletes the content.
     virtual ~ox_opengl_shapes();
 
     /// Adds a point at `position` (model units), drawn as a square of `size` by `size` pixels.
@@ -72,8 +84,13 @@ public:
     void draw_opengl() const;
 
 private:
-    ox_opengl_shapes_data* data;
+    std::unique_ptr<ox_opengl_shapes_data> data;
 };
+
+/// Exchanges the contents of two collections. O(1).
+inline void swap(ox_opengl_shapes& a, ox_opengl_shapes& b) noexcept {
+    a.swap(b);
+}
 
 } // namespace ox
 

@@ -39,8 +39,13 @@ public:
     ox_snap(const ox_3dvector& point, float snap_tolerance, int degrees_of_freedom,
             const ox_3dvector& constraint);
 
+    /// Copies all fields.
     ox_snap(const ox_snap& other);
+
+    /// Copies all fields.
     ox_snap& operator=(const ox_snap& other);
+
+    /// Does nothing: the fields are plain values.
     virtual ~ox_snap();
 
     /// Snaps onto the plane through `point` with the unit normal `normal`, and tells whether it

@@ -1,8 +1,12 @@
-#include <cmath>
-#include <ox/display/internal/tolerances.h>
 #include <ox/display/ox_snap.h>
 
+#include <cmath>
+
+#include <ox/display/internal/tolerances.h>
+
 namespace ox {
+
+using namespace internal;
 
 ox_snap::ox_snap(const ox_3dvector& point, float snap_tolerance, int degrees_of_freedom,
                  const ox_3dvector& constraint)
@@ -43,7 +47,7 @@ bool ox_snap::snap_to_plane(const ox_3dvector& point, const ox_3dvector& normal)
     return true;
 }
 
-// Moves within the first plane, square to the line in which both planes meet.
+/// Moves within the first plane, square to the line in which both planes meet.
 bool ox_snap::snap_to_line(const ox_3dvector& point, const ox_3dvector& normal) {
     ox_3dvector across = normal - direction * ox_dot(normal, direction);
     if (!(across.normalize() >= parallel_planes_sine)) {

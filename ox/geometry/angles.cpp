@@ -1,9 +1,11 @@
 // Degrees, minutes and seconds, and inverse trigonometry that forgives roundings.
 
+#include <ox/ox_functions.h>
+
 #include <cmath>
 #include <limits>
+
 #include <ox/internal/angles.h>
-#include <ox/ox_functions.h>
 
 namespace ox {
 
@@ -25,10 +27,10 @@ int whole_part(double number) {
 } // namespace
 
 float ox_acos(float x) {
-    if (x >= 1.f) {
-        return 0.f;
+    if (x >= 1.0f) {
+        return 0.0f;
     }
-    return x <= -1.f ? half_turn : rounded_acos(x);
+    return x <= -1.0f ? half_turn : rounded_acos(x);
 }
 
 double ox_acos(double x) {
@@ -39,10 +41,10 @@ double ox_acos(double x) {
 }
 
 float ox_asin(float x) {
-    if (x >= 1.f) {
+    if (x >= 1.0f) {
         return quarter_turn;
     }
-    return x <= -1.f ? -quarter_turn : rounded_asin(x);
+    return x <= -1.0f ? -quarter_turn : rounded_asin(x);
 }
 
 double ox_asin(double x) {

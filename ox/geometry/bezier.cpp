@@ -1,8 +1,12 @@
-#include <algorithm>
-#include <ox/geometry/internal/shared_floats.h>
 #include <ox/geometry/ox_bezier.h>
 
+#include <algorithm>
+
+#include <ox/geometry/internal/shared_floats.h>
+
 namespace ox {
+
+using namespace internal;
 
 namespace {
 
@@ -42,14 +46,14 @@ ox_bezier::~ox_bezier() = default;
 
 float* ox_bezier::compute(float t, float* out) {
     float* const w = out != nullptr ? out : weights.get();
-    const float clamped = std::clamp(t, 0.f, 1.f);
-    const float rest = 1.f - clamped;
-    float power = 1.f;
+    const float clamped = std::clamp(t, 0.0f, 1.0f);
+    const float rest = 1.0f - clamped;
+    float power = 1.0f;
     for (int i = 0; i < n; ++i) {
         w[i] = coefficients[i] * power;
         power *= clamped;
     }
-    power = 1.f;
+    power = 1.0f;
     for (int i = n; i > 0; --i) {
         w[i - 1] = w[i - 1] * power;
         power *= rest;

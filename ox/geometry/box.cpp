@@ -65,7 +65,7 @@ int ox_box::plane_status(const ox_3dvector& point, const ox_3dvector& normal) co
                 side += normal.at(axis) * size.at(axis);
             }
         }
-        if (side < 0.f) {
+        if (side < 0.0f) {
             ++negative;
         }
     }

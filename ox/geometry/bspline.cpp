@@ -1,9 +1,13 @@
-#include <algorithm>
-#include <ox/geometry/internal/shared_floats.h>
 #include <ox/geometry/ox_bspline.h>
+
+#include <algorithm>
 #include <vector>
 
+#include <ox/geometry/internal/shared_floats.h>
+
 namespace ox {
+
+using namespace internal;
 
 namespace {
 
@@ -11,7 +15,7 @@ namespace {
 std::vector<float> steps(const float* u, int intervals, float t) {
     std::vector<float> basis(static_cast<std::size_t>(intervals));
     for (int i = 0; i < intervals; ++i) {
-        basis[static_cast<std::size_t>(i)] = u[i] <= t && t < u[i + 1] ? 1.f : 0.f;
+        basis[static_cast<std::size_t>(i)] = u[i] <= t && t < u[i + 1] ? 1.0f : 0.0f;
     }
     return basis;
 }
@@ -34,7 +38,7 @@ ox_bspline::ox_bspline(int curve_degree, int intervals)
         knots[i] = static_cast<float>(i) / static_cast<float>(m);
     }
     if (m > 0) {
-        knots[m] = 1.f;
+        knots[m] = 1.0f;
     }
 }
 
@@ -54,7 +58,7 @@ float* ox_bspline::compute(float t, float* out) {
     if (count == 0) {
         return written;
     }
-    const float clamped = std::clamp(t, 0.f, 1.f);
+    const float clamped = std::clamp(t, 0.0f, 1.0f);
     std::vector<float> basis = steps(knots.get(), m, clamped);
     for (int k = 1; k <= degree; ++k) {
         raise_degree(basis.data(), knots.get(), m - k, k, clamped);

@@ -6,15 +6,15 @@ namespace ox {
 
 namespace {
 
-constexpr float full_channel = 255.f;
+constexpr float full_channel = 255.0f;
 
 /// Integer channel of a component. Written so that a NaN takes the first branch and the
 /// conversion never sees a value that an integer cannot hold.
 unsigned int quantise(float component) {
-    if (!(component > 0.f)) {
+    if (!(component > 0.0f)) {
         return 0;
     }
-    if (component >= 1.f) {
+    if (component >= 1.0f) {
         return 255;
     }
     return static_cast<unsigned int>(component * full_channel);
@@ -120,53 +120,53 @@ std::string ox_color::encode_string() const {
 }
 
 ox_color ox_color::heat(float v) {
-    if (v < 0.f) {
-        return ox_color(0.f, 0.f, 0.5f);
+    if (v < 0.0f) {
+        return ox_color(0.0f, 0.0f, 0.5f);
     }
-    if (v > 1.f) {
-        return ox_color(0.5f, 0.f, 0.f);
+    if (v > 1.0f) {
+        return ox_color(0.5f, 0.0f, 0.0f);
     }
-    const float t = 8.f * v;
-    if (t < 1.f) {
-        return ox_color(0.f, 0.f, t * 0.5f + 0.5f);
+    const float t = 8.0f * v;
+    if (t < 1.0f) {
+        return ox_color(0.0f, 0.0f, t * 0.5f + 0.5f);
     }
-    if (t < 3.f) {
-        return ox_color(0.f, (t - 1.f) * 0.5f, 1.f);
+    if (t < 3.0f) {
+        return ox_color(0.0f, (t - 1.0f) * 0.5f, 1.0f);
     }
-    if (t < 5.f) {
-        return ox_color((t - 3.f) * 0.5f, 1.f, 1.f - (t - 3.f) * 0.5f);
+    if (t < 5.0f) {
+        return ox_color((t - 3.0f) * 0.5f, 1.0f, 1.0f - (t - 3.0f) * 0.5f);
     }
-    if (t < 7.f) {
-        return ox_color(1.f, 1.f - (t - 5.f) * 0.5f, 0.f);
+    if (t < 7.0f) {
+        return ox_color(1.0f, 1.0f - (t - 5.0f) * 0.5f, 0.0f);
     }
-    return ox_color(1.f - (t - 7.f) * 0.5f, 0.f, 0.f);
+    return ox_color(1.0f - (t - 7.0f) * 0.5f, 0.0f, 0.0f);
 }
 
 ox_color ox_color::pseudo(float v) {
-    if (v < 0.f) {
-        return ox_color(0.f, 0.f, 0.f);
+    if (v < 0.0f) {
+        return ox_color(0.0f, 0.0f, 0.0f);
     }
-    float s = 5.f * v;
-    if (s < 1.f) {
-        return ox_color(0.f, 0.f, s);
+    float s = 5.0f * v;
+    if (s < 1.0f) {
+        return ox_color(0.0f, 0.0f, s);
     }
-    s -= 1.f;
-    if (s < 1.f) {
-        return ox_color(s, 0.f, 1.f);
+    s -= 1.0f;
+    if (s < 1.0f) {
+        return ox_color(s, 0.0f, 1.0f);
     }
-    s -= 1.f;
-    if (s < 1.f) {
-        return ox_color(1.f, 0.f, 1.f - s);
+    s -= 1.0f;
+    if (s < 1.0f) {
+        return ox_color(1.0f, 0.0f, 1.0f - s);
     }
-    s -= 1.f;
-    if (s < 1.f) {
-        return ox_color(1.f, s, 0.f);
+    s -= 1.0f;
+    if (s < 1.0f) {
+        return ox_color(1.0f, s, 0.0f);
     }
-    s -= 1.f;
-    if (s < 1.f) {
-        return ox_color(1.f, 1.f, s);
+    s -= 1.0f;
+    if (s < 1.0f) {
+        return ox_color(1.0f, 1.0f, s);
     }
-    return ox_color(1.f, 1.f, 1.f);
+    return ox_color(1.0f, 1.0f, 1.0f);
 }
 
 } // namespace ox

@@ -1,11 +1,15 @@
 // The self-check of the cubic spline, against the sine.
 
-#include <cmath>
-#include <ox/geometry/internal/tolerances.h>
 #include <ox/geometry/ox_cubic_spline.h>
+
+#include <cmath>
+
+#include <ox/geometry/internal/tolerances.h>
 #include <ox/internal/log_line.h>
 
 namespace ox {
+
+using namespace internal;
 
 namespace {
 
@@ -15,7 +19,7 @@ double sine(float x) {
 
 ox_list<ox_2dvector> sine_points() {
     ox_list<ox_2dvector> points;
-    for (float x = 0.f; x < 2.1f; x = x + 0.5f) {
+    for (float x = 0.0f; x < 2.1f; x = x + 0.5f) {
         points.push_right(ox_2dvector(x, static_cast<float>(sine(x))));
     }
     return points;
@@ -24,7 +28,7 @@ ox_list<ox_2dvector> sine_points() {
 /// Calls `check(x)` for x from 0 to 2 in steps of 0.1 until it says false; tells whether none did.
 template <typename checker>
 bool for_each_sample(const checker& check) {
-    for (float x = 0.f; x < 2.05f; x = x + 0.1f) {
+    for (float x = 0.0f; x < 2.05f; x = x + 0.1f) {
         if (!check(x)) {
             return false;
         }

@@ -1,7 +1,10 @@
-#include <ox/geometry/internal/tolerances.h>
 #include <ox/geometry/ox_3dvector.h>
 
+#include <ox/geometry/internal/tolerances.h>
+
 namespace ox {
+
+using namespace internal;
 
 namespace {
 
@@ -10,7 +13,7 @@ bool is_near_end(const ox_3dvector& p, const ox_3dvector& end, float tolerance) 
            p.distance_to(end) < tolerance;
 }
 
-/// Tells whether p lies on the edge from a to b and, if so, gives the point of the edge that
+/// True if p lies on the edge from a to b and, if so, gives the point of the edge that
 /// stands for it: an end, or the foot on the line. `on_edge` is written only then.
 bool find_on_edge(const ox_3dvector& p, const ox_3dvector& a, const ox_3dvector& b, float tolerance,
                   ox_3dvector& on_edge) {

@@ -1,7 +1,8 @@
 // Lambert-93 (IGN, note NTG 71: conformal conic projection) and metres on a local sphere.
 
-#include <cmath>
 #include <ox/ox_functions.h>
+
+#include <cmath>
 
 namespace ox {
 
@@ -65,7 +66,7 @@ ox_3dvector ox_longitude_latitude_to_meters(double& ref_longitude, double& ref_l
                                             double& longitude, double& latitude) {
     const double east = meters_per_degree_of_longitude(ref_latitude) * (longitude - ref_longitude);
     const double north = (latitude - ref_latitude) * meters_per_degree_of_latitude;
-    return ox_3dvector(static_cast<float>(east), static_cast<float>(north), 0.f);
+    return ox_3dvector(static_cast<float>(east), static_cast<float>(north), 0.0f);
 }
 
 void ox_meters_to_longitude_latitude(const ox_3dvector& offset, double& longitude,

@@ -1,12 +1,16 @@
 // The self-checks of the linear systems: random problems, solved and multiplied out again.
 
+#include <ox/ox_functions.h>
+
 #include <cmath>
+
 #include <ox/core/ox_random.h>
 #include <ox/geometry/internal/tolerances.h>
 #include <ox/internal/log_line.h>
-#include <ox/ox_functions.h>
 
 namespace ox {
+
+using namespace internal;
 
 namespace {
 
@@ -27,7 +31,7 @@ ox_list<float> product(const ox_list<float>& a, const ox_list<float>& b, int col
     ox_list<float> result(order * columns);
     for (int r = 0; r < order; ++r) {
         for (int c = 0; c < columns; ++c) {
-            float sum = 0.f;
+            float sum = 0.0f;
             for (int k = 0; k < order; ++k) {
                 sum += a[r * order + k] * b[k * columns + c];
             }
@@ -93,7 +97,7 @@ bool check_solution(ox_random& random, int trial) {
 ox_list<float> identity_matrix() {
     ox_list<float> identity(order * order);
     for (int i = 0; i < order * order; ++i) {
-        identity[i] = i % (order + 1) == 0 ? 1.f : 0.f;
+        identity[i] = i % (order + 1) == 0 ? 1.0f : 0.0f;
     }
     return identity;
 }

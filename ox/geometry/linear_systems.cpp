@@ -1,13 +1,17 @@
 // Gaussian elimination with partial pivoting (row exchanges), in single precision.
 
+#include <ox/ox_functions.h>
+
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <ox/geometry/internal/tolerances.h>
-#include <ox/ox_functions.h>
 #include <utility>
 
+#include <ox/geometry/internal/tolerances.h>
+
 namespace ox {
+
+using namespace internal;
 
 namespace {
 
@@ -63,14 +67,14 @@ private:
 
     void clear_below(int k) {
         const float* const upper = a_row(k);
-        const float inverse = 1.f / upper[k];
+        const float inverse = 1.0f / upper[k];
         for (int r = k + 1; r < order; ++r) {
             float* const lower = a_row(r);
             const float factor = -lower[k] * inverse;
             for (int c = k + 1; c < order; ++c) {
                 lower[c] = factor * upper[c] + lower[c];
             }
-            lower[k] = 0.f;
+            lower[k] = 0.0f;
             add_multiple(factor, b_row(k), b_row(r));
         }
     }
@@ -86,7 +90,7 @@ private:
         for (int i = order - 1; i >= 0; --i) {
             const float* const upper = a_row(i);
             float* const x = b_row(i);
-            if (upper[i] == 0.f) {
+            if (upper[i] == 0.0f) {
                 return false;
             }
             for (int j = i + 1; j < order; ++j) {
@@ -112,10 +116,10 @@ std::int64_t square(int order) {
 ox_list<float> identity(int order) {
     ox_list<float> matrix(order * order);
     for (float& element : matrix) {
-        element = 0.f;
+        element = 0.0f;
     }
     for (int i = 0; i < order; ++i) {
-        matrix[i * order + i] = 1.f;
+        matrix[i * order + i] = 1.0f;
     }
     return matrix;
 }

@@ -79,19 +79,19 @@ void ox_matrix::translation(const ox_3dvector& t) {
 
 void ox_matrix::axis_transformation(const ox_3dvector& o, const ox_3dvector& x,
                                     const ox_3dvector& y, const ox_3dvector& z) {
-    const float values[16] = {x.x,           y.x,           z.x,           0.f,  // image of +x
-                              x.y,           y.y,           z.y,           0.f,  // image of +y
-                              x.z,           y.z,           z.z,           0.f,  // image of +z
-                              -ox_dot(o, x), -ox_dot(o, y), -ox_dot(o, z), 1.f}; // of the origin
+    const float values[16] = {x.x,           y.x,           z.x,           0.0f,  // image of +x
+                              x.y,           y.y,           z.y,           0.0f,  // image of +y
+                              x.z,           y.z,           z.z,           0.0f,  // image of +z
+                              -ox_dot(o, x), -ox_dot(o, y), -ox_dot(o, z), 1.0f}; // of the origin
     load_from_float(values);
 }
 
 void ox_matrix::inv_axis_transformation(const ox_3dvector& o, const ox_3dvector& x,
                                         const ox_3dvector& y, const ox_3dvector& z) {
-    const float values[16] = {x.x, x.y, x.z, 0.f,  // image of +x
-                              y.x, y.y, y.z, 0.f,  // image of +y
-                              z.x, z.y, z.z, 0.f,  // image of +z
-                              o.x, o.y, o.z, 1.f}; // image of the origin
+    const float values[16] = {x.x, x.y, x.z, 0.0f,  // image of +x
+                              y.x, y.y, y.z, 0.0f,  // image of +y
+                              z.x, z.y, z.z, 0.0f,  // image of +z
+                              o.x, o.y, o.z, 1.0f}; // image of the origin
     load_from_float(values);
 }
 
@@ -99,7 +99,7 @@ ox_matrix& ox_matrix::operator*=(const ox_matrix& b) {
     ox_matrix product;
     for (int column = 0; column < 4; ++column) {
         for (int row = 0; row < 4; ++row) {
-            float sum = 0.f;
+            float sum = 0.0f;
             for (int k = 0; k < 4; ++k) {
                 sum += m[4 * k + row] * b.m[4 * column + k];
             }
@@ -169,7 +169,7 @@ float cofactor(const float* m, int row, int column) {
     const float* a = m + 4 * others[column][0];
     const float* b = m + 4 * others[column][1];
     const float* c = m + 4 * others[column][2];
-    const float sign = (row + column) % 2 == 0 ? 1.f : -1.f;
+    const float sign = (row + column) % 2 == 0 ? 1.0f : -1.0f;
     const int i = rows[0];
     const int j = rows[1];
     const int k = rows[2];
@@ -198,6 +198,19 @@ bool ox_matrix::reverse(ox_matrix& out) const {
         out.m[i] = static_cast<float>(adjugate[i] * factor);
     }
     return true;
+}
+
+bool operator==(const ox_matrix& a, const ox_matrix& b) {
+    for (unsigned int i = 0; i < 16; ++i) {
+        if (!(a[i] == b[i])) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool operator!=(const ox_matrix& a, const ox_matrix& b) {
+    return !(a == b);
 }
 
 void ox_matrix::log() const {

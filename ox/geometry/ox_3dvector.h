@@ -2,6 +2,7 @@
 #define OX_GEOMETRY_OX_3DVECTOR_H
 
 #include <cmath>
+#include <iosfwd>
 #include <type_traits>
 
 #include <ox/core/ox_export.h>
@@ -17,6 +18,10 @@ namespace ox {
 /// taken in single precision, from left to right; square roots in double precision on the
 /// float sum, rounded back to float.
 ///
+/// The operations are inline, compiled with the flags of whoever includes this header. They give
+/// the stated bits only where products and sums are not fused into one rounding: with GCC and Clang
+/// under `-ffp-contract=off`, with MSVC under `/fp:strict`, as for the library itself.
+///
 /// Degenerate input:
 /// - the zero vector: `normalize` leaves it as it is and returns 0;
 /// - a vector whose sum of squares underflows (components below about 1e-23) counts as zero;
@@ -27,24 +32,24 @@ namespace ox {
 /// Every operation costs constant time and may be given this vector itself.
 ///
 /// \code
-///   ox::ox_3dvector axis(0.f, 0.f, 5.f), u, v;
+///   ox::ox_3dvector axis(0.0f, 0.0f, 5.0f), u, v;
 ///   axis.build_axis(u, v); // axis is now (0, 0, 1); (u, v, axis) is a right-handed frame
 ///   const bool same = ox::ox_cross(u, v) == axis;
 /// \endcode
 class ox_3dvector {
 public:
-    float x = 0.f;
-    float y = 0.f;
-    float z = 0.f;
+    float x = 0.0f; ///< model units
+    float y = 0.0f; ///< model units
+    float z = 0.0f; ///< model units
 
     /// The zero vector.
-    ox_3dvector() = default;
+    constexpr ox_3dvector() noexcept = default;
 
     /// The vector (vx, vy, vz).
-    ox_3dvector(float vx, float vy, float vz) : x(vx), y(vy), z(vz) {}
+    constexpr ox_3dvector(float vx, float vy, float vz) noexcept : x(vx), y(vy), z(vz) {}
 
     /// Reads three consecutive floats; a null pointer gives the zero vector.
-    ox_3dvector(const float* values) {
+    constexpr ox_3dvector(const float* values) noexcept {
         if (values != nullptr) {
             x = values[0];
             y = values[1];
@@ -52,17 +57,20 @@ public:
         }
     }
 
+    /// Not offered: a plain 0 would be a null pointer.
+    ox_3dvector(int) = delete;
+
     /// Component i: 0 = x, 1 = y, 2 = z. The index is not checked; a larger one means z.
-    float& operator[](unsigned int i) { return i == 0 ? x : (i == 1 ? y : z); }
+    constexpr float& operator[](unsigned int i) noexcept { return i == 0 ? x : (i == 1 ? y : z); }
 
     /// Value of component i: 0 = x, 1 = y, 2 = z. The index is not checked; a larger one means z.
-    float at(unsigned int i) const { return i == 0 ? x : (i == 1 ? y : z); }
+    constexpr float at(unsigned int i) const noexcept { return i == 0 ? x : (i == 1 ? y : z); }
 
     /// The opposite vector.
-    ox_3dvector operator-() const { return ox_3dvector(-x, -y, -z); }
+    constexpr ox_3dvector operator-() const noexcept { return ox_3dvector(-x, -y, -z); }
 
     /// Adds v in place.
-    ox_3dvector& operator+=(const ox_3dvector& v) {
+    constexpr ox_3dvector& operator+=(const ox_3dvector& v) noexcept {
         x += v.x;
         y += v.y;
         z += v.z;
@@ -70,7 +78,7 @@ public:
     }
 
     /// Subtracts v in place.
-    ox_3dvector& operator-=(const ox_3dvector& v) {
+    constexpr ox_3dvector& operator-=(const ox_3dvector& v) noexcept {
         x -= v.x;
         y -= v.y;
         z -= v.z;
@@ -78,7 +86,7 @@ public:
     }
 
     /// Multiplies component by component in place (not a dot product).
-    ox_3dvector& operator*=(const ox_3dvector& v) {
+    constexpr ox_3dvector& operator*=(const ox_3dvector& v) noexcept {
         x *= v.x;
         y *= v.y;
         z *= v.z;
@@ -86,7 +94,7 @@ public:
     }
 
     /// Divides component by component in place. A division by 0 is not guarded.
-    ox_3dvector& operator/=(const ox_3dvector& v) {
+    constexpr ox_3dvector& operator/=(const ox_3dvector& v) noexcept {
         x /= v.x;
         y /= v.y;
         z /= v.z;
@@ -94,7 +102,7 @@ public:
     }
 
     /// Multiplies every component by f in place.
-    ox_3dvector& operator*=(float f) {
+    constexpr ox_3dvector& operator*=(float f) noexcept {
         x *= f;
         y *= f;
         z *= f;
@@ -102,7 +110,7 @@ public:
     }
 
     /// Divides every component by f in place. A division by 0 is not guarded.
-    ox_3dvector& operator/=(float f) {
+    constexpr ox_3dvector& operator/=(float f) noexcept {
         x /= f;
         y /= f;
         z /= f;
@@ -110,26 +118,26 @@ public:
     }
 
     /// Euclidean length, in model units.
-    float size() const {
+    float size() const noexcept {
         const float square = x * x + y * y + z * z;
         return static_cast<float>(std::sqrt(static_cast<double>(square)));
     }
 
     /// Sum of the absolute components (Manhattan norm), in model units.
-    float manhattan_size() const { return std::fabs(x) + std::fabs(y) + std::fabs(z); }
+    float manhattan_size() const noexcept { return std::fabs(x) + std::fabs(y) + std::fabs(z); }
 
     /// Euclidean length of this vector minus v.
-    float distance_to(const ox_3dvector& v) const {
+    float distance_to(const ox_3dvector& v) const noexcept {
         return ox_3dvector(x - v.x, y - v.y, z - v.z).size();
     }
 
     /// Sum of the absolute component differences to v.
-    float manhattan_distance_to(const ox_3dvector& v) const {
+    float manhattan_distance_to(const ox_3dvector& v) const noexcept {
         return ox_3dvector(x - v.x, y - v.y, z - v.z).manhattan_size();
     }
 
     /// Squared Euclidean length of this vector minus v, without a root.
-    float square_distance_to(const ox_3dvector& v) const {
+    constexpr float square_distance_to(const ox_3dvector& v) const noexcept {
         const float dx = x - v.x;
         const float dy = y - v.y;
         const float dz = z - v.z;
@@ -138,17 +146,17 @@ public:
 
     /// Scales this vector to length 1 in place, by the float reciprocal of its length, and
     /// returns the length it had. A vector whose length is exactly 0 stays as it is.
-    float normalize() {
+    float normalize() noexcept {
         const float length = size();
-        if (length != 0.f) {
-            *this *= 1.f / length;
+        if (length != 0.0f) {
+            *this *= 1.0f / length;
         }
         return length;
     }
 
     /// Index of the component of largest magnitude: 0, 1 or 2. A tie gives the higher index,
     /// so the zero vector gives 2.
-    int main_axis() const {
+    int main_axis() const noexcept {
         const float ax = std::fabs(x);
         const float ay = std::fabs(y);
         const float az = std::fabs(z);
@@ -194,49 +202,52 @@ static_assert(std::is_standard_layout_v<ox_3dvector>, "can be read as an array o
 static_assert(std::is_trivially_copyable_v<ox_3dvector>, "a plain value");
 
 /// Sum of two vectors.
-inline ox_3dvector operator+(ox_3dvector a, const ox_3dvector& b) {
+constexpr ox_3dvector operator+(ox_3dvector a, const ox_3dvector& b) noexcept {
     return a += b;
 }
 
 /// Difference of two vectors.
-inline ox_3dvector operator-(ox_3dvector a, const ox_3dvector& b) {
+constexpr ox_3dvector operator-(ox_3dvector a, const ox_3dvector& b) noexcept {
     return a -= b;
 }
 
 /// The vector v scaled by f.
-inline ox_3dvector operator*(ox_3dvector v, float f) {
+constexpr ox_3dvector operator*(ox_3dvector v, float f) noexcept {
     return v *= f;
 }
 
 /// The vector v scaled by f.
-inline ox_3dvector operator*(float f, ox_3dvector v) {
+constexpr ox_3dvector operator*(float f, ox_3dvector v) noexcept {
     return v *= f;
 }
 
 /// The vector v with each component divided by f. A division by 0 is not guarded.
-inline ox_3dvector operator/(ox_3dvector v, float f) {
+constexpr ox_3dvector operator/(ox_3dvector v, float f) noexcept {
     return v /= f;
 }
 
 /// True if all components are equal, without a tolerance (so a NaN equals nothing).
-inline bool operator==(const ox_3dvector& a, const ox_3dvector& b) {
+constexpr bool operator==(const ox_3dvector& a, const ox_3dvector& b) noexcept {
     return a.x == b.x && a.y == b.y && a.z == b.z;
 }
 
 /// True if a component differs, without a tolerance.
-inline bool operator!=(const ox_3dvector& a, const ox_3dvector& b) {
+constexpr bool operator!=(const ox_3dvector& a, const ox_3dvector& b) noexcept {
     return !(a == b);
 }
 
 /// Dot product a.x b.x + a.y b.y + a.z b.z.
-inline float ox_dot(const ox_3dvector& a, const ox_3dvector& b) {
+constexpr float ox_dot(const ox_3dvector& a, const ox_3dvector& b) noexcept {
     return a.x * b.x + a.y * b.y + a.z * b.z;
 }
 
 /// Cross product: perpendicular to a and b, right-handed.
-inline ox_3dvector ox_cross(const ox_3dvector& a, const ox_3dvector& b) {
+constexpr ox_3dvector ox_cross(const ox_3dvector& a, const ox_3dvector& b) noexcept {
     return ox_3dvector(a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x);
 }
+
+/// Writes v as "(x, y, z)", each number as the stream is set to write floats.
+OX_EXPORT std::ostream& operator<<(std::ostream& out, const ox_3dvector& v);
 
 } // namespace ox
 

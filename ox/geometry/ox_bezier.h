@@ -2,6 +2,7 @@
 #define OX_GEOMETRY_OX_BEZIER_H
 
 #include <memory>
+
 #include <ox/core/ox_export.h>
 
 namespace ox {
@@ -40,6 +41,7 @@ public:
     /// Shares the arrays of `other`.
     ox_bezier& operator=(const ox_bezier& other);
 
+    /// Lets go of the arrays.
     virtual ~ox_bezier();
 
     /// Writes the n weights at the parameter t into `out`, or into the object's own buffer when it

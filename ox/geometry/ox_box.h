@@ -1,6 +1,7 @@
 #ifndef OX_GEOMETRY_OX_BOX_H
 #define OX_GEOMETRY_OX_BOX_H
 
+#include <iosfwd>
 #include <type_traits>
 
 #include <ox/core/ox_export.h>
@@ -26,23 +27,23 @@ namespace ox {
 ///
 /// \code
 ///   ox::ox_box box;
-///   box.enlarge(ox::ox_3dvector(0.f, 0.f, 0.f));
-///   box.enlarge(ox::ox_3dvector(1.f, 2.f, 3.f));
-///   const bool inside = box.contains(ox::ox_3dvector(1.f, 1.f, 1.f)); // true
+///   box.enlarge(ox::ox_3dvector(0.0f, 0.0f, 0.0f));
+///   box.enlarge(ox::ox_3dvector(1.0f, 2.0f, 3.0f));
+///   const bool inside = box.contains(ox::ox_3dvector(1.0f, 1.0f, 1.0f)); // true
 /// \endcode
 class ox_box {
 public:
-    ox_3dvector origin;
-    ox_3dvector size = ox_3dvector(-1.f, 0.f, 0.f);
+    ox_3dvector origin;                                ///< the minimum corner (model units)
+    ox_3dvector size = ox_3dvector(-1.0f, 0.0f, 0.0f); ///< the extent along each axis (model units)
 
     /// The empty box: origin (0, 0, 0), size (-1, 0, 0).
-    ox_box() = default;
+    constexpr ox_box() noexcept = default;
 
     /// Makes this box empty again.
-    void clear() { *this = ox_box(); }
+    constexpr void clear() noexcept { *this = ox_box(); }
 
     /// True if the box holds no point, that is, if `size.x` is negative.
-    bool is_empty() const { return size.x < 0.f; }
+    constexpr bool is_empty() const noexcept { return size.x < 0.0f; }
 
     /// Grows the box to include p.
     OX_EXPORT void enlarge(const ox_3dvector& p);
@@ -68,6 +69,20 @@ public:
 static_assert(sizeof(ox_box) == 24, "six packed floats");
 static_assert(std::is_standard_layout_v<ox_box>, "can be read as an array of floats");
 static_assert(std::is_trivially_copyable_v<ox_box>, "a plain value");
+
+/// True if origin and size are equal, without a tolerance (so a NaN equals nothing). Two empty
+/// boxes need not be.
+constexpr bool operator==(const ox_box& a, const ox_box& b) noexcept {
+    return a.origin == b.origin && a.size == b.size;
+}
+
+/// True if origin or size differ, without a tolerance.
+constexpr bool operator!=(const ox_box& a, const ox_box& b) noexcept {
+    return !(a == b);
+}
+
+/// Writes b as "[origin + size]", each vector as "(x, y, z)".
+OX_EXPORT std::ostream& operator<<(std::ostream& out, const ox_box& b);
 
 } // namespace ox
 

@@ -2,6 +2,7 @@
 #define OX_GEOMETRY_OX_BSPLINE_H
 
 #include <memory>
+
 #include <ox/core/ox_export.h>
 
 namespace ox {
@@ -38,6 +39,7 @@ public:
     /// Shares the arrays of `other`.
     ox_bspline& operator=(const ox_bspline& other);
 
+    /// Lets go of the arrays.
     virtual ~ox_bspline();
 
     /// Writes the m - p weights at the parameter t into `out`, or into the object's own buffer when

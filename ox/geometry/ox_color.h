@@ -1,6 +1,7 @@
 #ifndef OX_GEOMETRY_OX_COLOR_H
 #define OX_GEOMETRY_OX_COLOR_H
 
+#include <iosfwd>
 #include <string>
 #include <type_traits>
 
@@ -31,25 +32,25 @@ namespace ox {
 /// \endcode
 class ox_color {
 public:
-    float r = 0.f;
-    float g = 0.f;
-    float b = 0.f;
-    float a = 1.f;
+    float r = 0.0f; ///< red
+    float g = 0.0f; ///< green
+    float b = 0.0f; ///< blue
+    float a = 1.0f; ///< opacity
 
     /// Opaque black.
-    ox_color() = default;
+    constexpr ox_color() noexcept = default;
 
     /// An opaque grey.
-    ox_color(float v) : r(v), g(v), b(v) {}
+    constexpr ox_color(float v) noexcept : r(v), g(v), b(v) {}
 
     /// A grey with the opacity `alpha`.
-    ox_color(float v, float alpha) : r(v), g(v), b(v), a(alpha) {}
+    constexpr ox_color(float v, float alpha) noexcept : r(v), g(v), b(v), a(alpha) {}
 
     /// An opaque colour.
-    ox_color(float red, float green, float blue) : r(red), g(green), b(blue) {}
+    constexpr ox_color(float red, float green, float blue) noexcept : r(red), g(green), b(blue) {}
 
     /// A colour with the opacity `alpha`.
-    ox_color(float red, float green, float blue, float alpha)
+    constexpr ox_color(float red, float green, float blue, float alpha) noexcept
         : r(red), g(green), b(blue), a(alpha) {}
 
     /// Reads r, g, b, a from four consecutive floats; a null pointer gives opaque black.
@@ -63,7 +64,9 @@ public:
     OX_EXPORT ox_color(const std::string& text);
 
     /// Component i: 0 = r, 1 = g, 2 = b, 3 = a. The index is not checked; a larger one means a.
-    float& operator[](unsigned int i) { return i == 0 ? r : (i == 1 ? g : (i == 2 ? b : a)); }
+    constexpr float& operator[](unsigned int i) noexcept {
+        return i == 0 ? r : (i == 1 ? g : (i == 2 ? b : a));
+    }
 
     /// Multiplies component by component in place, alpha included.
     OX_EXPORT ox_color& operator*=(const ox_color& c);
@@ -109,6 +112,19 @@ public:
 static_assert(sizeof(ox_color) == 16, "four packed floats");
 static_assert(std::is_standard_layout_v<ox_color>, "can be read as an array of floats");
 static_assert(std::is_trivially_copyable_v<ox_color>, "a plain value");
+
+/// True if all components are equal, without a tolerance (so a NaN equals nothing).
+constexpr bool operator==(const ox_color& c, const ox_color& d) noexcept {
+    return c.r == d.r && c.g == d.g && c.b == d.b && c.a == d.a;
+}
+
+/// True if a component differs, without a tolerance.
+constexpr bool operator!=(const ox_color& c, const ox_color& d) noexcept {
+    return !(c == d);
+}
+
+/// Writes c as "(r, g, b, a)", each number as the stream is set to write floats.
+OX_EXPORT std::ostream& operator<<(std::ostream& out, const ox_color& c);
 
 } // namespace ox
 

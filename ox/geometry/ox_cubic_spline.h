@@ -29,8 +29,8 @@ namespace ox {
 ///
 /// \code
 ///   ox::ox_list<ox::ox_2dvector> points;
-///   points.push_right(ox::ox_2dvector(0.f, 0.f));
-///   points.push_right(ox::ox_2dvector(1.f, 1.f));
+///   points.push_right(ox::ox_2dvector(0.0f, 0.0f));
+///   points.push_right(ox::ox_2dvector(1.0f, 1.0f));
 ///   ox::ox_cubic_spline spline(points);
 ///   const float y = spline.compute(0.25f); // 0.25
 /// \endcode
@@ -46,6 +46,13 @@ public:
     /// Becomes a deep copy of `other`.
     ox_cubic_spline& operator=(const ox_cubic_spline& other);
 
+    /// Takes the points of `other`, which becomes a spline without points. O(1).
+    ox_cubic_spline(ox_cubic_spline&& other) noexcept;
+
+    /// Takes the points of `other`, which becomes a spline without points. O(1).
+    ox_cubic_spline& operator=(ox_cubic_spline&& other) noexcept;
+
+    /// Deletes the copies of the points.
     virtual ~ox_cubic_spline();
 
     /// The value at x; beyond the ends that of the nearer end. An inner point belongs to the

@@ -1,6 +1,7 @@
 #ifndef OX_GEOMETRY_OX_MATRIX_H
 #define OX_GEOMETRY_OX_MATRIX_H
 
+#include <iosfwd>
 #include <type_traits>
 
 #include <ox/core/ox_export.h>
@@ -32,9 +33,9 @@ namespace ox {
 ///
 /// \code
 ///   ox::ox_matrix placement;
-///   placement.translate(ox::ox_3dvector(1.f, 2.f, 3.f));
+///   placement.translate(ox::ox_3dvector(1.0f, 2.0f, 3.0f));
 ///   placement.rotate(2, 1.5707964f); // turned about z first, then moved
-///   const ox::ox_3dvector p = placement.transform_point(ox::ox_3dvector(1.f, 0.f, 0.f));
+///   const ox::ox_3dvector p = placement.transform_point(ox::ox_3dvector(1.0f, 0.0f, 0.0f));
 /// \endcode
 class ox_matrix {
 public:
@@ -138,12 +139,23 @@ public:
     OX_EXPORT void log() const;
 
 private:
-    float m[16] = {1.f, 0.f, 0.f, 0.f, 0.f, 1.f, 0.f, 0.f, 0.f, 0.f, 1.f, 0.f, 0.f, 0.f, 0.f, 1.f};
+    float m[16] = {1.0f, 0.0f, 0.0f, 0.0f, 0.0f, 1.0f, 0.0f, 0.0f,
+                   0.0f, 0.0f, 1.0f, 0.0f, 0.0f, 0.0f, 0.0f, 1.0f};
 };
 
 static_assert(sizeof(ox_matrix) == 64, "sixteen packed floats");
 static_assert(std::is_standard_layout_v<ox_matrix>, "can be handed to the graphics pipeline");
 static_assert(std::is_trivially_copyable_v<ox_matrix>, "a plain value");
+
+/// True if all elements are equal, without a tolerance (so a NaN equals nothing).
+OX_EXPORT bool operator==(const ox_matrix& a, const ox_matrix& b);
+
+/// True if an element differs, without a tolerance.
+OX_EXPORT bool operator!=(const ox_matrix& a, const ox_matrix& b);
+
+/// Writes m row by row as "[a b c d; e f g h; ...]": the columns of the text are the images of the
+/// axes and the translation.
+OX_EXPORT std::ostream& operator<<(std::ostream& out, const ox_matrix& m);
 
 } // namespace ox
 

@@ -1,6 +1,7 @@
 #ifndef OX_GEOMETRY_OX_POLAR_H
 #define OX_GEOMETRY_OX_POLAR_H
 
+#include <iosfwd>
 #include <type_traits>
 
 #include <ox/core/ox_export.h>
@@ -23,30 +24,34 @@ namespace ox {
 ///   angles that may be NaN.
 ///
 /// \code
-///   const ox::ox_polar north(ox::ox_3dvector(0.f, 2.f, 0.f)); // radius 2, longitude pi/2
+///   const ox::ox_polar north(ox::ox_3dvector(0.0f, 2.0f, 0.0f)); // radius 2, longitude pi/2
 ///   const ox::ox_3dvector back = north.to_3dvector();
 /// \endcode
 class ox_polar {
 public:
-    float radius = 0.f;
-    float latitude = 0.f;
-    float longitude = 0.f;
+    float radius = 0.0f;    ///< distance from the origin (model units)
+    float latitude = 0.0f;  ///< elevation above the x-y plane (radians)
+    float longitude = 0.0f; ///< azimuth from +x toward +y (radians)
 
     /// The origin.
-    ox_polar() = default;
+    constexpr ox_polar() noexcept = default;
 
     /// The given radius (model units), latitude and longitude (radians).
-    ox_polar(float r, float la, float lo) : radius(r), latitude(la), longitude(lo) {}
+    constexpr ox_polar(float r, float la, float lo) noexcept
+        : radius(r), latitude(la), longitude(lo) {}
 
     /// Reads radius, latitude and longitude from three consecutive floats; a null pointer
     /// gives the origin.
-    ox_polar(const float* values) {
+    constexpr ox_polar(const float* values) noexcept {
         if (values != nullptr) {
             radius = values[0];
             latitude = values[1];
             longitude = values[2];
         }
     }
+
+    /// Not offered: a plain 0 would be a null pointer.
+    ox_polar(int) = delete;
 
     /// The spherical coordinates of p.
     OX_EXPORT ox_polar(const ox_3dvector& p);
@@ -58,6 +63,19 @@ public:
 static_assert(sizeof(ox_polar) == 12, "three packed floats");
 static_assert(std::is_standard_layout_v<ox_polar>, "can be read as an array of floats");
 static_assert(std::is_trivially_copyable_v<ox_polar>, "a plain value");
+
+/// True if all components are equal, without a tolerance (so a NaN equals nothing).
+constexpr bool operator==(const ox_polar& a, const ox_polar& b) noexcept {
+    return a.radius == b.radius && a.latitude == b.latitude && a.longitude == b.longitude;
+}
+
+/// True if a component differs, without a tolerance.
+constexpr bool operator!=(const ox_polar& a, const ox_polar& b) noexcept {
+    return !(a == b);
+}
+
+/// Writes v as "(radius, latitude, longitude)", each number as the stream is set to write floats.
+OX_EXPORT std::ostream& operator<<(std::ostream& out, const ox_polar& v);
 
 } // namespace ox
 

@@ -28,7 +28,7 @@ inline float rounded_asin(float sine) {
 }
 
 inline float to_degrees(float angle) {
-    return angle * 180.f / half_turn;
+    return angle * 180.0f / half_turn;
 }
 
 } // namespace ox

@@ -17,49 +17,49 @@ public:
     struct interval {
         float low;
         float high;
-        int index;      ///< 0 for the interval added first, 1 for the next, ...
-        float at = 0.f; ///< for the user: where along the line it is met
+        int index;       ///< 0 for the interval added first, 1 for the next, ...
+        float at = 0.0f; ///< for the user: where along the line it is met
     };
 
-    /// Adds an interval. One with an end that is not a number is never met.
+    /// Adds an interval. One with an end that is not a number is never active.
     void add(float low, float high) {
         const int index = added++;
         if (low <= high) {
-            waiting.push_back({low, high, index, 0.f});
+            pending.push_back({low, high, index, 0.0f});
         }
     }
 
     /// To be called after the last `add` and before the first move.
     void sort() {
-        std::stable_sort(waiting.begin(), waiting.end(),
+        std::stable_sort(pending.begin(), pending.end(),
                          [](const interval& a, const interval& b) { return a.low < b.low; });
     }
 
     /// The intervals that meet [low, high]. Neither end may be below that of the move before. They
     /// stay in the order in which the user leaves them; new ones come in at the end.
     std::vector<interval>& move_to(float low, float high) {
-        met.erase(std::remove_if(met.begin(), met.end(),
-                                 [low](const interval& i) { return i.high < low; }),
-                  met.end());
-        for (; next < waiting.size() && waiting[next].low <= high; ++next) {
-            if (waiting[next].high >= low) {
-                met.push_back(waiting[next]);
+        active.erase(std::remove_if(active.begin(), active.end(),
+                                    [low](const interval& i) { return i.high < low; }),
+                     active.end());
+        for (; next < pending.size() && pending[next].low <= high; ++next) {
+            if (pending[next].high >= low) {
+                active.push_back(pending[next]);
             }
         }
-        return met;
+        return active;
     }
 
     /// Orders what is met by `at`, equal ones by index: in linear time when they are nearly in that
     /// order already, as after a small move.
-    void order_met() {
-        std::size_t moves_left = moves_per_interval * met.size();
-        for (std::size_t i = 1; i < met.size(); ++i) {
-            if (!(met[i - 1].at < met[i].at) && precedes(met[i], met[i - 1])) {
+    void order_active() {
+        std::size_t moves_left = moves_per_interval * active.size();
+        for (std::size_t i = 1; i < active.size(); ++i) {
+            if (!(active[i - 1].at < active[i].at) && precedes(active[i], active[i - 1])) {
                 move_back(i, moves_left);
             }
         }
         if (moves_left == 0) {
-            std::sort(met.begin(), met.end(), precedes);
+            std::sort(active.begin(), active.end(), precedes);
         }
     }
 
@@ -73,18 +73,18 @@ private:
     /// Moves the interval at `place` to where it belongs among those before, or until no move is
     /// left.
     void move_back(std::size_t place, std::size_t& moves_left) {
-        const interval moved = met[place];
-        for (; place > 0 && moves_left > 0 && precedes(moved, met[place - 1]); --place) {
-            met[place] = met[place - 1];
+        const interval moved = active[place];
+        for (; place > 0 && moves_left > 0 && precedes(moved, active[place - 1]); --place) {
+            active[place] = active[place - 1];
             --moves_left;
         }
-        met[place] = moved;
+        active[place] = moved;
     }
 
     int added = 0;
-    std::vector<interval> waiting; ///< by ascending lower end, from `next` on
+    std::vector<interval> pending; ///< by ascending lower end, from `next` on
     std::size_t next = 0;
-    std::vector<interval> met;
+    std::vector<interval> active;
 };
 
 } // namespace ox

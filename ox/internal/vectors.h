@@ -8,13 +8,13 @@
 
 namespace ox {
 
-/// Whether no coordinate is infinite or NaN.
+/// True if no coordinate is infinite or NaN.
 inline bool is_finite(const ox_3dvector& v) {
     return std::isfinite(v.x) && std::isfinite(v.y) && std::isfinite(v.z);
 }
 
-/// Whether two vectors are the same bit for bit: unlike `==` it tells -0 from 0, and takes a
-/// number that is none for the same as itself.
+/// True if two vectors are the same bit for bit: unlike `==` it tells -0 from 0, and takes a NaN
+/// for the same as itself.
 inline bool have_same_bits(const ox_3dvector& a, const ox_3dvector& b) {
     static_assert(sizeof(ox_3dvector) == 3 * sizeof(float), "nothing but its coordinates");
     return std::memcmp(&a, &b, sizeof(ox_3dvector)) == 0;

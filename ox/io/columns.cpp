@@ -3,12 +3,15 @@
 #include <cstdlib>
 #include <limits>
 #include <new>
-#include <ox/internal/plain_numbers.h>
-#include <ox/io/internal/ox_csv_state.h>
 #include <string>
 #include <utility>
 
+#include <ox/internal/plain_numbers.h>
+#include <ox/io/internal/ox_csv_state.h>
+
 namespace ox {
+
+using namespace internal;
 
 namespace {
 
@@ -48,31 +51,31 @@ ox_csv_column make_column(const ox_list<std::string>& headers, const ox_list<Val
     for (const std::string& header : headers) {
         cells.add_line(header);
     }
-    const std::size_t nb_headers = cells.get_nb_lines();
+    const std::size_t header_count = cells.get_line_count();
     for (const Value& value : values) {
         cells.add_line(format(value));
     }
     ox_csv_column column;
     column.text = std::make_shared<const cell_text>(std::move(cells));
-    column.first_line = nb_headers;
-    for (std::size_t line = 0; line < nb_headers; ++line) {
+    column.first_line = header_count;
+    for (std::size_t line = 0; line < header_count; ++line) {
         column.headers.push_back(column.text->get_cell(line, 0));
     }
-    column.nb_headers = nb_headers;
-    column.nb_values = column.text->get_nb_lines() - nb_headers;
+    column.header_count = header_count;
+    column.value_count = column.text->get_line_count() - header_count;
     return column;
 }
 
 /// The number of cells as lists count them; more fail as their allocation would.
-int list_size(std::size_t nb_cells) {
-    if (nb_cells > static_cast<std::size_t>((std::numeric_limits<int>::max)())) {
+int list_size(std::size_t cell_count) {
+    if (cell_count > static_cast<std::size_t>((std::numeric_limits<int>::max)())) {
         throw std::bad_array_new_length();
     }
-    return static_cast<int>(nb_cells);
+    return static_cast<int>(cell_count);
 }
 
 ox_list<std::string> headers_of(const ox_csv_column& column) {
-    ox_list<std::string> list(list_size(column.nb_headers));
+    ox_list<std::string> list(list_size(column.header_count));
     std::copy(column.headers.begin(), column.headers.end(), list.begin());
     return list;
 }
@@ -124,10 +127,10 @@ bool ox_csv::get_column(int index, ox_list<std::string>& cells) {
         return false;
     }
     const ox_csv_column& column = state->columns[static_cast<std::size_t>(index)];
-    ox_list<std::string> found(list_size(column.nb_headers + column.nb_values));
+    ox_list<std::string> found(list_size(column.header_count + column.value_count));
     std::copy(column.headers.begin(), column.headers.end(), found.begin());
-    std::string* cell = found.begin() + column.nb_headers;
-    for (std::size_t row = 0; row < column.nb_values; ++row) {
+    std::string* cell = found.begin() + column.header_count;
+    for (std::size_t row = 0; row < column.value_count; ++row) {
         *cell++ = column.get_value(row);
     }
     cells = std::move(found);
@@ -139,9 +142,9 @@ bool ox_csv::get_column(int index, ox_list<std::string>& headers, ox_list<float>
         return false;
     }
     const ox_csv_column& column = state->columns[static_cast<std::size_t>(index)];
-    ox_list<float> found_values(list_size(column.nb_values));
+    ox_list<float> found_values(list_size(column.value_count));
     const plain_numbers with_a_point;
-    for (std::size_t row = 0; row < column.nb_values; ++row) {
+    for (std::size_t row = 0; row < column.value_count; ++row) {
         const std::string cell(column.get_value(row));
         found_values[static_cast<int>(row)] = static_cast<float>(std::atof(cell.c_str()));
     }

@@ -2,15 +2,28 @@
 
 namespace ox {
 
-ox_csv::ox_csv() : state(std::make_unique<oxp_csv_state>()) {}
+ox_csv::ox_csv() : state(std::make_unique<ox_csv_state>()) {}
 
-ox_csv::ox_csv(const ox_csv& other) : state(std::make_unique<oxp_csv_state>(*other.state)) {}
+ox_csv::ox_csv(const ox_csv& other) : state(std::make_unique<ox_csv_state>(*other.state)) {}
 
 ox_csv& ox_csv::operator=(const ox_csv& other) {
     if (this != &other) {
-        state = std::make_unique<oxp_csv_state>(*other.state);
+        state = std::make_unique<ox_csv_state>(*other.state);
     }
     return *this;
+}
+
+ox_csv::ox_csv(ox_csv&& other) : ox_csv() {
+    swap(other);
+}
+
+ox_csv& ox_csv::operator=(ox_csv&& other) noexcept {
+    swap(other);
+    return *this;
+}
+
+void ox_csv::swap(ox_csv& other) noexcept {
+    state.swap(other.state);
 }
 
 ox_csv::~ox_csv() = default;

@@ -2,14 +2,15 @@
 #define OX_IO_OX_CSV_H
 
 #include <memory>
+#include <string>
+
 #include <ox/core/ox_export.h>
 #include <ox/core/ox_list.h>
-#include <string>
 
 namespace ox {
 
 class ox_progress_manager;
-struct oxp_csv_state;
+struct ox_csv_state;
 
 /// A table of text cells in columns, read from and written as delimited text.
 ///
@@ -68,6 +69,16 @@ public:
     /// Becomes a deep copy of `other`.
     ox_csv& operator=(const ox_csv& other);
 
+    /// Takes the columns and settings of `other`, which becomes a new table.
+    ox_csv(ox_csv&& other);
+
+    /// Exchanges the contents with those of `other`. O(1).
+    ox_csv& operator=(ox_csv&& other) noexcept;
+
+    /// Exchanges the contents with those of `other`. O(1).
+    void swap(ox_csv& other) noexcept;
+
+    /// Deletes the columns; the progress manager is left alone.
     virtual ~ox_csv();
 
     // Reading
@@ -177,8 +188,13 @@ public:
     void set_progress_manager(ox_progress_manager* manager, double min, double max);
 
 private:
-    std::unique_ptr<oxp_csv_state> state;
+    std::unique_ptr<ox_csv_state> state;
 };
+
+/// Exchanges the contents of two tables. O(1).
+inline void swap(ox_csv& a, ox_csv& b) noexcept {
+    a.swap(b);
+}
 
 } // namespace ox
 

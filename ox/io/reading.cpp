@@ -1,56 +1,59 @@
 #include <cstdio>
 #include <filesystem>
 #include <memory>
-#include <ox/internal/open_path.h>
-#include <ox/io/internal/csv_detection.h>
-#include <ox/io/internal/ox_csv_state.h>
 #include <string>
 #include <system_error>
 #include <utility>
 
+#include <ox/internal/open_path.h>
+#include <ox/io/internal/csv_detection.h>
+#include <ox/io/internal/ox_csv_state.h>
+
 namespace ox {
+
+using namespace internal;
 
 namespace {
 
 /// Gives each column its header cells, which follow each other even where a line has none.
 void take_headers(std::vector<ox_csv_column>& columns, const cell_text& text,
-                  std::size_t nb_header_lines) {
-    for (std::size_t line = 0; line < nb_header_lines; ++line) {
-        for (std::size_t i = 0; i < text.get_nb_cells(line); ++i) {
+                  std::size_t header_line_count) {
+    for (std::size_t line = 0; line < header_line_count; ++line) {
+        for (std::size_t i = 0; i < text.get_cell_count(line); ++i) {
             columns[i].headers.push_back(text.get_cell(line, i));
         }
     }
     for (ox_csv_column& column : columns) {
-        column.nb_headers = column.headers.size();
+        column.header_count = column.headers.size();
     }
 }
 
 /// Each column ends at the last line that reaches into it: going up, every longer line ends more
 /// columns.
 void count_values(std::vector<ox_csv_column>& columns, const cell_text& text,
-                  std::size_t nb_header_lines) {
-    std::size_t nb_counted = 0;
-    for (std::size_t line = text.get_nb_lines(); line > nb_header_lines; --line) {
-        for (; nb_counted < text.get_nb_cells(line - 1); ++nb_counted) {
-            columns[nb_counted].nb_values = line - nb_header_lines;
+                  std::size_t header_line_count) {
+    std::size_t counted = 0;
+    for (std::size_t line = text.get_line_count(); line > header_line_count; --line) {
+        for (; counted < text.get_cell_count(line - 1); ++counted) {
+            columns[counted].value_count = line - header_line_count;
         }
     }
 }
 
 /// Replaces all columns by those of `text`, which the table keeps.
-void read_text(oxp_csv_state& state, std::string text) {
+void read_text(ox_csv_state& state, std::string text) {
     const separator_choice choice = choose_separator(text);
     const auto kept = std::make_shared<const cell_text>(std::move(text), choice.separator,
-                                                        choice.nb_cells, choice.nb_line_breaks);
-    const std::size_t nb_header_lines = count_header_lines(*kept, choice.nb_line_breaks);
-    std::vector<ox_csv_column> columns(kept->get_nb_columns());
+                                                        choice.cell_count, choice.line_break_count);
+    const std::size_t header_line_count = count_header_lines(*kept, choice.line_break_count);
+    std::vector<ox_csv_column> columns(kept->get_column_count());
     for (std::size_t i = 0; i < columns.size(); ++i) {
         columns[i].text = kept;
         columns[i].place = i;
-        columns[i].first_line = nb_header_lines;
+        columns[i].first_line = header_line_count;
     }
-    take_headers(columns, *kept, nb_header_lines);
-    count_values(columns, *kept, nb_header_lines);
+    take_headers(columns, *kept, header_line_count);
+    count_values(columns, *kept, header_line_count);
     state.columns = std::move(columns);
     state.column_separator = choice.separator;
 }

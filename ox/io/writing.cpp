@@ -1,13 +1,17 @@
+#include <ox/ox_functions.h>
+
 #include <algorithm>
 #include <cstddef>
+#include <string_view>
+
 #include <ox/core/ox_log.h>
 #include <ox/internal/open_path.h>
 #include <ox/io/internal/ox_csv_state.h>
-#include <ox/ox_functions.h>
 #include <ox/progress/ox_progress_manager.h>
-#include <string_view>
 
 namespace ox {
+
+using namespace internal;
 
 namespace {
 
@@ -20,12 +24,12 @@ struct table_height {
 table_height even_out(std::vector<ox_csv_column>& columns) {
     table_height height;
     for (const ox_csv_column& column : columns) {
-        height.headers = std::max(height.headers, column.nb_headers);
-        height.values = std::max(height.values, column.nb_values);
+        height.headers = std::max(height.headers, column.header_count);
+        height.values = std::max(height.values, column.value_count);
     }
     for (ox_csv_column& column : columns) {
-        column.nb_headers = height.headers;
-        column.nb_values = height.values;
+        column.header_count = height.headers;
+        column.value_count = height.values;
     }
     return height;
 }
@@ -45,9 +49,9 @@ std::size_t largest_text_size(const std::vector<ox_csv_column>& columns,
     return size;
 }
 
-void write_headers(const oxp_csv_state& state, std::size_t nb_rows, std::string& text) {
+void write_headers(const ox_csv_state& state, std::size_t row_count, std::string& text) {
     const bool to_ansi = state.encoding == ox_csv::encoding_ansi;
-    for (std::size_t row = 0; row < nb_rows; ++row) {
+    for (std::size_t row = 0; row < row_count; ++row) {
         for (std::size_t i = 0; i < state.columns.size(); ++i) {
             if (i > 0) {
                 text += state.column_separator;
@@ -66,8 +70,8 @@ public:
         : columns(table), separator(column_separator), joined(are_joined()) {}
 
     void write_row(std::string& text, std::size_t row) const {
-        const std::size_t nb_written = write_joined_cells(text, row);
-        for (std::size_t i = nb_written; i < columns.size(); ++i) {
+        const std::size_t written_count = write_joined_cells(text, row);
+        for (std::size_t i = written_count; i < columns.size(); ++i) {
             if (i > 0) {
                 text += separator;
             }
@@ -90,11 +94,11 @@ private:
         }
         const ox_csv_column& first = columns.front();
         const std::size_t line = first.first_line + row;
-        const std::size_t nb_cells = first.text->get_nb_cells(line);
-        if (nb_cells > 0) {
+        const std::size_t cell_count = first.text->get_cell_count(line);
+        if (cell_count > 0) {
             text += first.text->get_line(line);
         }
-        return nb_cells;
+        return cell_count;
     }
 
     const std::vector<ox_csv_column>& columns;
@@ -103,11 +107,11 @@ private:
 };
 
 /// False when the progress manager asks to stop.
-bool write_values(const oxp_csv_state& state, std::size_t nb_rows, std::string& text) {
+bool write_values(const ox_csv_state& state, std::size_t row_count, std::string& text) {
     const row_writer rows(state.columns, state.column_separator);
     const double share = state.progress_max - state.progress_min;
-    const double step = nb_rows > 0 ? share / static_cast<double>(nb_rows) : 0.0;
-    for (std::size_t row = 0; row < nb_rows; ++row) {
+    const double step = row_count > 0 ? share / static_cast<double>(row_count) : 0.0;
+    for (std::size_t row = 0; row < row_count; ++row) {
         rows.write_row(text, row);
         const double reached = state.progress_min + static_cast<double>(row) * step;
         if (state.manager != nullptr && !state.manager->set_progress(reached)) {

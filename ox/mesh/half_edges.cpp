@@ -11,13 +11,15 @@
 
 namespace ox {
 
+using namespace internal;
+
 namespace {
 
 using half_edge = ox_mesh::ox_half_edge;
 
 /// Half-edges in one array.
 struct half_edge_array {
-    oxp_large_array<half_edge> items;
+    large_array<half_edge> items;
     std::uint32_t count = 0;
 };
 
@@ -40,7 +42,7 @@ half_edge_array sides_of(const ox_list<unsigned int>& triangles) {
         static_cast<std::uint32_t>(std::max(triangles.size(), 0)) / 3;
     half_edge_array sides;
     sides.count = 3 * nb_triangles;
-    sides.items = oxp_make_large_array<half_edge>(sides.count);
+    sides.items = make_large_array<half_edge>(sides.count);
     const unsigned int* corners = triangles.get_data();
     half_edge* side = sides.items.get();
     for (std::uint32_t triangle = 0; triangle < nb_triangles; ++triangle, corners += 3) {
@@ -55,7 +57,7 @@ half_edge_array sides_of(const ox_list<unsigned int>& triangles) {
 ox_list<half_edge*> list_of(const half_edge_array& sides) {
     const int count = static_cast<int>(sides.count);
     ox_list<half_edge*> list(count);
-    oxp_prefer_large_pages(list.get_data(), sides.count * sizeof(half_edge*));
+    prefer_large_pages(list.get_data(), sides.count * sizeof(half_edge*));
     for (int i = 0; i < count; ++i) {
         list[i] = &sides.items[static_cast<std::size_t>(i)];
     }
@@ -65,14 +67,14 @@ ox_list<half_edge*> list_of(const half_edge_array& sides) {
 /// Links each side to the first one that runs the other way; tells whether all found one.
 bool link_opposites(half_edge_array& sides, std::uint32_t nb_vertices) {
     const half_edge* const items = sides.items.get();
-    const oxp_side_index index(sides.count, nb_vertices, [=](std::uint32_t i) {
-        return oxp_side{items[i].start, items[i].end};
+    const side_index index(sides.count, nb_vertices, [=](std::uint32_t i) {
+        return side{items[i].start, items[i].end};
     });
     bool closed = true;
     for (std::uint32_t i = 0; i < sides.count; ++i) {
         half_edge& side = sides.items[i];
         const std::uint32_t opposite = index.first({side.end, side.start});
-        if (opposite == oxp_side_index::none) {
+        if (opposite == side_index::none) {
             closed = false;
         } else {
             side.opposite = &sides.items[opposite];

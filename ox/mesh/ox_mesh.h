@@ -85,7 +85,7 @@ public:
     /// triangles and vertices, k triangles at a vertex.
     void build_half_edges();
 
-    /// Tells whether every half-edge of the last build has an opposite; false before the first one.
+    /// True if every half-edge of the last build has an opposite; false before the first one.
     bool is_closed() const;
 
 private:

@@ -10,7 +10,9 @@
 
 namespace ox {
 
-class oxp_mesh_file;
+namespace internal {
+class mesh_file;
+}
 
 /// A plain indexed triangle mesh: an array of vertices and an array of three vertex indices per
 /// triangle, read from and written to files, welded and refined.
@@ -37,7 +39,7 @@ class oxp_mesh_file;
 /// \code
 ///   ox::ox_triangle_set set;
 ///   if (set.read_binary_stl("part.stl")) {
-///       set.optimize(0.001f, 10.f); // one vertex for each place
+///       set.optimize(0.001f, 10.0f); // one vertex for each place
 ///       set.write_binary_raw("part.raw");
 ///   }
 /// \endcode
@@ -54,6 +56,15 @@ public:
 
     /// Lets go of the arrays and shares those of `other`. O(1).
     ox_triangle_set& operator=(const ox_triangle_set& other);
+
+    /// Takes the arrays of `other`, which becomes empty. O(1).
+    ox_triangle_set(ox_triangle_set&& other) noexcept;
+
+    /// Exchanges the arrays with those of `other`. O(1).
+    ox_triangle_set& operator=(ox_triangle_set&& other) noexcept;
+
+    /// Exchanges the arrays with those of `other`. O(1).
+    void swap(ox_triangle_set& other) noexcept;
 
     /// Lets go of both arrays.
     virtual ~ox_triangle_set();
@@ -133,10 +144,11 @@ public:
 
 private:
     void allocate_uninitialised(unsigned int nb_vertices, unsigned int nb_triangles);
-    bool read_raw_arrays(oxp_mesh_file& file, unsigned int new_nb_vertices,
+    bool read_raw_arrays(internal::mesh_file& file, unsigned int new_nb_vertices,
                          unsigned int new_nb_triangles);
-    bool read_stl_records(oxp_mesh_file& file, unsigned int nb_records, std::uint64_t& nb_read);
-    bool has_valid_triangles() const; // logs when it is false
+    bool read_stl_records(internal::mesh_file& file, unsigned int record_count,
+                          std::uint64_t& read_count);
+    bool has_valid_triangles() const; ///< logs when it is false
     void replace_vertices(const ox_list<ox_3dvector>& replacements);
 
     unsigned int nb_vertices = 0;
@@ -144,6 +156,11 @@ private:
     unsigned int nb_triangles = 0;
     std::shared_ptr<unsigned int[]> triangles;
 };
+
+/// Exchanges the arrays of two sets. O(1).
+inline void swap(ox_triangle_set& a, ox_triangle_set& b) noexcept {
+    a.swap(b);
+}
 
 } // namespace ox
 

@@ -4,9 +4,11 @@
 #include <cstring>
 
 #include <ox/internal/log_line.h>
-#include <ox/mesh/internal/mesh_file.h>
+#include <ox/mesh/internal/files/mesh_file.h>
 
 namespace ox {
+
+using namespace internal;
 
 namespace {
 
@@ -16,7 +18,7 @@ constexpr std::uint64_t bytes_per_vertex = 12;
 constexpr std::uint64_t bytes_per_triangle = 12;
 static_assert(sizeof(ox_3dvector) == bytes_per_vertex, "vertices are stored as they lie");
 
-bool read_magic(oxp_mesh_file& file) {
+bool read_magic(mesh_file& file) {
     char found[sizeof magic];
     return file.read(found, sizeof found) && std::memcmp(found, magic, sizeof magic) == 0;
 }
@@ -30,7 +32,7 @@ void log_counts(unsigned int nb_vertices, unsigned int nb_triangles) {
 
 bool ox_triangle_set::write_binary_raw(const char* path) {
     ox_log_thread_safe("writing binary_raw...");
-    oxp_mesh_file file(path, "wb");
+    mesh_file file(path, "wb");
     if (!file.is_open()) {
         return false;
     }
@@ -54,7 +56,7 @@ bool ox_triangle_set::write_binary_raw(const char* path) {
 
 bool ox_triangle_set::read_binary_raw(const char* path) {
     ox_log_thread_safe("reading binary_raw...");
-    oxp_mesh_file file(path, "rb");
+    mesh_file file(path, "rb");
     if (!file.is_open()) {
         return false;
     }
@@ -76,7 +78,7 @@ bool ox_triangle_set::read_binary_raw(const char* path) {
     return true;
 }
 
-bool ox_triangle_set::read_raw_arrays(oxp_mesh_file& file, unsigned int new_nb_vertices,
+bool ox_triangle_set::read_raw_arrays(mesh_file& file, unsigned int new_nb_vertices,
                                       unsigned int new_nb_triangles) {
     const std::uint64_t vertex_bytes = new_nb_vertices * bytes_per_vertex;
     const std::uint64_t triangle_bytes = new_nb_triangles * bytes_per_triangle;

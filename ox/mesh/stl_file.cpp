@@ -7,9 +7,11 @@
 #include <vector>
 
 #include <ox/internal/log_line.h>
-#include <ox/mesh/internal/mesh_file.h>
+#include <ox/mesh/internal/files/mesh_file.h>
 
 namespace ox {
+
+using namespace internal;
 
 namespace {
 
@@ -32,11 +34,11 @@ void log_number(const char* format, std::uint64_t number) {
     log_line(format, static_cast<int>(static_cast<std::uint32_t>(number)));
 }
 
-/// Reads `nb_records` records into three vertices each; false at the first block cut short.
-bool read_corners(oxp_mesh_file& file, std::size_t nb_records, ox_3dvector* vertices) {
-    std::vector<unsigned char> block(std::min(nb_records, block_records) * record_bytes);
-    while (nb_records > 0) {
-        const std::size_t in_block = std::min(nb_records, block_records);
+/// Reads `record_count` records into three vertices each; false at the first block cut short.
+bool read_corners(mesh_file& file, std::size_t record_count, ox_3dvector* vertices) {
+    std::vector<unsigned char> block(std::min(record_count, block_records) * record_bytes);
+    while (record_count > 0) {
+        const std::size_t in_block = std::min(record_count, block_records);
         if (!file.read(block.data(), in_block * record_bytes)) {
             return false;
         }
@@ -44,7 +46,7 @@ bool read_corners(oxp_mesh_file& file, std::size_t nb_records, ox_3dvector* vert
             std::memcpy(static_cast<void*>(vertices),
                         block.data() + i * record_bytes + corners_offset, corners_bytes);
         }
-        nb_records -= in_block;
+        record_count -= in_block;
     }
     return true;
 }
@@ -53,7 +55,7 @@ bool read_corners(oxp_mesh_file& file, std::size_t nb_records, ox_3dvector* vert
 
 bool ox_triangle_set::read_binary_stl(const char* path) {
     ox_log_thread_safe("reading stl...");
-    oxp_mesh_file file(path, "rb");
+    mesh_file file(path, "rb");
     if (!file.is_open()) {
         return false;
     }
@@ -63,34 +65,34 @@ bool ox_triangle_set::read_binary_stl(const char* path) {
         return false;
     }
     ox_log_thread_safe("header ok");
-    std::uint32_t nb_records = 0;
-    if (!file.read(&nb_records, sizeof nb_records)) {
+    std::uint32_t record_count = 0;
+    if (!file.read(&record_count, sizeof record_count)) {
         return false;
     }
     ox_log_thread_safe("nb of triangles ok");
-    log_number("reading %d triangles...", nb_records);
+    log_number("reading %d triangles...", record_count);
     log_number("triangle size : %d bytes.", logged_triangle_size);
-    std::uint64_t nb_read = 0;
-    if (!read_stl_records(file, nb_records, nb_read)) {
+    std::uint64_t read_count = 0;
+    if (!read_stl_records(file, record_count, read_count)) {
         allocate(0, 0);
-        log_number("%d read triangles...", nb_read);
+        log_number("%d read triangles...", read_count);
         return false;
     }
     return true;
 }
 
-bool ox_triangle_set::read_stl_records(oxp_mesh_file& file, unsigned int nb_records,
-                                       std::uint64_t& nb_read) {
-    const std::uint64_t new_nb_vertices = std::uint64_t{3} * nb_records;
+bool ox_triangle_set::read_stl_records(mesh_file& file, unsigned int record_count,
+                                       std::uint64_t& read_count) {
+    const std::uint64_t new_nb_vertices = std::uint64_t{3} * record_count;
     const std::uint64_t bytes_held = file.remaining();
     if (new_nb_vertices > (std::numeric_limits<std::uint32_t>::max)() ||
-        record_bytes * nb_records > bytes_held) {
-        nb_read = std::min<std::uint64_t>(nb_records, bytes_held / record_bytes);
+        record_bytes * record_count > bytes_held) {
+        read_count = std::min<std::uint64_t>(record_count, bytes_held / record_bytes);
         return false;
     }
-    allocate_uninitialised(static_cast<unsigned int>(new_nb_vertices), nb_records);
-    const bool complete = read_corners(file, nb_records, vertices.get());
-    nb_read = (bytes_held - file.remaining()) / record_bytes;
+    allocate_uninitialised(static_cast<unsigned int>(new_nb_vertices), record_count);
+    const bool complete = read_corners(file, record_count, vertices.get());
+    read_count = (bytes_held - file.remaining()) / record_bytes;
     for (unsigned int i = 0; i < nb_vertices; ++i) {
         triangles[i] = i;
     }

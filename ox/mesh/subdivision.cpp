@@ -11,32 +11,34 @@
 
 namespace ox {
 
+using namespace internal;
+
 namespace {
 
 constexpr std::uint64_t max_count = (std::numeric_limits<std::uint32_t>::max)();
 
 /// The sides of a set of triangles, each once, in the order in which they are first met.
 struct numbered_sides {
-    oxp_large_array<std::uint32_t> side_of_corner; // of the side that leaves each corner
-    oxp_large_array<std::uint32_t> first_corner;   // the corner that each side was first met at
+    large_array<std::uint32_t> side_of_corner; // of the side that leaves each corner
+    large_array<std::uint32_t> first_corner;   // the corner that each side was first met at
     std::uint32_t count = 0;
 };
 
 /// The side that leaves a corner, from its smaller to its larger vertex index.
-oxp_side side_at(const unsigned int* triangles, std::size_t corner) {
+side side_at(const unsigned int* triangles, std::size_t corner) {
     const unsigned int start = triangles[corner];
     const unsigned int end = triangles[corner % 3 == 2 ? corner - 2 : corner + 1];
     return {std::min(start, end), std::max(start, end)};
 }
 
-numbered_sides number_sides(const unsigned int* triangles, std::uint32_t nb_corners,
+numbered_sides number_sides(const unsigned int* triangles, std::uint32_t corner_count,
                             std::uint32_t nb_vertices) {
-    const oxp_side_index index(nb_corners, nb_vertices,
-                               [=](std::uint32_t corner) { return side_at(triangles, corner); });
+    const side_index index(corner_count, nb_vertices,
+                           [=](std::uint32_t corner) { return side_at(triangles, corner); });
     numbered_sides sides;
-    sides.side_of_corner = oxp_make_large_array<std::uint32_t>(nb_corners);
-    sides.first_corner = oxp_make_large_array<std::uint32_t>(nb_corners);
-    for (std::uint32_t corner = 0; corner < nb_corners; ++corner) {
+    sides.side_of_corner = make_large_array<std::uint32_t>(corner_count);
+    sides.first_corner = make_large_array<std::uint32_t>(corner_count);
+    for (std::uint32_t corner = 0; corner < corner_count; ++corner) {
         const std::uint32_t first = index.first(side_at(triangles, corner));
         if (first == corner) {
             sides.first_corner[sides.count] = corner;
@@ -66,8 +68,8 @@ void ox_triangle_set::subdivide() {
         ox_log_thread_safe("too many triangles");
         return;
     }
-    const std::uint32_t nb_corners = 3 * nb_triangles;
-    const numbered_sides sides = number_sides(triangles.get(), nb_corners, nb_vertices);
+    const std::uint32_t corner_count = 3 * nb_triangles;
+    const numbered_sides sides = number_sides(triangles.get(), corner_count, nb_vertices);
     if (std::uint64_t{nb_vertices} + sides.count > max_count) {
         ox_log_thread_safe("too many triangles");
         return;
@@ -77,11 +79,11 @@ void ox_triangle_set::subdivide() {
     ox_3dvector* const middles =
         std::copy(vertices.get(), vertices.get() + nb_vertices, refined.vertices.get());
     for (std::uint32_t i = 0; i < sides.count; ++i) {
-        const oxp_side side = side_at(triangles.get(), sides.first_corner[i]);
+        const side side = side_at(triangles.get(), sides.first_corner[i]);
         middles[i] = (vertices[side.start] + vertices[side.end]) * 0.5f;
     }
     unsigned int* out = refined.triangles.get();
-    for (std::uint32_t first = 0; first < nb_corners; first += 3) {
+    for (std::uint32_t first = 0; first < corner_count; first += 3) {
         const std::uint32_t* const side = &sides.side_of_corner[first];
         const unsigned int m[3] = {nb_vertices + side[0], nb_vertices + side[1],
                                    nb_vertices + side[2]};

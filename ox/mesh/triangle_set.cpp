@@ -2,11 +2,14 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 #include <ox/core/ox_log.h>
 #include <ox/mesh/internal/large_array.h>
 
 namespace ox {
+
+using namespace internal;
 
 ox_triangle_set::ox_triangle_set() = default;
 
@@ -17,6 +20,22 @@ ox_triangle_set::ox_triangle_set(unsigned int new_nb_vertices, unsigned int new_
 ox_triangle_set::ox_triangle_set(const ox_triangle_set& other) = default;
 
 ox_triangle_set& ox_triangle_set::operator=(const ox_triangle_set& other) = default;
+
+ox_triangle_set::ox_triangle_set(ox_triangle_set&& other) noexcept {
+    swap(other);
+}
+
+ox_triangle_set& ox_triangle_set::operator=(ox_triangle_set&& other) noexcept {
+    swap(other);
+    return *this;
+}
+
+void ox_triangle_set::swap(ox_triangle_set& other) noexcept {
+    std::swap(nb_vertices, other.nb_vertices);
+    vertices.swap(other.vertices);
+    std::swap(nb_triangles, other.nb_triangles);
+    triangles.swap(other.triangles);
+}
 
 ox_triangle_set::~ox_triangle_set() = default;
 
@@ -32,11 +51,11 @@ void ox_triangle_set::allocate_uninitialised(unsigned int new_nb_vertices,
                                              unsigned int new_nb_triangles) {
     std::shared_ptr<ox_3dvector[]> new_vertices = vertices;
     if (new_nb_vertices != nb_vertices) {
-        new_vertices = oxp_make_large_array<ox_3dvector>(new_nb_vertices);
+        new_vertices = make_large_array<ox_3dvector>(new_nb_vertices);
     }
     std::shared_ptr<unsigned int[]> new_triangles = triangles;
     if (new_nb_triangles != nb_triangles) {
-        new_triangles = oxp_make_large_array<unsigned int>(std::size_t{3} * new_nb_triangles);
+        new_triangles = make_large_array<unsigned int>(std::size_t{3} * new_nb_triangles);
     }
     nb_vertices = new_nb_vertices;
     vertices.swap(new_vertices);

@@ -7,10 +7,12 @@
 
 #include <ox/mesh/internal/large_array.h>
 #include <ox/mesh/internal/tolerances.h>
-#include <ox/mesh/internal/vertex_welder.h>
-#include <ox/mesh/internal/welded_leaves.h>
+#include <ox/mesh/internal/welding/vertex_welder.h>
+#include <ox/mesh/internal/welding/welded_leaves.h>
 
 namespace ox {
+
+using namespace internal;
 
 namespace {
 
@@ -25,11 +27,11 @@ class ox_vertex_optimizer_state {
 public:
     ox_vertex_optimizer_state(float position_tolerance, float normal_tolerance)
         : welder(position_tolerance, normal_tolerance,
-                 oxp_welded_leaves(leaf_size_for(position_tolerance))) {
+                 welded_leaves(leaf_size_for(position_tolerance))) {
         welder.keep_normals();
     }
 
-    oxp_vertex_welder welder;
+    vertex_welder welder;
     ox_list<unsigned int> mapping;
 };
 
@@ -48,8 +50,8 @@ void make_room(ox_list<unsigned int>& list, int count) {
         list.set_size(
             std::max(size + count, capacity + std::min(capacity / 2, largest - capacity)));
         list.set_size(size);
-        oxp_prefer_large_pages(list.get_data() + size,
-                               sizeof(unsigned int) * static_cast<std::size_t>(count));
+        prefer_large_pages(list.get_data() + size,
+                           sizeof(unsigned int) * static_cast<std::size_t>(count));
     }
 }
 
@@ -73,20 +75,20 @@ void ox_vertex_optimizer::add_vertices(const ox_list<ox_3dvector>& vertices,
     // Both arguments may lie in the lists that grow below.
     const int nb_vertices = std::max(vertices.size(), 0);
     const ox_3dvector n = normal;
-    oxp_vertex_welder& welder = state->welder;
+    vertex_welder& welder = state->welder;
     ox_list<unsigned int>& mapping = state->mapping;
     make_room(mapping, nb_vertices);
     welder.expect(static_cast<std::size_t>(nb_vertices));
-    oxp_vertex_welder::candidate block[welding_block];
+    vertex_welder::candidate block[welding_block];
     for (int first = 0; first < nb_vertices; first += static_cast<int>(welding_block)) {
         const int count = std::min(static_cast<int>(welding_block), nb_vertices - first);
         for (int i = 0; i < count; ++i) {
             const ox_3dvector& p = vertices.at(first + i);
             block[i] = {p, n, welder.cell_of(p)};
         }
-        const int nb_before = mapping.size();
-        welder.weld(block, static_cast<std::size_t>(count), mapping.get_data() + nb_before);
-        mapping.set_size(nb_before + count);
+        const int count_before = mapping.size();
+        welder.weld(block, static_cast<std::size_t>(count), mapping.get_data() + count_before);
+        mapping.set_size(count_before + count);
     }
 }
 

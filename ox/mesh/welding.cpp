@@ -6,17 +6,19 @@
 #include <ox/core/ox_log.h>
 #include <ox/mesh/internal/large_array.h>
 #include <ox/mesh/internal/tolerances.h>
-#include <ox/mesh/internal/vertex_octree.h>
-#include <ox/mesh/internal/vertex_welder.h>
-#include <ox/mesh/internal/welded_leaves.h>
+#include <ox/mesh/internal/welding/vertex_octree.h>
+#include <ox/mesh/internal/welding/vertex_welder.h>
+#include <ox/mesh/internal/welding/welded_leaves.h>
 
 namespace ox {
 
+using namespace internal;
+
 namespace {
 
-/// Tells whether a cell contains all of some vertices. The bounds of four vertices are laid out as
+/// True if a cell contains all of some vertices. The bounds of four vertices are laid out as
 /// their coordinates are: in that form a processor compares several at once.
-bool contains_all(const oxp_octree_cell& cell, const ox_3dvector* vertices, std::size_t count) {
+bool contains_all(const octree_cell& cell, const ox_3dvector* vertices, std::size_t count) {
     constexpr std::size_t lanes = 12;
     const ox_3dvector o = cell.origin;
     const float low[lanes] = {o.x, o.y, o.z, o.x, o.y, o.z, o.x, o.y, o.z, o.x, o.y, o.z};
@@ -37,12 +39,12 @@ bool contains_all(const oxp_octree_cell& cell, const ox_3dvector* vertices, std:
 }
 
 /// Grows the root over some vertices in order; false when that takes too many doublings, which are
-/// counted on from `nb_doublings`.
-bool grow_over(oxp_vertex_octree& octree, const ox_3dvector* vertices, std::size_t count,
-               int& nb_doublings) {
+/// counted on from `doubling_count`.
+bool grow_over(vertex_octree& octree, const ox_3dvector* vertices, std::size_t count,
+               int& doubling_count) {
     for (std::size_t i = 0; i < count; ++i) {
         while (!octree.contains(vertices[i])) {
-            if (++nb_doublings > max_root_doublings) {
+            if (++doubling_count > max_root_doublings) {
                 return false;
             }
             octree.grow_towards(vertices[i]);
@@ -52,13 +54,12 @@ bool grow_over(oxp_vertex_octree& octree, const ox_3dvector* vertices, std::size
 }
 
 /// Grows the root over all vertices in order; false when that takes too many doublings.
-bool grow_over_all(oxp_vertex_octree& octree, const ox_3dvector* vertices,
-                   std::size_t nb_vertices) {
-    int nb_doublings = 0;
+bool grow_over_all(vertex_octree& octree, const ox_3dvector* vertices, std::size_t nb_vertices) {
+    int doubling_count = 0;
     for (std::size_t first = 0; first < nb_vertices; first += welding_block) {
         const std::size_t count = std::min(welding_block, nb_vertices - first);
         if (!contains_all(octree.get_root(), vertices + first, count) &&
-            !grow_over(octree, vertices + first, count, nb_doublings)) {
+            !grow_over(octree, vertices + first, count, doubling_count)) {
             return false;
         }
     }
@@ -71,8 +72,8 @@ ox_3dvector unit_normal(const ox_3dvector& a, const ox_3dvector& b, const ox_3dv
     return normal;
 }
 
-/// Tells whether normals can keep the corners of a set apart. Otherwise they need no computing.
-bool tells_normals_apart(float normal_tolerance, const oxp_octree_cell& root) {
+/// True if normals can keep the corners of a set apart. Otherwise they need no computing.
+bool tells_normals_apart(float normal_tolerance, const octree_cell& root) {
     return !(normal_tolerance >= indifferent_normal_tolerance) ||
            root.edge > max_root_edge_of_finite_normals;
 }
@@ -80,8 +81,7 @@ bool tells_normals_apart(float normal_tolerance, const oxp_octree_cell& root) {
 /// The corners of triangles on their way into a welder.
 class corner_block {
 public:
-    corner_block(const ox_3dvector* set_vertices, const oxp_vertex_welder& target,
-                 bool needs_normals)
+    corner_block(const ox_3dvector* set_vertices, const vertex_welder& target, bool needs_normals)
         : vertices(set_vertices), welder(target), with_normals(needs_normals) {}
 
     /// Fills the block with `count` corners, of whole triangles.
@@ -97,19 +97,19 @@ public:
         }
     }
 
-    const oxp_vertex_welder::candidate* data() const { return block; }
+    const vertex_welder::candidate* data() const { return block; }
 
 private:
     const ox_3dvector* vertices;
-    const oxp_vertex_welder& welder;
+    const vertex_welder& welder;
     bool with_normals;
-    oxp_vertex_welder::candidate block[welding_block];
+    vertex_welder::candidate block[welding_block];
 };
 
 } // namespace
 
 void ox_triangle_set::optimize(float position_tolerance, float normal_tolerance) {
-    oxp_vertex_octree octree;
+    vertex_octree octree;
     if (!has_valid_triangles()) {
         return;
     }
@@ -117,28 +117,28 @@ void ox_triangle_set::optimize(float position_tolerance, float normal_tolerance)
         ox_log_thread_safe("too many octrees");
         return;
     }
-    const oxp_octree_cell root = octree.get_root();
+    const octree_cell root = octree.get_root();
     const float leaf_size = root.edge / set_root_in_leaf_parents;
-    const double crowding_edge = oxp_search_grid(position_tolerance).narrowest_cell_edge();
-    oxp_vertex_welder welder(position_tolerance, normal_tolerance,
-                             oxp_welded_leaves(octree, leaf_size, crowding_edge));
+    const double crowding_edge = search_grid(position_tolerance).narrowest_cell_edge();
+    vertex_welder welder(position_tolerance, normal_tolerance,
+                         welded_leaves(octree, leaf_size, crowding_edge));
     // The indices are rewritten last, so that memory that runs out midway leaves them whole.
-    const std::size_t nb_corners = std::size_t{3} * nb_triangles;
-    const auto welded_corners = oxp_make_large_array<unsigned int>(nb_corners);
-    welder.expect(nb_corners);
+    const std::size_t corner_count = std::size_t{3} * nb_triangles;
+    const auto welded_corners = make_large_array<unsigned int>(corner_count);
+    welder.expect(corner_count);
     corner_block block(vertices.get(), welder, tells_normals_apart(normal_tolerance, root));
-    for (std::size_t first = 0; first < nb_corners; first += welding_block) {
-        const std::size_t count = std::min(welding_block, nb_corners - first);
+    for (std::size_t first = 0; first < corner_count; first += welding_block) {
+        const std::size_t count = std::min(welding_block, corner_count - first);
         block.fill(triangles.get() + first, count);
         welder.weld(block.data(), count, welded_corners.get() + first);
     }
     replace_vertices(welder.get_positions());
-    std::copy(welded_corners.get(), welded_corners.get() + nb_corners, triangles.get());
+    std::copy(welded_corners.get(), welded_corners.get() + corner_count, triangles.get());
 }
 
 void ox_triangle_set::replace_vertices(const ox_list<ox_3dvector>& replacements) {
     const std::size_t count = static_cast<std::size_t>(replacements.size());
-    std::shared_ptr<ox_3dvector[]> replaced = oxp_make_large_array<ox_3dvector>(count);
+    std::shared_ptr<ox_3dvector[]> replaced = make_large_array<ox_3dvector>(count);
     std::copy(replacements.begin(), replacements.end(), replaced.get());
     vertices.swap(replaced);
     nb_vertices = static_cast<unsigned int>(count);

@@ -2,13 +2,14 @@
 #define OX_PROGRESS_OX_PROGRESS_MANAGER_H
 
 #include <memory>
+#include <string>
+
 #include <ox/core/ox_export.h>
 #include <ox/core/ox_list.h>
-#include <string>
 
 namespace ox {
 
-struct oxp_progress_state;
+struct ox_progress_manager_state;
 
 /// Turns the progress of a long computation into one number between 0 and 1, and carries the
 /// caller's wish to stop back to the computation.
@@ -63,6 +64,7 @@ public:
     /// Shares everything with `other` from now on.
     ox_progress_manager& operator=(const ox_progress_manager& other);
 
+    /// Lets go of the phases, which go with their last owner.
     virtual ~ox_progress_manager();
 
     // Reporting
@@ -115,7 +117,7 @@ public:
     void finalize();
 
 private:
-    std::shared_ptr<oxp_progress_state> state;
+    std::shared_ptr<ox_progress_manager_state> state;
 };
 
 } // namespace ox

@@ -2,13 +2,14 @@
 #define OX_PROGRESS_OX_THREAD_H
 
 #include <atomic>
+
 #include <ox/core/ox_export.h>
 #include <ox/core/ox_mutex.h>
 
 namespace ox {
 
 class ox_progress_manager;
-struct oxp_thread_team;
+struct ox_thread_team;
 
 /// A computation made of numbered steps that can run on several threads at once.
 ///
@@ -57,6 +58,7 @@ public:
     /// Copies everything but the lock, which stays as it is.
     ox_thread& operator=(const ox_thread& other);
 
+    /// Ends no work: `start` has returned by then.
     virtual ~ox_thread();
 
     // To be overridden
@@ -74,16 +76,16 @@ public:
 
     // Running
 
-    /// Runs the computation on `nb_threads` threads and returns when all of them have stopped. With
-    /// 0 or 1 everything runs on the calling thread, and a request to stop takes effect at once;
-    /// the result is then true when the work ran to its end. With more, every thread finishes the
-    /// step it is at, and the result is true when one of them met the end of the work.
+    /// Runs the computation on `thread_count` threads and returns when all of them have stopped.
+    /// With 0 or 1 everything runs on the calling thread, and a request to stop takes effect at
+    /// once; the result is then true when the work ran to its end. With more, every thread finishes
+    /// the step it is at, and the result is true when one of them met the end of the work.
     ///
     /// A team has at most 256 threads, or one for each processor where there are more; the OpenMP
     /// runtime may give fewer still. The work is completed by however many there are.
-    virtual bool start(unsigned int nb_threads);
+    virtual bool start(unsigned int thread_count);
 
-    /// Whether `progress` or the manager asked the last `start` to stop.
+    /// True if `progress` or the manager asked the last `start` to stop.
     bool was_interrupted() const;
 
     // Progress
@@ -102,8 +104,8 @@ public:
 
 private:
     bool run_alone(int last);
-    bool run_in_team(unsigned int nb_threads, int last);
-    void work(oxp_thread_team& team, unsigned int thread, int last);
+    bool run_in_team(unsigned int thread_count, int last);
+    void work(ox_thread_team& team, unsigned int thread, int last);
     bool report(unsigned int step, int last);
 
     std::atomic<unsigned int> next_step{0};

@@ -1,10 +1,13 @@
+#include <ox/progress/ox_progress_manager.h>
+
 #include <ox/core/ox_chrono.h>
 #include <ox/core/ox_log.h>
 #include <ox/progress/internal/experience_file.h>
 #include <ox/progress/internal/phase_tree.h>
-#include <ox/progress/ox_progress_manager.h>
 
 namespace ox {
+
+using namespace internal;
 
 namespace {
 
@@ -15,7 +18,7 @@ constexpr double added_experience = 0.1;
 
 } // namespace
 
-struct oxp_progress_state {
+struct ox_progress_manager_state {
     /// Ends the timing of the current phase.
     void store_duration() {
         if (current != nullptr) {
@@ -44,7 +47,7 @@ struct oxp_progress_state {
     std::unordered_map<std::string, double> experience; // seconds by phase name
 };
 
-ox_progress_manager::ox_progress_manager() : state(std::make_shared<oxp_progress_state>()) {}
+ox_progress_manager::ox_progress_manager() : state(std::make_shared<ox_progress_manager_state>()) {}
 
 ox_progress_manager::ox_progress_manager(const ox_progress_manager& other) = default;
 

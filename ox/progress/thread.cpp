@@ -1,9 +1,12 @@
+#include <ox/progress/ox_thread.h>
+
 #include <algorithm>
 #include <exception>
 #include <mutex>
+
 #include <omp.h>
+
 #include <ox/progress/ox_progress_manager.h>
-#include <ox/progress/ox_thread.h>
 
 namespace ox {
 
@@ -13,18 +16,18 @@ namespace {
 /// the process when it cannot create a thread, gets them.
 constexpr unsigned int largest_team = 256;
 
-int bounded_team_size(unsigned int nb_threads) {
+int bounded_team_size(unsigned int thread_count) {
     const int limit = omp_get_thread_limit();
     const unsigned int processors = static_cast<unsigned int>(std::max(omp_get_num_procs(), 1));
     const unsigned int bound = std::max(largest_team, processors);
-    const int wanted = static_cast<int>(std::min(nb_threads, bound));
+    const int wanted = static_cast<int>(std::min(thread_count, bound));
     return limit > 0 ? std::min(wanted, limit) : wanted;
 }
 
 } // namespace
 
 /// What the threads of one `start` have in common.
-struct oxp_thread_team {
+struct ox_thread_team {
     /// Keeps the exception being handled when it is the first one, and stops the others.
     void fail() noexcept {
         const std::lock_guard<std::mutex> guard(mutex);
@@ -71,13 +74,13 @@ bool ox_thread::progress(unsigned int) {
     return true;
 }
 
-bool ox_thread::start(unsigned int nb_threads) {
+bool ox_thread::start(unsigned int thread_count) {
     next_step = 0;
     finished = false;
     interrupted = false;
     const int last = get_last_step();
     report(0, last);
-    return nb_threads > 1 ? run_in_team(nb_threads, last) : run_alone(last);
+    return thread_count > 1 ? run_in_team(thread_count, last) : run_alone(last);
 }
 
 /// Reports that `step` is done. False when the manager asks to stop.
@@ -101,9 +104,9 @@ bool ox_thread::run_alone(int last) {
     return true;
 }
 
-bool ox_thread::run_in_team(unsigned int nb_threads, int last) {
-    oxp_thread_team team;
-#pragma omp parallel num_threads(bounded_team_size(nb_threads))
+bool ox_thread::run_in_team(unsigned int thread_count, int last) {
+    ox_thread_team team;
+#pragma omp parallel num_threads(bounded_team_size(thread_count))
     {
         try {
             work(team, static_cast<unsigned int>(omp_get_thread_num()), last);
@@ -119,7 +122,7 @@ bool ox_thread::run_in_team(unsigned int nb_threads, int last) {
 
 /// The loop of one thread. Taking a number from an atomic counter gives each number out once, in
 /// ascending order, without a lock that all computations of the process would share.
-void ox_thread::work(oxp_thread_team& team, unsigned int thread, int last) {
+void ox_thread::work(ox_thread_team& team, unsigned int thread, int last) {
     while (!interrupted && !team.failed) {
         const unsigned int step = next_step++;
         if (!run(step, thread)) {

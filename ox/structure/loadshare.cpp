@@ -1,19 +1,34 @@
-#include <cmath>
-#include <ox/structure/internal/oxp_loadshare.h>
 #include <ox/structure/ox_loadshare.h>
+
+#include <cmath>
+
+#include <ox/structure/internal/ox_loadshare_state.h>
 
 namespace ox {
 
-ox_loadshare::ox_loadshare() : state(std::make_unique<oxp_loadshare>()) {}
+ox_loadshare::ox_loadshare() : state(std::make_unique<ox_loadshare_state>()) {}
 
 ox_loadshare::ox_loadshare(const ox_loadshare& other)
-    : state(std::make_unique<oxp_loadshare>(*other.state)) {}
+    : state(std::make_unique<ox_loadshare_state>(*other.state)) {}
 
 ox_loadshare& ox_loadshare::operator=(const ox_loadshare& other) {
     if (this != &other) {
-        state = std::make_unique<oxp_loadshare>(*other.state);
+        state = std::make_unique<ox_loadshare_state>(*other.state);
     }
     return *this;
+}
+
+ox_loadshare::ox_loadshare(ox_loadshare&& other) : ox_loadshare() {
+    swap(other);
+}
+
+ox_loadshare& ox_loadshare::operator=(ox_loadshare&& other) noexcept {
+    swap(other);
+    return *this;
+}
+
+void ox_loadshare::swap(ox_loadshare& other) noexcept {
+    state.swap(other.state);
 }
 
 ox_loadshare::~ox_loadshare() = default;
@@ -64,7 +79,7 @@ void ox_loadshare::clear_slab_contours() {
 
 float ox_loadshare::get_weight(int index) {
     if (index < 0 || index >= state->beams.size()) {
-        return -1.f;
+        return -1.0f;
     }
     return state->beams[index].weight * state->slab_weight;
 }

@@ -2,13 +2,14 @@
 #define OX_STRUCTURE_OX_LOADSHARE_H
 
 #include <memory>
+
 #include <ox/core/ox_export.h>
 #include <ox/core/ox_list.h>
 #include <ox/geometry/ox_3dvector.h>
 
 namespace ox {
 
-struct oxp_loadshare;
+struct ox_loadshare_state;
 
 /// Distributes the weight of a planar slab over the beams that carry it.
 ///
@@ -43,8 +44,21 @@ public:
     /// x and y axes.
     ox_loadshare();
 
+    /// A deep copy, with the results and the image.
     ox_loadshare(const ox_loadshare& other);
+
+    /// Becomes a deep copy of `other`, with the results and the image.
     ox_loadshare& operator=(const ox_loadshare& other);
+
+    /// Takes the slab, beams and results of `other`, which becomes a new object.
+    ox_loadshare(ox_loadshare&& other);
+
+    /// Exchanges the contents with those of `other`. O(1).
+    ox_loadshare& operator=(ox_loadshare&& other) noexcept;
+
+    /// Exchanges the contents with those of `other`. O(1).
+    void swap(ox_loadshare& other) noexcept;
+    /// Deletes everything, the image included.
     virtual ~ox_loadshare();
 
     /// Sets the frame for what is added from now on: the normal, and as x axis the direction made
@@ -68,17 +82,17 @@ public:
 
     /// Computes the load of every beam by lines `step` apart, from the lowest point of the slab up.
     /// A step below 0.001 (0, negative, NaN) is 0.001; one of half the spacing of floats at the
-    /// farthest line of the slab, or less, would not advance every line and is raised to it. The load is exact to about one step
-    /// of the slab's height. O(lines * (points + beams log beams)).
+    /// farthest line of the slab, or less, would not advance every line and is raised to it. The
+    /// load is exact to about one step of the slab's height. O(lines * (points + beams log beams)).
     void compute_weights(float step);
 
     /// The load of a beam after the last computation; -1 for an index that is out of range.
     float get_weight(int index);
 
-    /// Tells whether `compute_weights` writes every line with its stretches to the log.
+    /// Sets whether `compute_weights` writes every line with its stretches to the log.
     void produce_log(bool enabled);
 
-    /// Tells whether `compute_weights` paints an image.
+    /// Sets whether `compute_weights` paints an image.
     void set_image_log(bool enabled);
 
     /// The image of the last computation, row after row from the lowest line up, one pixel a step
@@ -89,8 +103,13 @@ public:
     unsigned int* get_image_log(int& width, int& height);
 
 private:
-    std::unique_ptr<oxp_loadshare> state;
+    std::unique_ptr<ox_loadshare_state> state;
 };
+
+/// Exchanges the contents of two objects. O(1).
+inline void swap(ox_loadshare& a, ox_loadshare& b) noexcept {
+    a.swap(b);
+}
 
 } // namespace ox
 

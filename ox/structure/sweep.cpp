@@ -1,17 +1,21 @@
 // The sweep: on each line the stretches of slab, the beams that cross it, and their shares.
 
+#include <ox/structure/ox_loadshare.h>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <ox/internal/log_line.h>
-#include <ox/internal/sweep_window.h>
-#include <ox/structure/internal/oxp_loadshare.h>
-#include <ox/structure/internal/slab_crossings.h>
-#include <ox/structure/internal/tolerances.h>
-#include <ox/structure/ox_loadshare.h>
 #include <vector>
 
+#include <ox/internal/log_line.h>
+#include <ox/internal/sweep_window.h>
+#include <ox/structure/internal/ox_loadshare_state.h>
+#include <ox/structure/internal/slab_crossings.h>
+#include <ox/structure/internal/tolerances.h>
+
 namespace ox {
+
+using namespace internal;
 
 namespace {
 
@@ -43,11 +47,11 @@ double printed(float number) {
 
 class sweep {
 public:
-    sweep(oxp_loadshare& loads, float line_step)
+    sweep(ox_loadshare_state& loads, float line_step)
         : load(loads), step(line_step), painted(loads.image.exists()), outline(loads.contours) {
         for (const oxp_beam& beam : load.beams) {
             const ox_3dvector along = beam.end - beam.start;
-            lines.push_back({beam.start.x, beam.start.y, along.x, along.y, 0.f});
+            lines.push_back({beam.start.x, beam.start.y, along.x, along.y, 0.0f});
             const auto ends = std::minmax(beam.start.y, beam.end.y);
             beams.add(next_above(ends.first), next_below(ends.second));
         }
@@ -91,7 +95,7 @@ private:
             const float x = b.x + b.width * (y - b.y) / b.height;
             crossing.at = std::isfinite(x) ? x : infinity;
         }
-        beams.order_met();
+        beams.order_active();
         for (std::size_t i = 0; load.log && i < crossings.size(); ++i) {
             if (crossings[i].at < infinity) {
                 log_line("beam %d : %f", crossings[i].index, printed(crossings[i].at));
@@ -116,7 +120,7 @@ private:
                 left = spans[span];
             }
             const float next_x = i + 1 < crossings.size() ? crossings[i + 1].at : infinity;
-            const float right = next_x <= spans[span + 1] ? (x + next_x) / 2.f : spans[span + 1];
+            const float right = next_x <= spans[span + 1] ? (x + next_x) / 2.0f : spans[span + 1];
             give(crossings[i], y, left, right);
             left = right;
         }
@@ -138,7 +142,7 @@ private:
         }
     }
 
-    oxp_loadshare& load;
+    ox_loadshare_state& load;
     float step;
     bool painted; ///< there is an image
     unsigned int colors_used = 0;
@@ -155,7 +159,7 @@ float advancing_step(float asked, const ox_box& bounds) {
     const float far =
         std::max(std::fabs(bounds.origin.y), std::fabs(bounds.origin.y + bounds.size.y));
     const float spacing = next_above(far) - far;
-    return step > spacing / 2.f ? step : spacing;
+    return step > spacing / 2.0f ? step : spacing;
 }
 
 bool is_finite(const ox_box& box) {
@@ -167,7 +171,7 @@ bool is_finite(const ox_box& box) {
 
 void ox_loadshare::compute_weights(float step) {
     for (oxp_beam& beam : state->beams) {
-        beam.weight = 0.f;
+        beam.weight = 0.0f;
     }
     state->image.clear();
     if (state->bounds.is_empty() || !is_finite(state->bounds)) {

@@ -60,6 +60,20 @@ TEST(OxChrono, ResetWhileRunningStopsAtZeroUntilTheNextStart) {
     EXPECT_GE(chrono.elapsed(), 0.001);
 }
 
+TEST(OxChrono, MovedStopwatchLeavesAStoppedOneBehind) {
+    ox_chrono chrono;
+    chrono.start();
+    while (chrono.elapsed() <= 0.0) {
+    }
+    ox_chrono taken(std::move(chrono));
+    EXPECT_GT(taken.elapsed(), 0.0);
+    ox_chrono other;
+    swap(taken, other);
+    EXPECT_EQ(taken.elapsed(), 0.0);
+    taken = std::move(other);
+    EXPECT_GT(taken.elapsed(), 0.0);
+}
+
 TEST(OxChrono, CopyRunsOnByItself) {
     ox_chrono chrono;
     chrono.start();

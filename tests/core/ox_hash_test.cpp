@@ -145,6 +145,20 @@ TEST(OxHash, RebalancingAnEmptyTableOrOneEntryKeepsIt) {
     EXPECT_EQ(items(hash.get_keys()), std::vector<int>{1});
 }
 
+TEST(OxHash, MovedFromTableIsEmptyAndSwapExchanges) {
+    ox_hash<int, int> table;
+    table.set(1, 10);
+    ox_hash<int, int> taken(std::move(table));
+    EXPECT_EQ(taken.size(), 1u);
+    ox_hash<int, int> other;
+    swap(taken, other);
+    EXPECT_EQ(taken.size(), 0u);
+    taken = std::move(other);
+    int value = 0;
+    EXPECT_TRUE(taken.get(1, value));
+    EXPECT_EQ(value, 10);
+}
+
 TEST(OxHash, CopiesAreDeepAndKeepTheShape) {
     const auto original = ascending(500);
     ox_hash<counted_key, int> copy(original);

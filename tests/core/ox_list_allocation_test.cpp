@@ -3,6 +3,7 @@
 #include <limits>
 #include <new>
 #include <ox/core/ox_list.h>
+#include <utility>
 
 namespace {
 
@@ -120,6 +121,16 @@ TEST_F(OxListAllocation, MovingAllocatesNothing) {
     ox::ox_list<rationed> taken(std::move(list));
     list = std::move(taken);
     expect_intact();
+}
+
+TEST_F(OxListAllocation, MovedValueThatFindsNoRoomStaysWithTheCaller) {
+    ox::ox_list<rationed> empty;
+    rationed value(7);
+    rationed::refused = true;
+    EXPECT_THROW(empty.push_right(std::move(value)), std::bad_alloc);
+    rationed::refused = false;
+    EXPECT_EQ(empty.size(), 0);
+    EXPECT_EQ(value.value, 7);
 }
 
 TEST(OxListOwnership, EveryArrayIsReleasedOnce) {

@@ -270,6 +270,68 @@ TEST(OxList, MovedFromListIsEmpty) {
     EXPECT_EQ(taken.get_capacity(), 0);
 }
 
+TEST(OxList, IsEmptyWithoutElementsAndWithANegativeCount) {
+    EXPECT_TRUE(ox_list<int>().empty());
+    EXPECT_TRUE(ox_list<int>(-3).empty());
+    EXPECT_FALSE(ox_list<int>(1).empty());
+}
+
+TEST(OxList, ReserveMakesRoomForExactlyThatManyAndKeepsTheElements) {
+    ox_list<int> list = list_of({1, 2});
+    list.reserve(10);
+    EXPECT_EQ(list.get_capacity(), 10);
+    EXPECT_EQ(values_of(list), (numbers{1, 2}));
+    list.reserve(3);
+    list.reserve(-1);
+    EXPECT_EQ(list.get_capacity(), 10);
+}
+
+TEST(OxList, MovedValueIsTakenInsteadOfCopied) {
+    ox_list<std::string> list;
+    std::string text(100, 'x');
+    const char* const characters = text.data();
+    list.push_right(std::move(text));
+    EXPECT_EQ(list[0].data(), characters);
+    list.reserve(2);
+    std::string other(100, 'y');
+    const char* const others = other.data();
+    list.push_right(std::move(other));
+    EXPECT_EQ(list[1].data(), others);
+}
+
+TEST(OxList, MovedValuesMakeItGrowAsCopiedOnes) {
+    ox_list<int> moved;
+    ox_list<int> copied;
+    for (int i = 0; i < 100; ++i) {
+        moved.push_right(int{i});
+        copied.push_right(i);
+        ASSERT_EQ(moved.get_capacity(), copied.get_capacity());
+    }
+    EXPECT_EQ(values_of(moved), values_of(copied));
+}
+
+TEST(OxList, OwnElementMayBeMovedToItsEnd) {
+    ox_list<std::string> list;
+    list.push_right(std::string(100, 'x'));
+    list.push_right(std::move(list[0])); // the array grows
+    EXPECT_EQ(list[1], std::string(100, 'x'));
+}
+
+TEST(OxList, SwapExchangesTheContents) {
+    ox_list<int> a = list_of({1, 2});
+    ox_list<int> b = list_of({3});
+    swap(a, b);
+    EXPECT_EQ(values_of(a), (numbers{3}));
+    EXPECT_EQ(values_of(b), (numbers{1, 2}));
+}
+
+TEST(OxList, IsMadeOfGivenElementsWithRoomForThese) {
+    const ox_list<int> list = ox::ox_make_list({3, 1, 2});
+    EXPECT_EQ(values_of(list), (numbers{3, 1, 2}));
+    EXPECT_EQ(list.get_capacity(), 3);
+    static_assert(std::is_same_v<ox_list<int>::value_type, int>);
+}
+
 TEST(OxList, DestroyingAPointerListLeavesTheObjects) {
     int value = 3;
     {

@@ -153,6 +153,18 @@ TEST(OxRandom, DrawnVectorsPointEverywhereAlike) {
     }
 }
 
+TEST(OxRandom, MovedSourceGoesOnElsewhere) {
+    ox_random source(5);
+    ox_random expected(5);
+    ox_random taken(std::move(source));
+    EXPECT_EQ(taken.dice(0, 1000), expected.dice(0, 1000));
+    ox_random other(9);
+    swap(taken, other);
+    EXPECT_EQ(other.dice(0, 1000), expected.dice(0, 1000));
+    taken = std::move(other);
+    EXPECT_EQ(taken.dice(0, 1000), expected.dice(0, 1000));
+}
+
 TEST(OxRandom, CopyGoesOnIndependentlyWithTheSameNumbers) {
     ox_random random(4);
     random.dice(0, 99);

@@ -169,6 +169,23 @@ TEST(OxDebug, AnAssignedNodeHasTheSameTextsAndSharesTheChildren) {
     assigned.children.clear(); // node stays the only owner
 }
 
+TEST(OxDebug, AMovedNodeTakesItsChildrenAlong) {
+    std::vector<std::string> destroyed;
+    {
+        ox_debug node;
+        node.title = "title";
+        node.children.push_right(new watched_node("a", destroyed));
+        ox_debug taken(std::move(node));
+        EXPECT_EQ(taken.title, "title");
+        EXPECT_EQ(taken.children.size(), 1);
+        ox_debug assigned;
+        assigned = std::move(taken);
+        EXPECT_EQ(assigned.children.size(), 1);
+        EXPECT_THAT(destroyed, IsEmpty());
+    }
+    EXPECT_THAT(destroyed, ElementsAre("a"));
+}
+
 TEST(OxDebug, ACopyOutlivesItsSourceAsTheOnlyOwner) {
     std::vector<std::string> destroyed;
     {

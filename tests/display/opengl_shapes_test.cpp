@@ -181,6 +181,19 @@ TEST_F(OxOpenglShapes, ACopyDrawsTheSame) {
     EXPECT_EQ(drawing_calls(assigned), drawing_calls(shapes));
 }
 
+TEST_F(OxOpenglShapes, AMovedCollectionLeavesAnEmptyOneBehind) {
+    ox_opengl_shapes shapes;
+    shapes.add_point(ox_3dvector(1, 2, 3), red, 4);
+    const ox_test::gl_calls calls = drawing_calls(shapes);
+    ox_opengl_shapes taken(std::move(shapes));
+    EXPECT_EQ(drawing_calls(taken), calls);
+    ox_opengl_shapes other;
+    swap(taken, other);
+    EXPECT_THAT(drawing_calls(taken), testing::IsEmpty());
+    taken = std::move(other);
+    EXPECT_EQ(drawing_calls(taken), calls);
+}
+
 TEST_F(OxOpenglShapes, ACopyHasNothingInCommonWithItsSource) {
     ox_opengl_shapes shapes;
     shapes.add_point(ox_3dvector(1, 2, 3), red, 4);

@@ -215,6 +215,15 @@ TEST(OxCubicSpline, ManyPointsTooFarApartForTheInverseGiveThePolyline) {
     EXPECT_FLOAT_EQ(spline.compute(0.5f), points[1].y / 2);
 }
 
+TEST(OxCubicSpline, MovedFromSplineHasNoPoints) {
+    ox_cubic_spline original(list({{0, 0}, {1, 1}}));
+    ox_cubic_spline taken(std::move(original));
+    EXPECT_EQ(taken.compute(0.5f), 0.5f);
+    ox_cubic_spline assigned(list({}));
+    assigned = std::move(taken);
+    EXPECT_EQ(assigned.compute(0.5f), 0.5f);
+}
+
 TEST(OxCubicSpline, CopiesAreDeep) {
     ox_cubic_spline copy(list({}));
     {

@@ -129,6 +129,20 @@ TEST(CsvColumns, TheLocaleOfTheProcessDoesNotChangeNumbers) {
     EXPECT_EQ(value, 3.5f);
 }
 
+TEST(CsvColumns, MovedFromTableIsANewOne) {
+    ox::ox_csv table;
+    table.add_column("a", list_of<int>({1}));
+    table.set_column_separator('|');
+    ox::ox_csv taken(std::move(table));
+    EXPECT_EQ(taken.write_string(), "a\n1\n");
+    ox::ox_csv other;
+    swap(taken, other);
+    EXPECT_EQ(taken.get_nb_columns(), 0);
+    EXPECT_EQ(taken.get_column_separator(), ';');
+    taken = std::move(other);
+    EXPECT_EQ(taken.get_nb_columns(), 1);
+}
+
 TEST(CsvColumns, CopiesAreDeep) {
     ox::ox_csv table;
     table.add_column("a", list_of<int>({1}));

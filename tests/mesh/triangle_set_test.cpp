@@ -58,6 +58,18 @@ TEST(OxTriangleSet, AllocateOfNothingReleasesBothArrays) {
     EXPECT_EQ(set.get_triangles(), nullptr);
 }
 
+TEST(OxTriangleSet, MovedFromSetIsEmptyAndSwapExchanges) {
+    ox_triangle_set set = set_of(cube());
+    ox_triangle_set taken(std::move(set));
+    EXPECT_EQ(taken.get_nb_vertices(), 8u);
+    ox_triangle_set other;
+    swap(taken, other);
+    EXPECT_EQ(taken.get_vertices(), nullptr);
+    EXPECT_EQ(taken.get_nb_triangles(), 0u);
+    taken = std::move(other);
+    EXPECT_EQ(taken.get_nb_triangles(), 12u);
+}
+
 TEST(OxTriangleSet, CopiesShareBothArrays) {
     ox_triangle_set set = set_of(cube());
     const ox_triangle_set copy(set);

@@ -304,6 +304,19 @@ TEST(OxLoadshare, LogHasEveryLineWithItsStretchesAndShares) {
     });
 }
 
+TEST(OxLoadshare, MovedSlabKeepsItsLoadsElsewhere) {
+    ox_loadshare slab = slab_of(rectangle(0, 0, 10, 4));
+    vertical_beam(slab, 5, -1, 5);
+    slab.compute_weights(0.5f);
+    ox_loadshare taken(std::move(slab));
+    EXPECT_EQ(taken.get_weight(0), 40);
+    ox_loadshare other;
+    swap(taken, other);
+    EXPECT_EQ(taken.get_weight(0), -1);
+    taken = std::move(other);
+    EXPECT_EQ(taken.get_weight(0), 40);
+}
+
 TEST(OxLoadshare, CopiesAreDeep) {
     ox_loadshare slab = slab_of(rectangle(0, 0, 1, 1));
     ox_loadshare copy(slab);

@@ -4,9 +4,10 @@
 #include <cstdint>
 #include <limits>
 #include <new>
+
 #include <ox/core/ox_list.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// The number of live elements of `list`, whose count may be negative.
 inline int live_count(const ox_list<unsigned char>& list) {
@@ -32,6 +33,6 @@ inline ox_list<unsigned char> grown_byte_list(std::int64_t n) {
     return list;
 }
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

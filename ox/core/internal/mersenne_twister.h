@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-namespace ox {
+namespace ox::internal {
 
 /// The 32-bit Mersenne Twister (Matsumoto and Nishimura, ACM TOMACS 1998), MT19937: the numbers of
 /// `std::mt19937`, made a block at a time in loops without branches, which compilers turn into
@@ -63,6 +63,6 @@ private:
     int next = length;
 };
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

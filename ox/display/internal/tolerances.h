@@ -1,7 +1,7 @@
 #ifndef OX_DISPLAY_INTERNAL_TOLERANCES_H
 #define OX_DISPLAY_INTERNAL_TOLERANCES_H
 
-namespace ox {
+namespace ox::internal {
 
 /// Sine of the angle between two planes below which they are too parallel to snap to their line.
 constexpr float parallel_planes_sine = 0.01f;
@@ -14,6 +14,6 @@ constexpr float parallel_line_cosine = 0.01f;
 /// the pole.
 constexpr float largest_elevation = 1.57f;
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

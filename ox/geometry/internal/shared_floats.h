@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <memory>
 
-namespace ox {
+namespace ox::internal {
 
 /// An array of `count` zeros that copies of its owner share; null for a count below 1.
 inline std::shared_ptr<float[]> new_shared_floats(long long count) {
@@ -14,6 +14,6 @@ inline std::shared_ptr<float[]> new_shared_floats(long long count) {
     return std::shared_ptr<float[]>(new float[static_cast<std::size_t>(count)]());
 }
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -1,7 +1,7 @@
 #ifndef OX_GEOMETRY_INTERNAL_TOLERANCES_H
 #define OX_GEOMETRY_INTERNAL_TOLERANCES_H
 
-namespace ox {
+namespace ox::internal {
 
 /// Determinant of two directions (square model units) below which two lines of the plane count
 /// as parallel: dividing by less would throw their intersection far away.
@@ -13,7 +13,7 @@ constexpr double near_z_axis_cosine = 0.99;
 
 /// A point can only be nearer than the tolerance to an end of an edge if its Manhattan distance
 /// is below this multiple of the tolerance (sqrt(3) would do): a test without a square root.
-constexpr float edge_end_manhattan_factor = 3.f;
+constexpr float edge_end_manhattan_factor = 3.0f;
 
 /// An edge shorter than this share of the tolerance has no usable direction: it accepts only
 /// points near its ends.
@@ -29,6 +29,6 @@ constexpr float linear_check_error = 0.001f;
 /// Error from which the self-check of the cubic spline fails, in numbers of size 1.
 constexpr double spline_check_error = 0.01;
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -6,9 +6,9 @@
 #include <string_view>
 #include <vector>
 
-namespace ox {
+namespace ox::internal {
 
-/// Whether a character ends a line of a table.
+/// True if a character ends a line of a table.
 inline bool is_line_break(char c) {
     return c == '\n' || c == '\r';
 }
@@ -22,7 +22,7 @@ public:
     cell_text() = default;
 
     /// The cells of `text`. What follows the last separator or line break is no cell.
-    cell_text(std::string text, char separator, std::size_t nb_cells, std::size_t nb_lines);
+    cell_text(std::string text, char separator, std::size_t cell_count, std::size_t line_count);
 
     /// Appends a line of one cell.
     void add_line(std::string_view cell);
@@ -34,15 +34,15 @@ public:
     char get_separator() const { return separator; }
 
     /// The number of lines, counting a last one without a line break when it has cells.
-    std::size_t get_nb_lines() const { return line_starts.size() - 1; }
+    std::size_t get_line_count() const { return line_starts.size() - 1; }
 
     /// The number of cells of a line, 0 below the last one.
-    std::size_t get_nb_cells(std::size_t line) const {
-        return line < get_nb_lines() ? line_starts[line + 1] - line_starts[line] : 0;
+    std::size_t get_cell_count(std::size_t line) const {
+        return line < get_line_count() ? line_starts[line + 1] - line_starts[line] : 0;
     }
 
     /// The largest number of columns that a line reaches into; the end of the text counts.
-    std::size_t get_nb_columns() const { return nb_columns; }
+    std::size_t get_column_count() const { return column_count; }
 
     /// The column that the text ends in.
     std::size_t get_last_column() const { return last_column; }
@@ -73,13 +73,13 @@ private:
     }
 
     std::string text;
-    std::vector<std::size_t> ends;           // of the cells, in the order of the text
-    std::vector<std::size_t> line_starts{0}; // the number of each line's first cell, and of none
-    std::size_t nb_columns = 0;
+    std::vector<std::size_t> ends;           ///< of the cells, in the order of the text
+    std::vector<std::size_t> line_starts{0}; ///< the number of each line's first cell, and of none
+    std::size_t column_count = 0;
     std::size_t last_column = 0;
     char separator = '\n';
 };
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -2,16 +2,17 @@
 #define OX_IO_INTERNAL_CSV_DETECTION_H
 
 #include <cstddef>
-#include <ox/io/internal/cell_text.h>
 #include <string>
 
-namespace ox {
+#include <ox/io/internal/cell_text.h>
+
+namespace ox::internal {
 
 /// A separator, and what a text then holds.
 struct separator_choice {
     char separator;
-    std::size_t nb_cells; ///< that a separator or a line break follows
-    std::size_t nb_line_breaks;
+    std::size_t cell_count; ///< that a separator or a line break follows
+    std::size_t line_break_count;
 };
 
 /// Chooses the separator that occurs most evenly in the lines of `text`. Logs the candidates'
@@ -19,8 +20,8 @@ struct separator_choice {
 separator_choice choose_separator(const std::string& text);
 
 /// The number of header lines of a text with that many line breaks. Logs it.
-std::size_t count_header_lines(const cell_text& text, std::size_t nb_line_breaks);
+std::size_t count_header_lines(const cell_text& text, std::size_t line_break_count);
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

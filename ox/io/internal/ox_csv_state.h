@@ -3,10 +3,11 @@
 
 #include <cstddef>
 #include <memory>
-#include <ox/io/internal/cell_text.h>
-#include <ox/io/ox_csv.h>
 #include <string_view>
 #include <vector>
+
+#include <ox/io/internal/cell_text.h>
+#include <ox/io/ox_csv.h>
 
 namespace ox {
 
@@ -20,18 +21,19 @@ struct ox_csv_column {
 
     std::string_view get_value(std::size_t row) const {
         const std::size_t line = first_line + row;
-        return place < text->get_nb_cells(line) ? text->get_cell(line, place) : std::string_view();
+        return place < text->get_cell_count(line) ? text->get_cell(line, place)
+                                                  : std::string_view();
     }
 
-    std::shared_ptr<const cell_text> text;
-    std::size_t place = 0; // of its cells in the lines of the text
+    std::shared_ptr<const internal::cell_text> text;
+    std::size_t place = 0; ///< of its cells in the lines of the text
     std::size_t first_line = 0;
     std::vector<std::string_view> headers;
-    std::size_t nb_headers = 0; // empty ones below the others included
-    std::size_t nb_values = 0;
+    std::size_t header_count = 0; ///< empty ones below the others included
+    std::size_t value_count = 0;
 };
 
-struct oxp_csv_state {
+struct ox_csv_state {
     std::vector<ox_csv_column> columns;
     char column_separator = ';';
     char float_separator = ',';

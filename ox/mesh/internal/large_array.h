@@ -7,25 +7,35 @@
 #include <new>
 #include <type_traits>
 
-namespace ox {
+namespace ox::internal {
 
 /// Asks the system to back fresh memory with large pages where it can. The first touch of each
 /// ordinary page costs more than the work of welding or refining what lies in it. A hint: where the
 /// system has no large pages, or none left, nothing happens.
-void oxp_prefer_large_pages(void* memory, std::size_t bytes);
+void prefer_large_pages(void* memory, std::size_t bytes);
 
-/// Releases what `oxp_make_large_array` made.
-struct oxp_large_array_deleter {
+/// Asks the processor to fetch the memory at `address`, which may be any, while other work goes on.
+/// A hint without effect on results; compilers that cannot pass it on ignore it.
+inline void prefetch_memory(const void* address) {
+#if defined(__GNUC__)
+    __builtin_prefetch(address);
+#else
+    static_cast<void>(address);
+#endif
+}
+
+/// Releases what `make_large_array` made.
+struct large_array_deleter {
     void operator()(void* memory) const { ::operator delete(memory); }
 };
 
 /// An array of plain values, owned.
 template <typename T>
-using oxp_large_array = std::unique_ptr<T[], oxp_large_array_deleter>;
+using large_array = std::unique_ptr<T[], large_array_deleter>;
 
 /// An array of `count` values that are not initialised, null for none. Throws std::bad_alloc.
 template <typename T>
-oxp_large_array<T> oxp_make_large_array(std::size_t count) {
+large_array<T> make_large_array(std::size_t count) {
     static_assert(std::is_trivially_copyable_v<T> && std::is_trivially_destructible_v<T>);
     if (count == 0) {
         return nullptr;
@@ -34,11 +44,11 @@ oxp_large_array<T> oxp_make_large_array(std::size_t count) {
         throw std::bad_array_new_length();
     }
     const std::size_t bytes = count * sizeof(T);
-    oxp_large_array<T> array(static_cast<T*>(::operator new(bytes)));
-    oxp_prefer_large_pages(array.get(), bytes);
+    large_array<T> array(static_cast<T*>(::operator new(bytes)));
+    prefer_large_pages(array.get(), bytes);
     return array;
 }
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -8,10 +8,10 @@
 
 #include <ox/mesh/internal/large_array.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// A side of a triangle: two vertex indices in order.
-struct oxp_side {
+struct side {
     std::uint32_t start;
     std::uint32_t end;
 };
@@ -22,34 +22,34 @@ struct oxp_side {
 /// vertex of a mesh, is in order of number and read through; a longer one is ordered by end vertex
 /// and number and searched. Neighbouring triangles mostly name neighbouring vertices, so building
 /// and searching stay close in memory, which a hash table over the sides would not.
-class oxp_side_index {
+class side_index {
 public:
     /// What `first` returns when there is no such side.
     static constexpr std::uint32_t none = 0xFFFFFFFFu;
 
-    /// Indexes the sides `side_at(0)` to `side_at(nb_sides - 1)`. Those with an index not below
-    /// `nb_vertices` are left out. O(nb_vertices + nb_sides log k), k sides at a vertex.
+    /// Indexes the sides `side_at(0)` to `side_at(side_count - 1)`. Those with an index not below
+    /// `nb_vertices` are left out. O(nb_vertices + side_count log k), k sides at a vertex.
     template <typename SideAt>
-    oxp_side_index(std::uint32_t nb_sides, std::uint32_t nb_vertices, const SideAt& side_at)
+    side_index(std::uint32_t side_count, std::uint32_t nb_vertices, const SideAt& side_at)
         : range_ends(nb_vertices, 0) {
-        const auto is_valid = [=](const oxp_side& side) {
+        const auto is_valid = [=](const side& side) {
             return side.start < nb_vertices && side.end < nb_vertices;
         };
-        for (std::uint32_t i = 0; i < nb_sides; ++i) {
-            const oxp_side side = side_at(i);
+        for (std::uint32_t i = 0; i < side_count; ++i) {
+            const side side = side_at(i);
             if (is_valid(side)) {
                 ++range_ends[side.start];
             }
         }
-        std::uint32_t nb_before = 0;
+        std::uint32_t count_before = 0;
         for (std::uint32_t& place : range_ends) {
-            const std::uint32_t nb_here = place;
-            place = nb_before; // grows to the end of the range while it is filled
-            nb_before += nb_here;
+            const std::uint32_t count_here = place;
+            place = count_before; ///< grows to the end of the range while it is filled
+            count_before += count_here;
         }
-        entries = oxp_make_large_array<std::uint64_t>(nb_before);
-        for (std::uint32_t i = 0; i < nb_sides; ++i) {
-            const oxp_side side = side_at(i);
+        entries = make_large_array<std::uint64_t>(count_before);
+        for (std::uint32_t i = 0; i < side_count; ++i) {
+            const side side = side_at(i);
             if (is_valid(side)) {
                 entries[range_ends[side.start]++] = entry(side.end, i);
             }
@@ -63,7 +63,7 @@ public:
 
     /// The smallest number of a side from `side.start` to `side.end`, `none` when there is none.
     /// O(log k), k sides at the start vertex.
-    std::uint32_t first(const oxp_side& side) const {
+    std::uint32_t first(const side& side) const {
         if (side.start >= range_ends.size()) {
             return none;
         }
@@ -103,10 +103,10 @@ private:
         return entries.get() + range_ends[vertex];
     }
 
-    std::vector<std::uint32_t> range_ends;  // in `entries`, one for each vertex
-    oxp_large_array<std::uint64_t> entries; // end vertex and number, by start vertex
+    std::vector<std::uint32_t> range_ends; ///< in `entries`, one for each vertex
+    large_array<std::uint64_t> entries;    ///< end vertex and number, by start vertex
 };
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

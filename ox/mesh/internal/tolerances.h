@@ -3,15 +3,15 @@
 
 #include <cstddef>
 
-namespace ox {
+namespace ox::internal {
 
 /// Edge, in model units, of the octree's first root: the unit in which models are drawn, so that
 /// a model of ordinary size needs few doublings.
-constexpr float first_root_edge = 1.f;
+constexpr float first_root_edge = 1.0f;
 
 /// Edge of the root, in edges of the cells above the leaves, when a finished triangle set is
 /// welded: the leaves lie nine levels below the root, 512 along each axis.
-constexpr float set_root_in_leaf_parents = 256.f;
+constexpr float set_root_in_leaf_parents = 256.0f;
 
 /// Doublings of the root that welding a triangle set may take: a model that needs more is broken,
 /// not large.
@@ -19,11 +19,11 @@ constexpr int max_root_doublings = 100;
 
 /// Edge of a streaming welder's leaf, in position tolerances: wide enough that few pairs of close
 /// vertices lie on two sides of a cell boundary.
-constexpr float leaf_size_in_tolerances = 10.f;
+constexpr float leaf_size_in_tolerances = 10.0f;
 
 /// Smallest edge of a streaming welder's leaf, in model units: the edge of the first root, below
 /// which the octree would have to be refined as well as grown.
-constexpr float min_leaf_size = 1.f;
+constexpr float min_leaf_size = 1.0f;
 
 /// Distance within which candidates for welding are collected, in position tolerances: beyond 1
 /// by more than the rounding of a single-precision difference.
@@ -63,12 +63,12 @@ constexpr std::size_t first_welding_room = 64;
 
 /// Normal tolerance from which unit normals always agree: the sum over the axes is at most
 /// 2 * sqrt(3), and below 6 for normals of tiny triangles, whose length is lost in underflow.
-constexpr float indifferent_normal_tolerance = 8.f;
+constexpr float indifferent_normal_tolerance = 8.0f;
 
 /// Root edge up to which the normal of every triangle in the octree is finite: products of two
 /// differences stay below 2^124.
-constexpr float max_root_edge_of_finite_normals = 1152921504606846976.f; // 2^60
+constexpr float max_root_edge_of_finite_normals = 1152921504606846976.0f; ///< 2^60
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-namespace ox {
+namespace ox::internal {
 
 /// A phase's name and the seconds it lasts.
 using phase_experience = std::pair<std::string, double>;
@@ -17,6 +17,6 @@ bool read_experience(const std::string& path, std::vector<phase_experience>& exp
 /// Replaces the file; nothing happens when it cannot be opened.
 void write_experience(const std::string& path, const std::vector<phase_experience>& experience);
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -6,7 +6,7 @@
 #include <unordered_map>
 #include <vector>
 
-namespace ox {
+namespace ox::internal {
 
 /// One phase of a computation, and the part of the progress bar that belongs to it.
 struct ox_progress_manager_phase {
@@ -14,9 +14,9 @@ struct ox_progress_manager_phase {
     double weight = 0.0;
     double start = 0.0;
     double end = 0.0;
-    double duration = 0.0; // seconds
+    double duration = 0.0; ///< seconds
     ox_progress_manager_phase* parent = nullptr;
-    std::vector<ox_progress_manager_phase*> children; // in the order they were added
+    std::vector<ox_progress_manager_phase*> children; ///< in the order they were added
 };
 
 /// The phases of one progress manager. A tree may be as deep as it has phases, so nothing here
@@ -44,11 +44,11 @@ public:
     std::vector<ox_progress_manager_phase*> in_preorder() const;
 
 private:
-    std::vector<std::unique_ptr<ox_progress_manager_phase>> phases; // parents before children
+    std::vector<std::unique_ptr<ox_progress_manager_phase>> phases; ///< parents before children
     std::vector<ox_progress_manager_phase*> top_level;
     std::unordered_map<std::string, ox_progress_manager_phase*> by_name;
 };
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

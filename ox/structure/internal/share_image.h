@@ -1,10 +1,11 @@
 #ifndef OX_STRUCTURE_INTERNAL_SHARE_IMAGE_H
 #define OX_STRUCTURE_INTERNAL_SHARE_IMAGE_H
 
-#include <ox/geometry/ox_box.h>
 #include <vector>
 
-namespace ox {
+#include <ox/geometry/ox_box.h>
+
+namespace ox::internal {
 
 /// The picture of the shares: one pixel for each step along x and y.
 class share_image {
@@ -28,14 +29,14 @@ private:
     int width = 0;
     int height = 0;
     std::vector<unsigned int> pixels;
-    float scale = 0.f; ///< pixels per unit of length
-    float min_x = 0.f;
-    float min_y = 0.f;
+    float scale = 0.0f; ///< pixels per unit of length
+    float min_x = 0.0f;
+    float min_y = 0.0f;
 };
 
 /// The colour of the n-th beam that is painted; the palette has 12 and starts again.
 unsigned int share_color(unsigned int n);
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

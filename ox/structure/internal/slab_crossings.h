@@ -1,12 +1,13 @@
 #ifndef OX_STRUCTURE_INTERNAL_SLAB_CROSSINGS_H
 #define OX_STRUCTURE_INTERNAL_SLAB_CROSSINGS_H
 
+#include <vector>
+
 #include <ox/core/ox_list.h>
 #include <ox/geometry/ox_3dvector.h>
 #include <ox/internal/sweep_window.h>
-#include <vector>
 
-namespace ox {
+namespace ox::internal {
 
 /// The outline of a slab, met by a horizontal line that moves up.
 class slab_crossings {
@@ -32,6 +33,6 @@ private:
     std::vector<float> found;
 };
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

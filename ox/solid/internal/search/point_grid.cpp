@@ -5,6 +5,7 @@
 #include <cstring>
 #include <numeric>
 
+#include <ox/internal/hashing.h>
 #include <ox/internal/vectors.h>
 
 namespace ox::internal {
@@ -35,7 +36,7 @@ std::uint64_t mixed(std::uint64_t hash, double cell) {
     const double unsigned_zero = cell + 0.0;
     std::uint64_t bits = 0;
     std::memcpy(&bits, &unsigned_zero, sizeof(bits));
-    const std::uint64_t product = (hash ^ bits) * 0x9e3779b97f4a7c15U;
+    const std::uint64_t product = spread(hash ^ bits);
     return product ^ (product >> 32U);
 }
 

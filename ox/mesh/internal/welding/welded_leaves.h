@@ -1,35 +1,35 @@
-#ifndef OX_MESH_INTERNAL_WELDED_LEAVES_H
-#define OX_MESH_INTERNAL_WELDED_LEAVES_H
+#ifndef OX_MESH_INTERNAL_WELDING_WELDED_LEAVES_H
+#define OX_MESH_INTERNAL_WELDING_WELDED_LEAVES_H
 
 #include <cstdint>
 #include <vector>
 
 #include <ox/core/ox_list.h>
 #include <ox/geometry/ox_3dvector.h>
-#include <ox/mesh/internal/leaf_grid.h>
-#include <ox/mesh/internal/vertex_octree.h>
+#include <ox/mesh/internal/welding/leaf_grid.h>
+#include <ox/mesh/internal/welding/vertex_octree.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// Tells which welded vertices lie in the octree leaf that a further vertex reaches.
 ///
 /// While the leaves are a grid, that is computed from the two positions when it is asked. Once the
 /// octree has grown so far that origins are rounded, every vertex walks down the tree, and the
 /// number of the leaf that it reached is kept with it.
-class oxp_welded_leaves {
+class welded_leaves {
 public:
     /// The leaf that a vertex reaches.
     struct leaf {
-        std::uint32_t number; // 0 while the leaves are a grid
-        std::uint64_t key;    // of equal leaves equal; 0 where leaves need no telling apart
+        std::uint32_t number; ///< 0 while the leaves are a grid
+        std::uint64_t key;    ///< of equal leaves equal; 0 where leaves need no telling apart
     };
 
     /// Leaves below `leaf_size` of an octree that grows with the vertices.
-    explicit oxp_welded_leaves(float leaf_size);
+    explicit welded_leaves(float leaf_size);
 
     /// Leaves below `leaf_size` of an octree that holds all vertices to come. Where leaves are
     /// smaller than `crowding_edge`, they get keys of their own.
-    oxp_welded_leaves(const oxp_vertex_octree& octree, float leaf_size, double crowding_edge);
+    welded_leaves(const vertex_octree& octree, float leaf_size, double crowding_edge);
 
     /// Grows the octree over p. False, and nothing happens, when it cannot be grown so far.
     /// `welded` are the positions of all welded vertices. O(1), O(number of welded vertices) once.
@@ -43,10 +43,10 @@ public:
         return is_grid && !has_keys ? leaf{0, 0} : keyed_leaf_of(p);
     }
 
-    /// Tells whether welded vertex `number` at `position` lies in the leaf that p reached.
+    /// True if welded vertex `number` at `position` lies in the leaf that p reached.
     bool shares(const leaf& reached, const ox_3dvector& p, std::uint32_t number,
                 const ox_3dvector& position) const {
-        return is_grid ? number >= nb_abandoned && (p == position || grid.same_leaf(p, position))
+        return is_grid ? number >= abandoned_count && (p == position || grid.same_leaf(p, position))
                        : leaf_numbers[number] == reached.number;
     }
 
@@ -74,21 +74,21 @@ private:
     static constexpr std::uint32_t no_leaf = 0xFFFFFFFFu;
 
     bool grow_over(const ox_3dvector& p, const ox_list<ox_3dvector>& welded);
-    void prepare_growth(const oxp_octree_cell& root, const ox_list<ox_3dvector>& welded);
+    void prepare_growth(const octree_cell& root, const ox_list<ox_3dvector>& welded);
     void number_leaves(const ox_list<ox_3dvector>& welded);
     leaf keyed_leaf_of(const ox_3dvector& p);
     static std::uint64_t key_of_number(std::uint32_t number);
 
-    oxp_vertex_octree octree;
+    vertex_octree octree;
     float leaf_size;
-    oxp_leaf_grid grid;
+    leaf_grid grid;
     bool is_grid;
-    bool is_finished = false; // the octree contains all vertices to come
+    bool is_finished = false; ///< the octree contains all vertices to come
     bool has_keys = false;
-    std::uint32_t nb_abandoned = 0; // the first ones, in a leaf that no walk reaches any more
-    std::vector<std::uint32_t> leaf_numbers; // of each welded vertex, once the leaves are no grid
+    std::uint32_t abandoned_count = 0; ///< the first ones, in a leaf that no walk reaches any more
+    std::vector<std::uint32_t> leaf_numbers; ///< of each welded vertex, once the leaves are no grid
 };
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -1,7 +1,8 @@
-#include <cmath>
 #include <ox/progress/internal/phase_tree.h>
 
-namespace ox {
+#include <cmath>
+
+namespace ox::internal {
 
 namespace {
 
@@ -93,4 +94,4 @@ std::vector<ox_progress_manager_phase*> phase_tree::in_preorder() const {
     return listed;
 }
 
-} // namespace ox
+} // namespace ox::internal

@@ -12,7 +12,7 @@
 #include <ox/geometry/internal/tolerances.h>
 #include <ox/ox_functions.h>
 
-namespace ox {
+namespace ox::internal {
 
 namespace {
 
@@ -26,7 +26,7 @@ constexpr int most_points_of_dense_inverse = 1024;
 ox_list<float> zeros(int n) {
     ox_list<float> list(n);
     for (float& number : list) {
-        number = 0.f;
+        number = 0.0f;
     }
     return list;
 }
@@ -43,12 +43,12 @@ ox_list<float> damped_bends(const ox_list<ox_2dvector>& p, const ox_list<float>&
 ox_list<float> dense_matrix(const ox_list<float>& h) {
     const int n = h.size() + 1;
     ox_list<float> a = zeros(n * n);
-    a[0] = 1.f;
-    a[n * n - 1] = 1.f;
+    a[0] = 1.0f;
+    a[n * n - 1] = 1.0f;
     for (int k = 1; k + 1 < n; ++k) {
-        a[k * n + k - 1] = h[k - 1] / 6.f;
-        a[k * n + k] = (h[k - 1] + h[k]) / 3.f;
-        a[k * n + k + 1] = h[k] / 6.f;
+        a[k * n + k - 1] = h[k - 1] / 6.0f;
+        a[k * n + k] = (h[k - 1] + h[k]) / 3.0f;
+        a[k * n + k + 1] = h[k] / 6.0f;
     }
     return a;
 }
@@ -198,4 +198,4 @@ ox_list<float> spline_second_derivatives(const ox_list<ox_2dvector>& points,
     return result;
 }
 
-} // namespace ox
+} // namespace ox::internal

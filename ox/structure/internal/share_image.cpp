@@ -1,11 +1,13 @@
+#include <ox/structure/internal/share_image.h>
+
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <new>
-#include <ox/structure/internal/share_image.h>
+
 #include <ox/structure/internal/tolerances.h>
 
-namespace ox {
+namespace ox::internal {
 
 namespace {
 
@@ -32,7 +34,7 @@ bool share_image::start(const ox_box& slab, float step) {
     }
     width = static_cast<int>(columns);
     height = static_cast<int>(rows);
-    scale = 1.f / step;
+    scale = 1.0f / step;
     min_x = slab.origin.x;
     min_y = slab.origin.y;
     return true;
@@ -60,7 +62,7 @@ void share_image::paint(float y, float left, float right, float beam, unsigned i
     line[pixel(beam, min_x, width)] = 0;
 }
 
-// The ninth and the tenth colour are the same.
+/// The ninth and the tenth colour are the same.
 unsigned int share_color(unsigned int n) {
     static const unsigned int palette[] = {0xFF0000FFu, 0xFF00FF00u, 0xFFFF0000u, 0xFFFFFF00u,
                                            0xFFFF00FFu, 0xFF00FFFFu, 0xFFFFFF64u, 0xFFFF64FFu,
@@ -68,4 +70,4 @@ unsigned int share_color(unsigned int n) {
     return palette[n % 12];
 }
 
-} // namespace ox
+} // namespace ox::internal

@@ -7,7 +7,7 @@
 #include <ox/internal/open_path.h>
 #include <ox/internal/plain_numbers.h>
 
-namespace ox {
+namespace ox::internal {
 
 namespace {
 
@@ -43,4 +43,4 @@ void write_experience(const std::string& path, const std::vector<phase_experienc
     }
 }
 
-} // namespace ox
+} // namespace ox::internal

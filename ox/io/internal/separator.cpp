@@ -3,11 +3,12 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
-#include <ox/internal/log_line.h>
-#include <ox/io/internal/csv_detection.h>
 #include <string_view>
 
-namespace ox {
+#include <ox/internal/log_line.h>
+#include <ox/io/internal/csv_detection.h>
+
+namespace ox::internal {
 
 namespace {
 
@@ -69,14 +70,14 @@ counts count_occurrences(const std::string& text) {
 
 /// How often something occurs for each line break. What never occurs has a mean of 0, also in a
 /// text without line breaks.
-double mean_per_line(std::size_t nb_occurrences, std::size_t nb_line_breaks) {
-    if (nb_occurrences == 0) {
+double mean_per_line(std::size_t occurrence_count, std::size_t line_break_count) {
+    if (occurrence_count == 0) {
         return 0.0;
     }
-    if (nb_line_breaks == 0) {
+    if (line_break_count == 0) {
         return std::numeric_limits<double>::infinity();
     }
-    return static_cast<double>(nb_occurrences) / static_cast<double>(nb_line_breaks);
+    return static_cast<double>(occurrence_count) / static_cast<double>(line_break_count);
 }
 
 /// How a candidate is spread over the lines of a text.
@@ -160,4 +161,4 @@ separator_choice choose_separator(const std::string& text) {
     return {candidates[chosen], occurrences[chosen] + occurrences.back(), occurrences.back()};
 }
 
-} // namespace ox
+} // namespace ox::internal

@@ -1,11 +1,12 @@
 #include <algorithm>
 #include <array>
 #include <optional>
-#include <ox/core/ox_log.h>
-#include <ox/io/internal/csv_detection.h>
 #include <string_view>
 
-namespace ox {
+#include <ox/core/ox_log.h>
+#include <ox/io/internal/csv_detection.h>
+
+namespace ox::internal {
 
 namespace {
 
@@ -38,36 +39,36 @@ private:
 /// The last line with a text character in the column that the text ends in, which is the only one
 /// that counts; none when there is no such line. The search ends at the first below `lowest`.
 std::optional<std::size_t> last_text_line(const cell_text& text, const text_characters& characters,
-                                          std::size_t nb_line_breaks, std::size_t lowest) {
+                                          std::size_t line_break_count, std::size_t lowest) {
     const std::size_t column = text.get_last_column();
     std::optional<std::size_t> last;
-    for (std::size_t line = 0; line < nb_line_breaks; ++line) {
-        if (column < text.get_nb_cells(line) && characters.any_in(text.get_cell(line, column))) {
+    for (std::size_t line = 0; line < line_break_count; ++line) {
+        if (column < text.get_cell_count(line) && characters.any_in(text.get_cell(line, column))) {
             last = line;
             if (line > lowest) {
                 return last;
             }
         }
     }
-    return characters.any_in(text.get_rest()) ? nb_line_breaks : last;
+    return characters.any_in(text.get_rest()) ? line_break_count : last;
 }
 
 } // namespace
 
-std::size_t count_header_lines(const cell_text& text, std::size_t nb_line_breaks) {
+std::size_t count_header_lines(const cell_text& text, std::size_t line_break_count) {
     const text_characters characters(text.get_separator());
-    const std::size_t lowest = std::min(last_possible_header_line, nb_line_breaks / 2);
+    const std::size_t lowest = std::min(last_possible_header_line, line_break_count / 2);
     const std::optional<std::size_t> last =
-        last_text_line(text, characters, nb_line_breaks, lowest);
-    std::size_t nb_lines = 0;
+        last_text_line(text, characters, line_break_count, lowest);
+    std::size_t line_count = 0;
     if (last.has_value()) {
-        nb_lines = *last <= lowest ? *last + 1 : 0;
+        line_count = *last <= lowest ? *last + 1 : 0;
     } else if (characters.any_in(text.get_text())) {
-        nb_lines = 1; // text in other columns alone makes the first line a header
+        line_count = 1; // text in other columns alone makes the first line a header
     }
-    const std::string message = "Header lines : " + std::to_string(nb_lines);
+    const std::string message = "Header lines : " + std::to_string(line_count);
     ox_log_thread_safe(message.c_str());
-    return nb_lines;
+    return line_count;
 }
 
-} // namespace ox
+} // namespace ox::internal

@@ -1,9 +1,9 @@
-#include <ox/mesh/internal/mesh_file.h>
+#include <ox/mesh/internal/files/mesh_file.h>
 
 #include <filesystem>
 #include <system_error>
 
-namespace ox {
+namespace ox::internal {
 
 namespace {
 
@@ -15,20 +15,20 @@ std::uint64_t size_of_file(const char* path) {
 
 } // namespace
 
-oxp_mesh_file::oxp_mesh_file(const char* path, const char* mode) : stream(open_path(path, mode)) {
+mesh_file::mesh_file(const char* path, const char* mode) : stream(open_path(path, mode)) {
     if (is_open()) {
         size = size_of_file(path);
     }
 }
 
-bool oxp_mesh_file::read(void* data, std::size_t bytes) {
+bool mesh_file::read(void* data, std::size_t bytes) {
     const std::size_t done = bytes == 0 ? 0 : std::fread(data, 1, bytes, stream.get());
     position += done;
     return done == bytes;
 }
 
-bool oxp_mesh_file::write(const void* data, std::size_t bytes) {
+bool mesh_file::write(const void* data, std::size_t bytes) {
     return bytes == 0 || std::fwrite(data, 1, bytes, stream.get()) == bytes;
 }
 
-} // namespace ox
+} // namespace ox::internal

@@ -1,5 +1,5 @@
-#ifndef OX_STRUCTURE_INTERNAL_OXP_LOADSHARE_H
-#define OX_STRUCTURE_INTERNAL_OXP_LOADSHARE_H
+#ifndef OX_STRUCTURE_INTERNAL_OX_LOADSHARE_STATE_H
+#define OX_STRUCTURE_INTERNAL_OX_LOADSHARE_STATE_H
 
 #include <ox/core/ox_list.h>
 #include <ox/geometry/ox_3dvector.h>
@@ -13,25 +13,25 @@ struct oxp_beam {
     ox_3dvector start;
     ox_3dvector end;
     unsigned int color = 0; ///< 0 until the beam is painted
-    float weight = 0.f;     ///< the area it collected
+    float weight = 0.0f;    ///< the area it collected
 };
 
 /// The record behind an `ox_loadshare`.
-struct oxp_loadshare {
+struct ox_loadshare_state {
     ox_list<ox_list<ox_3dvector>> contours; ///< in the frame of the slab, z = 0
-    ox_3dvector x_axis = ox_3dvector(1.f, 0.f, 0.f);
-    ox_3dvector y_axis = ox_3dvector(0.f, 1.f, 0.f);
-    ox_3dvector normal = ox_3dvector(0.f, 0.f, 1.f);
-    float slab_weight = 1.f;
+    ox_3dvector x_axis = ox_3dvector(1.0f, 0.0f, 0.0f);
+    ox_3dvector y_axis = ox_3dvector(0.0f, 1.0f, 0.0f);
+    ox_3dvector normal = ox_3dvector(0.0f, 0.0f, 1.0f);
+    float slab_weight = 1.0f;
     ox_list<oxp_beam> beams;
     ox_box bounds; ///< of the contours
     bool log = false;
     bool paint = false;
-    share_image image;
+    internal::share_image image;
 
     /// The coordinates of a point in the frame.
     ox_3dvector project(const ox_3dvector& p) const {
-        return ox_3dvector(ox_dot(p, x_axis), ox_dot(p, y_axis), 0.f);
+        return ox_3dvector(ox_dot(p, x_axis), ox_dot(p, y_axis), 0.0f);
     }
 };
 

@@ -1,5 +1,5 @@
-#ifndef OX_MESH_INTERNAL_MESH_FILE_H
-#define OX_MESH_INTERNAL_MESH_FILE_H
+#ifndef OX_MESH_INTERNAL_FILES_MESH_FILE_H
+#define OX_MESH_INTERNAL_FILES_MESH_FILE_H
 
 #include <cstddef>
 #include <cstdint>
@@ -7,16 +7,16 @@
 
 #include <ox/internal/open_path.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// An open file of plain little-endian items, closed with the object. Items are transferred as
 /// they lie in memory: all platforms of the library are little-endian.
-class oxp_mesh_file {
+class mesh_file {
 public:
     /// Opens `path` as `open_path` does: nothing but regular files for reading.
-    oxp_mesh_file(const char* path, const char* mode);
+    mesh_file(const char* path, const char* mode);
 
-    /// Tells whether the file was opened.
+    /// True if the file was opened.
     bool is_open() const { return stream != nullptr; }
 
     /// Reads `bytes` bytes; false when fewer are left.
@@ -38,6 +38,6 @@ private:
     std::uint64_t position = 0;
 };
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

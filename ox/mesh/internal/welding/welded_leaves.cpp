@@ -1,6 +1,8 @@
-#include <ox/mesh/internal/welded_leaves.h>
+#include <ox/mesh/internal/welding/welded_leaves.h>
 
-namespace ox {
+#include <ox/internal/hashing.h>
+
+namespace ox::internal {
 
 namespace {
 
@@ -13,30 +15,30 @@ float leaf_edge_below(float leaf_size, float root_edge) {
     return edge;
 }
 
-oxp_leaf_grid grid_below(const oxp_octree_cell& root, float leaf_size) {
-    return oxp_leaf_grid(root, leaf_edge_below(leaf_size, root.edge));
+leaf_grid grid_below(const octree_cell& root, float leaf_size) {
+    return leaf_grid(root, leaf_edge_below(leaf_size, root.edge));
 }
 
 } // namespace
 
-oxp_welded_leaves::oxp_welded_leaves(float largest_leaf_size)
+welded_leaves::welded_leaves(float largest_leaf_size)
     : leaf_size(largest_leaf_size), grid(grid_below(octree.get_root(), leaf_size)),
       is_grid(grid.is_exact()) {}
 
-oxp_welded_leaves::oxp_welded_leaves(const oxp_vertex_octree& finished_octree,
-                                     float largest_leaf_size, double crowding_edge)
+welded_leaves::welded_leaves(const vertex_octree& finished_octree, float largest_leaf_size,
+                             double crowding_edge)
     : octree(finished_octree), leaf_size(largest_leaf_size),
       grid(grid_below(octree.get_root(), leaf_size)), is_grid(grid.is_exact()), is_finished(true),
       has_keys(grid.leaf_edge() < crowding_edge) {}
 
-std::uint64_t oxp_welded_leaves::key_of(std::uint32_t number, const ox_3dvector& position) const {
+std::uint64_t welded_leaves::key_of(std::uint32_t number, const ox_3dvector& position) const {
     if (!has_keys) {
         return 0;
     }
     return is_grid ? grid.hash_of_leaf(position) : key_of_number(leaf_numbers[number]);
 }
 
-bool oxp_welded_leaves::grow_over(const ox_3dvector& p, const ox_list<ox_3dvector>& welded) {
+bool welded_leaves::grow_over(const ox_3dvector& p, const ox_list<ox_3dvector>& welded) {
     if (!octree.can_contain(p)) {
         return false;
     }
@@ -53,11 +55,10 @@ bool oxp_welded_leaves::grow_over(const ox_3dvector& p, const ox_list<ox_3dvecto
 }
 
 /// Keeps the leaves of the welded vertices known while `root` becomes the root.
-void oxp_welded_leaves::prepare_growth(const oxp_octree_cell& root,
-                                       const ox_list<ox_3dvector>& welded) {
-    const oxp_leaf_grid grown = grid_below(root, leaf_size);
+void welded_leaves::prepare_growth(const octree_cell& root, const ox_list<ox_3dvector>& welded) {
+    const leaf_grid grown = grid_below(root, leaf_size);
     if (root.edge < leaf_size) {
-        nb_abandoned = static_cast<std::uint32_t>(welded.size());
+        abandoned_count = static_cast<std::uint32_t>(welded.size());
     }
     if (grown.is_exact()) {
         grid = grown;
@@ -67,17 +68,17 @@ void oxp_welded_leaves::prepare_growth(const oxp_octree_cell& root,
 }
 
 /// Every welded vertex walks to the leaf that it was in since it was added.
-void oxp_welded_leaves::number_leaves(const ox_list<ox_3dvector>& welded) {
+void welded_leaves::number_leaves(const ox_list<ox_3dvector>& welded) {
     std::vector<std::uint32_t> numbers;
     for (const ox_3dvector& position : welded) {
-        const bool is_reachable = numbers.size() >= nb_abandoned && octree.contains(position);
+        const bool is_reachable = numbers.size() >= abandoned_count && octree.contains(position);
         numbers.push_back(is_reachable ? octree.leaf_below_size(position, leaf_size) : no_leaf);
     }
     leaf_numbers.swap(numbers);
     is_grid = false;
 }
 
-oxp_welded_leaves::leaf oxp_welded_leaves::keyed_leaf_of(const ox_3dvector& p) {
+welded_leaves::leaf welded_leaves::keyed_leaf_of(const ox_3dvector& p) {
     if (is_grid) {
         return {0, grid.hash_of_leaf(p)};
     }
@@ -85,8 +86,8 @@ oxp_welded_leaves::leaf oxp_welded_leaves::keyed_leaf_of(const ox_3dvector& p) {
     return {number, has_keys ? key_of_number(number) : 0};
 }
 
-std::uint64_t oxp_welded_leaves::key_of_number(std::uint32_t number) {
-    return number * std::uint64_t{0x9E3779B97F4A7C15u};
+std::uint64_t welded_leaves::key_of_number(std::uint32_t number) {
+    return spread(number);
 }
 
-} // namespace ox
+} // namespace ox::internal

@@ -6,7 +6,7 @@
 #include <sys/mman.h>
 #endif
 
-namespace ox {
+namespace ox::internal {
 
 #if defined(__linux__) && defined(MADV_HUGEPAGE)
 
@@ -20,7 +20,7 @@ constexpr std::size_t smallest_large_array = std::size_t{4} << 20;
 
 } // namespace
 
-void oxp_prefer_large_pages(void* memory, std::size_t bytes) {
+void prefer_large_pages(void* memory, std::size_t bytes) {
     if (bytes < smallest_large_array) {
         return;
     }
@@ -33,8 +33,8 @@ void oxp_prefer_large_pages(void* memory, std::size_t bytes) {
 
 #else
 
-void oxp_prefer_large_pages(void*, std::size_t) {}
+void prefer_large_pages(void*, std::size_t) {}
 
 #endif
 
-} // namespace ox
+} // namespace ox::internal

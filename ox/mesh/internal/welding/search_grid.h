@@ -1,12 +1,13 @@
-#ifndef OX_MESH_INTERNAL_SEARCH_GRID_H
-#define OX_MESH_INTERNAL_SEARCH_GRID_H
+#ifndef OX_MESH_INTERNAL_WELDING_SEARCH_GRID_H
+#define OX_MESH_INTERNAL_WELDING_SEARCH_GRID_H
 
 #include <cstdint>
 #include <cstring>
 
 #include <ox/geometry/ox_3dvector.h>
+#include <ox/internal/hashing.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// A grid of cells a few position tolerances wide that proposes which vertices may be close to
 /// another. Cells have no list of their own; they are known by a 64-bit key, which two cells may
@@ -14,13 +15,13 @@ namespace ox {
 ///
 /// Two positions within the tolerance of each other on every axis lie in the same cell or in two of
 /// those that `keys_near` names for either of them; positions that are equal have the same key.
-class oxp_search_grid {
+class search_grid {
 public:
     /// The most cells that `keys_near` names.
     static constexpr int max_near = 27;
 
     /// The tolerance is in model units, not negative, and may be infinite.
-    explicit oxp_search_grid(float tolerance);
+    explicit search_grid(float tolerance);
 
     /// Halves the cells, which changes all keys. False, and nothing happens, when they are as
     /// narrow as they may be.
@@ -40,7 +41,7 @@ public:
 
 private:
     /// Added to a double below 2^51, it leaves no bits for fractions: the sum is a whole number.
-    static constexpr double rounding_to_whole = 6755399441055744.0; // 1.5 * 2^52
+    static constexpr double rounding_to_whole = 6755399441055744.0; ///< 1.5 * 2^52
 
     /// The nearest whole number of cells, moved by a constant. It never decreases with the
     /// position, whatever the rounding, and is the same for 0 and -0.
@@ -50,8 +51,7 @@ private:
 
     /// A multiplicative hash of three coordinates; its high bits are the best ones.
     static std::uint64_t key_of_cell(double x, double y, double z) {
-        const std::uint64_t sum = bits_of(x) * 0x9E3779B97F4A7C15u +
-                                  bits_of(y) * 0xC2B2AE3D27D4EB4Fu +
+        const std::uint64_t sum = spread(bits_of(x)) + bits_of(y) * 0xC2B2AE3D27D4EB4Fu +
                                   bits_of(z) * 0x165667B19E3779F9u;
         return (sum ^ (sum >> 32)) * 0xD6E8FEB86659FD93u;
     }
@@ -71,6 +71,6 @@ private:
     double cells_per_unit;
 };
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

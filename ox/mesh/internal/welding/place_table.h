@@ -1,5 +1,5 @@
-#ifndef OX_MESH_INTERNAL_PLACE_TABLE_H
-#define OX_MESH_INTERNAL_PLACE_TABLE_H
+#ifndef OX_MESH_INTERNAL_WELDING_PLACE_TABLE_H
+#define OX_MESH_INTERNAL_WELDING_PLACE_TABLE_H
 
 #include <algorithm>
 #include <cstddef>
@@ -8,9 +8,8 @@
 
 #include <ox/geometry/ox_3dvector.h>
 #include <ox/mesh/internal/large_array.h>
-#include <ox/mesh/internal/prefetch.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// A hash table of numbered positions (0, 1, 2, ...) by 64-bit keys: each key leads to a bucket,
 /// each bucket to a chain of numbers, the newest first. Keys are not kept, so a chain also holds
@@ -18,7 +17,7 @@ namespace ox {
 ///
 /// A bucket holds the position of its newest number, so that most look-ups touch memory once. The
 /// caller keeps all positions; every number carries a mark of the caller's.
-class oxp_place_table {
+class place_table {
 public:
     /// The end of a chain.
     static constexpr std::uint32_t none = 0x7FFFFFFFu;
@@ -30,7 +29,7 @@ public:
         std::uint32_t marked : 1;
     };
 
-    oxp_place_table() { empty_buckets(2); }
+    place_table() { empty_buckets(2); }
 
     /// How many numbers there are, those in no chain included.
     std::size_t size() const { return links.size(); }
@@ -48,7 +47,7 @@ public:
     bool is_marked(std::uint32_t number) const { return links[number].marked != 0; }
 
     /// Starts to fetch what `newest(key)` reads.
-    void prefetch(std::uint64_t key) const { oxp_prefetch(&buckets[key >> shift]); }
+    void prefetch(std::uint64_t key) const { prefetch_memory(&buckets[key >> shift]); }
 
     /// Adds the next number, for which there must be room, to the chain of a key.
     void add(std::uint64_t key, const ox_3dvector& position, bool marked) {
@@ -59,13 +58,13 @@ public:
     /// Adds the next number, for which there must be room, to no chain.
     void add_unchained() { links.push_back({unchained, false}); }
 
-    /// Makes room for `nb_numbers` numbers, with a bucket for each, and chains those that are there
-    /// anew, by `key_of(number)` and `positions[number]`. O(nb_numbers).
+    /// Makes room for `number_count` numbers, with a bucket for each, and chains those that are
+    /// there anew, by `key_of(number)` and `positions[number]`. O(number_count).
     template <typename KeyOf>
-    void make_room(std::size_t nb_numbers, const ox_3dvector* positions, const KeyOf& key_of) {
-        links.reserve(nb_numbers);
-        empty_buckets(nb_numbers);
-        room = nb_numbers;
+    void make_room(std::size_t number_count, const ox_3dvector* positions, const KeyOf& key_of) {
+        links.reserve(number_count);
+        empty_buckets(number_count);
+        room = number_count;
         for (std::uint32_t number = 0; number < links.size(); ++number) {
             if (links[number].older != unchained) {
                 chain(key_of(number), positions[number], number);
@@ -96,21 +95,21 @@ private:
             count *= 2;
             ++bits;
         }
-        if (count != nb_buckets) {
-            buckets = oxp_make_large_array<place>(count);
-            nb_buckets = count;
+        if (count != bucket_count) {
+            buckets = make_large_array<place>(count);
+            bucket_count = count;
             shift = 64 - bits;
         }
         std::fill(buckets.get(), buckets.get() + count, place{ox_3dvector(), none, 0});
     }
 
-    oxp_large_array<place> buckets;
-    std::size_t nb_buckets = 0;
-    std::vector<link> links; // one for each number
-    int shift = 63;          // from a key to its bucket: the high bits
+    large_array<place> buckets;
+    std::size_t bucket_count = 0;
+    std::vector<link> links; ///< one for each number
+    int shift = 63;          ///< from a key to its bucket: the high bits
     std::size_t room = 0;
 };
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

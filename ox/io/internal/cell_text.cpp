@@ -1,14 +1,15 @@
-#include <algorithm>
 #include <ox/io/internal/cell_text.h>
+
+#include <algorithm>
 #include <utility>
 
-namespace ox {
+namespace ox::internal {
 
-cell_text::cell_text(std::string whole_text, char column_separator, std::size_t nb_cells,
-                     std::size_t nb_lines)
+cell_text::cell_text(std::string whole_text, char column_separator, std::size_t cell_count,
+                     std::size_t line_count)
     : text(std::move(whole_text)), separator(column_separator) {
-    ends.reserve(nb_cells);
-    line_starts.reserve(nb_lines + 2);
+    ends.reserve(cell_count);
+    line_starts.reserve(line_count + 2);
     for (std::size_t place = 0; place < text.size(); ++place) {
         const char c = text[place];
         if (c == separator) {
@@ -19,7 +20,7 @@ cell_text::cell_text(std::string whole_text, char column_separator, std::size_t 
         }
     }
     last_column = ends.size() - line_starts.back();
-    nb_columns = std::max(nb_columns, last_column + 1);
+    column_count = std::max(column_count, last_column + 1);
     if (last_column > 0) {
         end_line();
     }
@@ -33,8 +34,8 @@ void cell_text::add_line(std::string_view cell) {
 }
 
 void cell_text::end_line() {
-    nb_columns = std::max(nb_columns, ends.size() - line_starts.back());
+    column_count = std::max(column_count, ends.size() - line_starts.back());
     line_starts.push_back(ends.size());
 }
 
-} // namespace ox
+} // namespace ox::internal

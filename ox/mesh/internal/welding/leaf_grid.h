@@ -1,13 +1,13 @@
-#ifndef OX_MESH_INTERNAL_LEAF_GRID_H
-#define OX_MESH_INTERNAL_LEAF_GRID_H
+#ifndef OX_MESH_INTERNAL_WELDING_LEAF_GRID_H
+#define OX_MESH_INTERNAL_WELDING_LEAF_GRID_H
 
 #include <cmath>
 #include <cstdint>
 
 #include <ox/geometry/ox_3dvector.h>
-#include <ox/mesh/internal/vertex_octree.h>
+#include <ox/mesh/internal/welding/vertex_octree.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// The leaves of a vertex octree as a uniform grid, which needs no walk through the tree.
 ///
@@ -19,25 +19,25 @@ namespace ox {
 /// of the leaf's edge and 1. Single precision holds 2^24 of them: all whole numbers of the root,
 /// when its edge is at most 2^24, and finer ones, which occur only within 1 of the vertex, near
 /// vertices that the grid `covers`. An origin of 0 leaves the multiples of every edge exact.
-class oxp_leaf_grid {
+class leaf_grid {
 public:
     /// The leaves of edge `leaf_edge`, a power of two not above the root's edge.
-    oxp_leaf_grid(const oxp_octree_cell& root, float leaf_edge);
+    leaf_grid(const octree_cell& root, float leaf_edge);
 
-    /// Tells whether the leaves are a grid, at least near the origin. The other members may be
+    /// True if the leaves are a grid, at least near the origin. The other members may be
     /// used only when they are.
     bool is_exact() const { return exact; }
 
-    /// Tells whether the grid holds at a vertex within the root.
+    /// True if the grid holds at a vertex within the root.
     bool covers(const ox_3dvector& p) const {
         return covers_root ||
                (std::fabs(p.x) <= limit && std::fabs(p.y) <= limit && std::fabs(p.z) <= limit);
     }
 
-    /// Tells whether it holds at every vertex within the root.
+    /// True if it holds at every vertex within the root.
     bool covers_all() const { return covers_root; }
 
-    /// Tells whether two vertices that the grid covers lie in the same leaf.
+    /// True if two vertices that the grid covers lie in the same leaf.
     bool same_leaf(const ox_3dvector& p, const ox_3dvector& q) const;
 
     /// A hash of the leaf that a vertex lies in which the grid covers.
@@ -52,11 +52,11 @@ private:
     ox_3dvector root_origin;
     float edge;
     double unit;
-    float limit; // of the coordinates, to both sides of 0
+    float limit; ///< of the coordinates, to both sides of 0
     bool exact;
     bool covers_root;
 };
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

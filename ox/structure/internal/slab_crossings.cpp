@@ -1,9 +1,10 @@
+#include <ox/structure/internal/slab_crossings.h>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <ox/structure/internal/slab_crossings.h>
 
-namespace ox {
+namespace ox::internal {
 
 namespace {
 
@@ -88,7 +89,7 @@ const std::vector<float>& slab_crossings::find(float y) {
             i.at = std::numeric_limits<float>::infinity(); // behind all crossings
         }
     }
-    window.order_met();
+    window.order_active();
     found.clear();
     for (std::size_t i = 0; i < count; ++i) {
         found.push_back(met[i].at);
@@ -96,4 +97,4 @@ const std::vector<float>& slab_crossings::find(float y) {
     return found;
 }
 
-} // namespace ox
+} // namespace ox::internal

@@ -20,6 +20,9 @@ constexpr double own_plane_spacings = 4.0;
 /// Cosine between the normals of pieces of one plane.
 constexpr double same_way_cosine = 0.7;
 
+/// Neighbours off the plane of a group that are tried together with it.
+constexpr int joint_fit_count = 8;
+
 /// An edge of a piece.
 struct piece_edge {
     directed_edge edge;
@@ -128,6 +131,7 @@ face_group group_search::grow_from(int first) {
     };
     candidates.is_reversed = [](int, const std::array<double, 3>&) { return false; };
     candidates.join = [this](int piece) { is_grouped[static_cast<std::size_t>(piece)] = true; };
+    candidates.joint_fit_count = joint_fit_count;
     face_group group;
     group.plane = at(first).plane;
     candidates.join(first);

@@ -1,5 +1,7 @@
 #include <ox/solid/internal/csg/plane_growth.h>
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace ox::internal::csg {
@@ -8,6 +10,41 @@ namespace {
 
 /// Times that what lay off the plane is tried again after the growth has come to an end.
 constexpr int largest_retry_count = 4;
+
+/// The plane of least squares through corners, by their heights over a plane that is nearly it: the
+/// area vector says little where narrow faces lie far apart.
+fitted_plane fit_corners(const std::array<double, 3>& normal, const std::vector<grid_point>& points,
+                         const face_boundary& boundary) {
+    fitted_plane fitted = fit_plane(points, boundary);
+    const std::array<double, 3> axis = std::fabs(normal[0]) < 0.7
+                                           ? std::array<double, 3>{1.0, 0.0, 0.0}
+                                           : std::array<double, 3>{0.0, 1.0, 0.0};
+    const std::array<double, 3> u = cross(axis, normal);
+    const std::array<double, 3> v = cross(normal, u);
+    std::array<double, 5> sums = {0.0, 0.0, 0.0, 0.0, 0.0}; // uu, uv, vv, uh, vh
+    for (const directed_edge& edge : boundary) {
+        const std::array<double, 3> way =
+            difference(fitted.point, points[static_cast<std::size_t>(edge[0])]);
+        const double along_u = dot(way, u);
+        const double along_v = dot(way, v);
+        const double height = dot(way, normal);
+        sums = {sums[0] + along_u * along_u, sums[1] + along_u * along_v,
+                sums[2] + along_v * along_v, sums[3] + along_u * height,
+                sums[4] + along_v * height};
+    }
+    const double determinant = sums[0] * sums[2] - sums[1] * sums[1];
+    if (!(determinant > 0.0)) {
+        return fitted;
+    }
+    const double a = (sums[3] * sums[2] - sums[4] * sums[1]) / determinant;
+    const double b = (sums[4] * sums[0] - sums[3] * sums[1]) / determinant;
+    const std::array<double, 3> tilted = {normal[0] - a * u[0] - b * v[0],
+                                          normal[1] - a * u[1] - b * v[1],
+                                          normal[2] - a * u[2] - b * v[2]};
+    const double length = std::sqrt(dot(tilted, tilted));
+    fitted.normal = {tilted[0] / length, tilted[1] / length, tilted[2] / length};
+    return fitted;
+}
 
 class plane_growth {
 public:
@@ -20,6 +57,9 @@ private:
     void grow();
     void try_to_join(int candidate);
     bool refit();
+    bool fit(const face_boundary& all, double allowed);
+    face_boundary boundary_of_members() const;
+    void fit_jointly();
 
     fitted_plane& plane;
     double reach;
@@ -57,23 +97,50 @@ void plane_growth::grow() {
     }
 }
 
-/// Takes the plane of all members where they lie in it; true where it did.
-bool plane_growth::refit() {
-    fitted_count = members.size();
+face_boundary plane_growth::boundary_of_members() const {
     face_boundary all;
     for (const int member : members) {
-        const face_boundary& part = candidates.boundary_of(member);
         const bool is_reversed = candidates.is_reversed(member, plane.normal);
-        for (const directed_edge& edge : part) {
+        for (const directed_edge& edge : candidates.boundary_of(member)) {
             all.push_back(is_reversed ? directed_edge{edge[1], edge[0]} : edge);
         }
     }
-    const fitted_plane fitted = fit_plane(*candidates.points, all);
-    if (fitted.area == 0.0 || !lies_within(fitted, *candidates.points, all, reach)) {
+    return all;
+}
+
+/// Takes the plane of a boundary where all of it lies in it; true where it did.
+bool plane_growth::fit(const face_boundary& all, double allowed) {
+    const fitted_plane fitted = fit_corners(plane.normal, *candidates.points, all);
+    if (fitted.area == 0.0 || !lies_within(fitted, *candidates.points, all, allowed)) {
         return false;
     }
     plane = fitted;
     return true;
+}
+
+bool plane_growth::refit() {
+    fitted_count = members.size();
+    return fit(boundary_of_members(), reach);
+}
+
+/// Tries some of those that were refused together with all members.
+void plane_growth::fit_jointly() {
+    for (int attempt = 0; attempt < candidates.joint_fit_count && !refused.empty(); ++attempt) {
+        const int candidate = refused.back();
+        refused.pop_back();
+        const double allowed = candidates.allowed_deviation(candidate, plane.normal);
+        if (allowed < 0.0) {
+            continue;
+        }
+        face_boundary all = boundary_of_members();
+        const face_boundary& added = candidates.boundary_of(candidate);
+        all.insert(all.end(), added.begin(), added.end());
+        if (fit(all, std::min(allowed, reach))) {
+            candidates.join(candidate);
+            members.push_back(candidate);
+            grow();
+        }
+    }
 }
 
 std::vector<int> plane_growth::run(int first) {
@@ -88,6 +155,7 @@ std::vector<int> plane_growth::run(int first) {
         }
         grow();
     }
+    fit_jointly();
     return std::move(members);
 }
 

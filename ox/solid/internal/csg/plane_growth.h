@@ -26,6 +26,10 @@ struct plane_candidates {
 
     /// Told of each one that joins.
     std::function<void(int)> join;
+
+    /// How many that lie off the plane are tried together with all members: a narrow first face
+    /// says little of the plane far from it.
+    int joint_fit_count = 0;
 };
 
 /// Collects those of one plane around a first candidate, which comes first. The plane is that of

@@ -18,7 +18,8 @@ arrangement_input random_input(std::mt19937& engine, int size, std::int64_t unit
     input_builder builder;
     builder.add(operation::unite, random_shape(engine, size, unit));
     for (int i = 1; i < operand_count; ++i) {
-        builder.add(random_operation(engine), random_shape(engine, size, unit));
+        const operation applied = random_operation(engine);
+        builder.add(applied, random_shape(engine, size, unit));
     }
     return builder.input();
 }

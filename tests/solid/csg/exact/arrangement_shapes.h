@@ -102,7 +102,8 @@ inline shape random_shape(std::mt19937& engine, int size, std::int64_t unit) {
     const int kind = reference::plain_dice(engine, 0, 9);
     if (kind < 4) {
         const grid_point low = point();
-        return brick(low, point(), static_cast<unsigned int>(engine()));
+        const grid_point high = point();
+        return brick(low, high, static_cast<unsigned int>(engine()));
     }
     if (kind < 8) {
         const grid_point a = point();

@@ -33,9 +33,10 @@ bool hand_over(const ox_list<ox_debug*>& children, ox_list<ox_debug*>& pending) 
 
 } // namespace
 
-/// Deleting the children one inside the other would need a stack as deep as the tree, so the list of
-/// the root's children serves as the stack of the nodes still to be deleted: a parent goes before
-/// its children and siblings go in their order. Without memory for that, the children go from here.
+/// Deleting the children one inside the other would need a stack as deep as the tree, so the list
+/// of the root's children serves as the stack of the nodes still to be deleted: a parent goes
+/// before its children and siblings go in their order. Without memory for that, the children go
+/// from here.
 ox_debug::~ox_debug() {
     if (pending_nodes != nullptr && hand_over(children, *pending_nodes)) {
         return;

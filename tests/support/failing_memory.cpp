@@ -81,6 +81,14 @@ void* operator new[](std::size_t bytes) {
     return operator new(bytes);
 }
 
+void* operator new(std::size_t bytes, const std::nothrow_t&) noexcept {
+    return refuses_next() ? nullptr : std::malloc(bytes);
+}
+
+void* operator new[](std::size_t bytes, const std::nothrow_t& tag) noexcept {
+    return operator new(bytes, tag);
+}
+
 void operator delete(void* block) noexcept {
     std::free(block);
 }

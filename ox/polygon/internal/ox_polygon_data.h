@@ -5,6 +5,7 @@
 #include <ox/geometry/ox_3dvector.h>
 #include <ox/geometry/ox_box.h>
 #include <ox/internal/boolean_operation.h>
+#include <ox/polygon/internal/change_watch.h>
 #include <ox/polygon/internal/plane_frame.h>
 
 namespace ox {
@@ -28,6 +29,7 @@ struct ox_polygon_data : internal::plane_frame {
     float area = 0.0f; ///< of the triangles
     ox_list<ox_3dvector> tesselation_vertices;
     ox_list<unsigned int> tesselation_triangles;
+    internal::change_watch watch; ///< of contours and plane
 
     /// Merges the pending contours: the head of every query.
     void compute_contours();
@@ -57,7 +59,7 @@ struct ox_polygon_data : internal::plane_frame {
     void clear_contours();
 
     /// To be called after every change of the normalised contours: their triangles and their
-    /// bounding box are no longer known.
+    /// bounding box are no longer known, and who watches them is told.
     void forget_derived();
 
     /// Empties the region when the plane or a vertex holds a number that is not finite, so that

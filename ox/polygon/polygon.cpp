@@ -28,8 +28,13 @@ ox_polygon_data* ox_polygon_data::copy() {
     return made.release();
 }
 
-void ox_polygon_data::clear() {
+void ox_polygon_data::tell_change() noexcept {
     watch.tell();
+    containment.forget();
+}
+
+void ox_polygon_data::clear() {
+    tell_change();
     pending_vertices.clear();
     pending_sizes.clear();
     clear_contours();

@@ -14,6 +14,7 @@ enum class answered_by {
     fan,
     known_triangles,
     tessellator,
+    containment_index,
     count
 };
 

@@ -119,7 +119,8 @@ ox_solid round_column(const frame& axes, const ox_3dvector& centre, int sides, d
 
 void add_general(ox_csg& csg, generator& random) {
     for (int i = random.between(2, 4); i > 0; --i) {
-        apply(csg, random.between(0, 2), general_solid(random));
+        const ox_solid solid = general_solid(random);
+        apply(csg, random.between(0, 2), solid);
     }
     if (random.one_in(3)) {
         const ox_3dvector normal = support::random_frame(random).z;
@@ -131,7 +132,8 @@ void add_whole_bricks(ox_csg& csg, generator& random) {
     const frame axes = random.one_in(2) ? frame() : support::random_frame(random);
     csg.unites(whole_brick(random, axes));
     for (int i = random.between(1, 5); i > 0; --i) {
-        apply(csg, random.between(0, 2), whole_brick(random, axes));
+        const ox_solid brick = whole_brick(random, axes);
+        apply(csg, random.between(0, 2), brick);
     }
 }
 
@@ -164,7 +166,8 @@ void add_result(ox_csg& csg, generator& random) {
     add_general(first, random);
     first.compute();
     csg.unites(first.get_solid());
-    apply(csg, random.between(0, 2), general_solid(random));
+    const ox_solid solid = general_solid(random);
+    apply(csg, random.between(0, 2), solid);
     csg.unites(first.get_solid());
 }
 

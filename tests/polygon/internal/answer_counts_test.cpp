@@ -121,7 +121,8 @@ TEST(OxPolygonAnswers, MostPointsOfAGridAreInsideBecauseTheirNeighbourIs) {
     turned.add_contour(turned_square(0, 0));
     std::uint64_t tested = 0;
     const std::uint64_t spared = answers_during(answered_by::row_stretch, [&] {
-        tested = answers_during(answered_by::row_point, [&] { turned.regular_distribution(0.01f); });
+        tested =
+            answers_during(answered_by::row_point, [&] { turned.regular_distribution(0.01f); });
     });
     EXPECT_GT(spared, 70000u); // of an area of 8.5
     EXPECT_LT(tested, 2000u);  // a few in each of 400 rows

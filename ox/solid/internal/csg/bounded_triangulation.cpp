@@ -31,6 +31,7 @@ struct viewed_points {
         for (const int name : names) {
             places.push_back(view.see(points[static_cast<std::size_t>(name)]));
         }
+        lay_down();
     }
 
     int number_of(int name) const {
@@ -38,7 +39,25 @@ struct viewed_points {
     }
 
     int name_of(int number) const { return names[static_cast<std::size_t>(number)]; }
+
+private:
+    void lay_down();
 };
+
+/// Turns what is higher than wide by a quarter, so that the sweep from left to right goes along
+/// it: across, it would join points from all along the one side to the end of the other.
+void viewed_points::lay_down() {
+    const auto compare_x = [](const planar_point& a, const planar_point& b) { return a.x < b.x; };
+    const auto compare_y = [](const planar_point& a, const planar_point& b) { return a.y < b.y; };
+    const auto across = std::minmax_element(places.begin(), places.end(), compare_x);
+    const auto along = std::minmax_element(places.begin(), places.end(), compare_y);
+    if (places.empty() || along.second->y - along.first->y <= across.second->x - across.first->x) {
+        return;
+    }
+    for (planar_point& place : places) {
+        place = {place.y, -place.x};
+    }
+}
 
 /// A triangle as often as its face covers it, turned over where it does so negatively.
 void append_covered(const viewed_points& viewed, const covered_triangle& covered,

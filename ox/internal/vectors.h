@@ -17,6 +17,7 @@ inline bool is_finite(const ox_3dvector& v) {
 /// for the same as itself.
 inline bool have_same_bits(const ox_3dvector& a, const ox_3dvector& b) {
     static_assert(sizeof(ox_3dvector) == 3 * sizeof(float), "nothing but its coordinates");
+    // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison): the bits are meant
     return std::memcmp(&a, &b, sizeof(ox_3dvector)) == 0;
 }
 

@@ -5,7 +5,7 @@
 #include <cstring>
 #include <utility>
 
-namespace ox {
+namespace ox::internal {
 
 namespace {
 
@@ -97,4 +97,4 @@ void sweep_window::sort_equal_ones() {
     }
 }
 
-} // namespace ox
+} // namespace ox::internal

@@ -83,6 +83,7 @@ struct topic {
 
 extern const topic polygon_topics[8];
 extern const topic solid_topics[6];
+extern const topic csg_topics[2];
 extern const topic leaf_topics[6];
 extern const topic mesh_topics[5];
 

@@ -23,6 +23,9 @@ int main() {
     for (const bits::topic& topic : bits::solid_topics) {
         print_hash(topic);
     }
+    for (const bits::topic& topic : bits::csg_topics) {
+        print_hash(topic);
+    }
     for (const bits::topic& topic : bits::leaf_topics) {
         print_hash(topic);
     }

@@ -38,13 +38,20 @@ struct extent {
     place upper_end() const { return {high, behind_all}; }
 };
 
-using extent_list = std::vector<extent>;
+/// A part of the list of extents, in the order of their lower ends.
+struct extent_range {
+    std::size_t first;
+    std::size_t end;
+
+    std::size_t size() const { return end - first; }
+};
 
 bool is_lower(const extent& a, const extent& b) {
     return a.lower_end() < b.lower_end();
 }
 
-/// One walk of the tree.
+/// One walk of the tree. The lists that are still to be searched lie behind each other in one list;
+/// the last ones are searched first, and are gone when they are.
 class pair_search {
 public:
     pair_search(const std::vector<bounds>& all_boxes, progress_poll& steps,
@@ -56,15 +63,22 @@ private:
     double low(int box, int axis) const { return item(item(boxes, box).low, item(axes, axis)); }
     double high(int box, int axis) const { return item(item(boxes, box).high, item(axes, axis)); }
     bool overlaps_below(int a, int b, int axis) const;
-    extent_list sorted(const extent_list& list, int axis) const;
-    void compare_directly(const extent_list& intervals, const extent_list& points, int axis);
-    void search(extent_list& intervals, extent_list& points, place from, place to, int axis);
-    void search_below(const extent_list& spanning, const extent_list& points, int axis);
-    void divide(extent_list& intervals, extent_list& points, place from, place to, int axis);
+    extent_range append_sorted(extent_range list, int axis);
+    template <typename Predicate>
+    extent_range append_where(extent_range list, Predicate predicate);
+    template <typename Predicate>
+    extent_range keep_where(extent_range list, Predicate predicate);
+    extent_range append_copy(extent_range list);
+    void remove_from(std::size_t first) { extents.resize(first); }
+    void compare_directly(extent_range intervals, extent_range points, int axis);
+    void search(extent_range intervals, extent_range points, place from, place to, int axis);
+    void search_below(extent_range spanning, extent_range points, int axis);
+    void divide(extent_range intervals, extent_range points, place from, place to, int axis);
 
     const std::vector<bounds>& boxes;
     progress_poll& poll;
     const pair_visitor& visit;
+    std::vector<extent> extents;
     /// The axes; the last one, along which the boxes are divided first, separates them best.
     std::array<int, 3> axes = {0, 1, 2};
 };
@@ -91,25 +105,51 @@ pair_search::pair_search(const std::vector<bounds>& all_boxes, progress_poll& st
 }
 
 void pair_search::search_all() {
-    extent_list all;
-    all.reserve(boxes.size());
+    extents.reserve(4 * boxes.size());
     for (int box = 0; box < count_of(boxes); ++box) {
-        all.push_back({0.0, 0.0, box});
+        extents.push_back({0.0, 0.0, box});
     }
-    extent_list intervals = sorted(all, 2);
-    extent_list points = intervals;
-    search(intervals, points, {-infinity, -1}, {infinity, behind_all}, 2);
+    const extent_range all = append_sorted({0, extents.size()}, 2);
+    search(append_copy(all), all, {-infinity, -1}, {infinity, behind_all}, 2);
 }
 
-/// The extents of the same boxes along an axis, in the order of their lower ends.
-extent_list pair_search::sorted(const extent_list& list, int axis) const {
-    extent_list result;
-    result.reserve(list.size());
-    for (const extent& entry : list) {
-        result.push_back({low(entry.box, axis), high(entry.box, axis), entry.box});
+/// Appends the extents of the same boxes along an axis, in the order of their lower ends.
+extent_range pair_search::append_sorted(extent_range list, int axis) {
+    const std::size_t first = extents.size();
+    for (std::size_t i = list.first; i < list.end; ++i) {
+        const int box = extents[i].box;
+        extents.push_back({low(box, axis), high(box, axis), box});
     }
-    std::sort(result.begin(), result.end(), is_lower);
-    return result;
+    std::sort(extents.begin() + static_cast<std::ptrdiff_t>(first), extents.end(), is_lower);
+    return {first, extents.size()};
+}
+
+/// Appends the extents for which the predicate holds.
+template <typename Predicate>
+extent_range pair_search::append_where(extent_range list, Predicate predicate) {
+    const std::size_t first = extents.size();
+    for (std::size_t i = list.first; i < list.end; ++i) {
+        const extent candidate = extents[i];
+        if (predicate(candidate)) {
+            extents.push_back(candidate);
+        }
+    }
+    return {first, extents.size()};
+}
+
+/// Removes the other extents from a list; what is behind it follows.
+template <typename Predicate>
+extent_range pair_search::keep_where(extent_range list, Predicate predicate) {
+    const auto at = [&](std::size_t i) { return extents.begin() + static_cast<std::ptrdiff_t>(i); };
+    const auto gap = std::remove_if(at(list.first), at(list.end),
+                                    [&](const extent& candidate) { return !predicate(candidate); });
+    const auto kept_end = static_cast<std::size_t>(gap - extents.begin());
+    extents.erase(gap, at(list.end));
+    return {list.first, kept_end};
+}
+
+extent_range pair_search::append_copy(extent_range list) {
+    return append_where(list, [](const extent&) { return true; });
 }
 
 /// True if two boxes overlap along the axes before the given one.
@@ -123,17 +163,17 @@ bool pair_search::overlaps_below(int a, int b, int axis) const {
 }
 
 /// Each interval meets the points from its lower end to its upper end.
-void pair_search::compare_directly(const extent_list& intervals, const extent_list& points,
-                                   int axis) {
-    std::size_t first = 0;
-    for (const extent& interval : intervals) {
-        while (first < points.size() && !is_lower(interval, points[first])) {
+void pair_search::compare_directly(extent_range intervals, extent_range points, int axis) {
+    std::size_t first = points.first;
+    for (std::size_t k = intervals.first; k < intervals.end; ++k) {
+        const extent interval = extents[k];
+        while (first < points.end && !is_lower(interval, extents[first])) {
             ++first;
         }
-        for (std::size_t i = first; i < points.size() && points[i].low <= interval.high; ++i) {
-            if (overlaps_below(interval.box, points[i].box, axis)) {
+        for (std::size_t i = first; i < points.end && extents[i].low <= interval.high; ++i) {
+            if (overlaps_below(interval.box, extents[i].box, axis)) {
                 poll.step();
-                visit(interval.box, points[i].box);
+                visit(interval.box, extents[i].box);
             }
         }
     }
@@ -141,61 +181,50 @@ void pair_search::compare_directly(const extent_list& intervals, const extent_li
 
 /// Visits the pairs of an interval and a point in it that overlap along the axes before as well.
 /// All points lie from one place on, before another, and every interval reaches into that span.
-/// Both lists are in the order of their lower ends.
-void pair_search::search(extent_list& intervals, extent_list& points, place from, place to,
+/// The intervals are the last list, which is removed.
+void pair_search::search(extent_range intervals, extent_range points, place from, place to,
                          int axis) {
-    if (intervals.empty() || points.empty()) {
-        return;
-    }
     poll.step();
     if (axis == 0 || std::min(intervals.size(), points.size()) <= direct_count) {
         compare_directly(intervals, points, axis);
+        remove_from(intervals.first);
         return;
     }
-    extent_list spanning;
-    extent_list partial;
-    for (const extent& interval : intervals) {
-        const bool spans = interval.lower_end() < from && !(interval.upper_end() < to);
-        (spans ? spanning : partial).push_back(interval);
-    }
-    extent_list().swap(intervals);
-    if (!spanning.empty()) {
+    const auto spans = [&](const extent& interval) {
+        return interval.lower_end() < from && !(interval.upper_end() < to);
+    };
+    const extent_range spanning = append_where(intervals, spans);
+    if (spanning.size() > 0) {
         search_below(spanning, points, axis - 1);
+        remove_from(spanning.first);
+        intervals = keep_where(intervals, [&](const extent& interval) { return !spans(interval); });
     }
-    divide(partial, points, from, to, axis);
+    divide(intervals, points, from, to, axis);
 }
 
 /// Every interval holds every point: what remains are the axes below, where each may hold the
 /// other.
-void pair_search::search_below(const extent_list& spanning, const extent_list& points, int axis) {
-    extent_list first = sorted(spanning, axis);
-    extent_list second = sorted(points, axis);
-    extent_list first_as_points = first;
-    extent_list second_as_points = second;
-    search(first, second_as_points, {-infinity, -1}, {infinity, behind_all}, axis);
-    search(second, first_as_points, {-infinity, -1}, {infinity, behind_all}, axis);
+void pair_search::search_below(extent_range spanning, extent_range points, int axis) {
+    const extent_range first = append_sorted(spanning, axis);
+    const extent_range second = append_sorted(points, axis);
+    search(append_copy(first), second, {-infinity, -1}, {infinity, behind_all}, axis);
+    search(append_copy(second), first, {-infinity, -1}, {infinity, behind_all}, axis);
+    remove_from(first.first);
 }
 
-/// Continues in the two halves of the points.
-void pair_search::divide(extent_list& intervals, extent_list& points, place from, place to,
+/// Continues in the two halves of the points; only the intervals of the second one are kept
+/// meanwhile.
+void pair_search::divide(extent_range intervals, extent_range points, place from, place to,
                          int axis) {
-    const auto half = points.begin() + static_cast<std::ptrdiff_t>(points.size() / 2);
-    const place middle = half->lower_end();
-    extent_list right_points(half, points.end());
-    points.erase(half, points.end());
-    extent_list left;
-    extent_list right;
-    for (const extent& interval : intervals) {
-        if (interval.lower_end() < middle) {
-            left.push_back(interval);
-        }
-        if (middle < interval.upper_end()) {
-            right.push_back(interval);
-        }
-    }
-    extent_list().swap(intervals);
-    search(left, points, from, middle, axis);
-    search(right, right_points, middle, to, axis);
+    const std::size_t half = points.first + points.size() / 2;
+    const place middle = extents[half].lower_end();
+    const std::size_t left_count = append_where(intervals, [&](const extent& interval) {
+                                       return interval.lower_end() < middle;
+                                   }).size();
+    const extent_range right = keep_where(
+        intervals, [&](const extent& interval) { return middle < interval.upper_end(); });
+    search({right.end, right.end + left_count}, {points.first, half}, from, middle, axis);
+    search(right, {half, points.end}, middle, to, axis);
 }
 
 } // namespace

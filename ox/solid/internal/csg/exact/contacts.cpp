@@ -40,9 +40,28 @@ struct contact_end {
     const interval_end* of_second;
 };
 
-bool is_all(const vertex_sides& sides, int value) {
-    return sides[0] == value && sides[1] == value && sides[2] == value;
-}
+/// Where a facet lies beside the plane of another one. Vertices that both have are on it.
+struct facet_position {
+    vertex_sides sides = {0, 0, 0};
+    int shared_count = 0;
+    int above_count = 0;
+    int below_count = 0;
+
+    void place(std::size_t vertex, int side) {
+        sides[vertex] = side;
+        above_count += side > 0 ? 1 : 0;
+        below_count += side < 0 ? 1 : 0;
+    }
+
+    /// True if nothing of the facet but the shared vertices and what is between them lies in the
+    /// plane: then the facets meet in a vertex or a side that both have, or not at all.
+    bool is_beside() const {
+        const int own_count = 3 - shared_count;
+        return own_count > 0 && (above_count == own_count || below_count == own_count);
+    }
+
+    bool is_in_plane() const { return above_count + below_count == 0; }
+};
 
 interval_end end_at_vertex(const facet& f, const vertex_sides& sides, int i) {
     const int vertex = item(f.vertices, i);
@@ -88,17 +107,6 @@ line_interval interval_of(const facet& f, const vertex_sides& sides) {
     return result;
 }
 
-/// The number of vertices that two facets have in common.
-int shared_vertex_count(const facet& f, const facet& g) {
-    int shared = 0;
-    for (const int vertex : f.vertices) {
-        for (const int other : g.vertices) {
-            shared += vertex == other ? 1 : 0;
-        }
-    }
-    return shared;
-}
-
 /// Finds the contacts of facets whose boxes overlap, pair by pair.
 class contact_finder {
 public:
@@ -108,7 +116,7 @@ public:
     void meet(int first, int second);
 
 private:
-    vertex_sides sides_of(const facet& f, const facet& other, int other_plane) const;
+    facet_position position_of(const facet& f, const facet& other, int other_plane) const;
     void cross(int first, int second, const vertex_sides& first_sides,
                const vertex_sides& second_sides);
     int order(const interval_end& a, const interval_end& b) const;
@@ -127,36 +135,36 @@ private:
     pair_table crossings;
 };
 
-vertex_sides contact_finder::sides_of(const facet& f, const facet& other, int other_plane) const {
-    vertex_sides sides = {0, 0, 0};
+facet_position contact_finder::position_of(const facet& f, const facet& other,
+                                           int other_plane) const {
+    const plane& p = item(complex.points.planes, other_plane);
+    facet_position position;
     for (std::size_t i = 0; i < 3; ++i) {
         const int vertex = f.vertices[i];
-        if (vertex != other.vertices[0] && vertex != other.vertices[1] &&
-            vertex != other.vertices[2]) {
-            sides[i] =
-                side_of(item(complex.grid, vertex), item(complex.points.planes, other_plane));
+        if (vertex == other.vertices[0] || vertex == other.vertices[1] ||
+            vertex == other.vertices[2]) {
+            ++position.shared_count;
+        } else {
+            position.place(i, side_of(item(complex.grid, vertex), p));
         }
     }
-    return sides;
+    return position;
 }
 
 void contact_finder::meet(int first, int second) {
     const facet& f = item(complex.facets, first);
     const facet& g = item(complex.facets, second);
-    const vertex_sides f_sides = sides_of(f, g, second);
-    if (is_all(f_sides, 1) || is_all(f_sides, -1)) {
+    const facet_position f_position = position_of(f, g, second);
+    if (f_position.is_beside()) {
         return;
     }
-    if (is_all(f_sides, 0)) {
+    if (f_position.is_in_plane()) {
         clipper.clip(first, second);
         return;
     }
-    if (shared_vertex_count(f, g) == 2) {
-        return; // They meet in the side that they share.
-    }
-    const vertex_sides g_sides = sides_of(g, f, first);
-    if (!is_all(g_sides, 1) && !is_all(g_sides, -1)) {
-        cross(first, second, f_sides, g_sides);
+    const facet_position g_position = position_of(g, f, first);
+    if (!g_position.is_beside()) {
+        cross(first, second, f_position.sides, g_position.sides);
     }
 }
 

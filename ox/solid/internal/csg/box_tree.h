@@ -17,6 +17,9 @@ struct grid_box {
     /// Grows to hold a point.
     void include(const grid_point& point);
 
+    /// Grows to hold another box.
+    void include(const grid_box& box);
+
     /// Grows by `margin` on every side.
     void grow(double margin);
 
@@ -50,8 +53,17 @@ private:
         std::size_t count;
     };
 
-    void build(std::size_t place, std::size_t begin, std::size_t end);
-    int longest_side(std::size_t begin, std::size_t end) const;
+    /// Twice the middle of a box.
+    struct box_middle {
+        std::array<double, 3> place;
+        int index;
+    };
+
+    void build(std::size_t place, const std::vector<grid_box>& boxes, box_middle* begin,
+               box_middle* end);
+    void make_leaf(std::size_t place, const std::vector<grid_box>& boxes, box_middle* begin,
+                   box_middle* end);
+    static std::size_t longest_side(const box_middle* begin, const box_middle* end);
 
     template <typename visitor>
     void visit_node(std::size_t place, const grid_box& box, visitor& visit) const {

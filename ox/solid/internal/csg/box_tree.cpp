@@ -1,6 +1,7 @@
 #include <ox/solid/internal/csg/box_tree.h>
 
 #include <algorithm>
+#include <numeric>
 
 namespace ox::internal::csg {
 
@@ -101,6 +102,25 @@ void box_tree::build(std::size_t place, const std::vector<grid_box>& boxes, box_
     grid_box bounds = nodes[halves].bounds;
     bounds.include(nodes[halves + 1].bounds);
     nodes[place] = {bounds, halves, 0};
+}
+
+box_neighbours::box_neighbours(const std::vector<grid_box>& boxes) : first(boxes.size() + 1, 0) {
+    std::vector<std::array<int, 2>> pairs;
+    box_tree(boxes).visit_pairs([&](int a, int b) {
+        pairs.push_back({a, b});
+        ++first[static_cast<std::size_t>(a) + 1];
+        ++first[static_cast<std::size_t>(b) + 1];
+    });
+    std::partial_sum(first.begin(), first.end(), first.begin());
+    listed.resize(2 * pairs.size());
+    std::vector<std::size_t> next(first.begin(), first.end() - 1);
+    for (const std::array<int, 2>& pair : pairs) {
+        listed[next[static_cast<std::size_t>(pair[0])]++] = pair[1];
+        listed[next[static_cast<std::size_t>(pair[1])]++] = pair[0];
+    }
+    for (std::size_t box = 0; box < boxes.size(); ++box) {
+        std::sort(listed.data() + first[box], listed.data() + first[box + 1]);
+    }
 }
 
 } // namespace ox::internal::csg

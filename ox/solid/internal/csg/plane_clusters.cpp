@@ -35,8 +35,7 @@ private:
 
     scene& faces;
     double tolerance;
-    std::vector<grid_box> boxes;
-    box_tree tree;
+    box_neighbours neighbours;
     plane_growth growth;
     int growing = -1; // the cluster's number
 };
@@ -51,7 +50,7 @@ std::vector<grid_box> grown_boxes(const scene& faces, double margin) {
 }
 
 cluster_search::cluster_search(scene& all, double reach)
-    : faces(all), tolerance(reach), boxes(grown_boxes(all, reach)), tree(boxes),
+    : faces(all), tolerance(reach), neighbours(grown_boxes(all, reach)),
       growth(*this, all.points, reach, 0) {
     for (scene_face& face : faces.faces) {
         face.cluster = -1;
@@ -78,11 +77,11 @@ bool cluster_search::run(const progress_report& report) {
 }
 
 void cluster_search::find_neighbours(int face, std::vector<int>& found) const {
-    tree.visit_meeting(boxes[static_cast<std::size_t>(face)], [&](int other) {
-        if (at(other).cluster < 0) {
-            found.push_back(other);
+    for (const int* other = neighbours.begin_of(face); other != neighbours.end_of(face); ++other) {
+        if (at(*other).cluster < 0) {
+            found.push_back(*other);
         }
-    });
+    }
 }
 
 double cluster_search::allowed_deviation(int face, const std::array<double, 3>& normal) const {

@@ -39,9 +39,9 @@ box_tree::box_tree(const std::vector<grid_box>& boxes) {
     std::vector<box_middle> middles;
     middles.reserve(boxes.size());
     for (const grid_box& box : boxes) {
-        middles.push_back({{box.low[0] + box.high[0], box.low[1] + box.high[1],
-                            box.low[2] + box.high[2]},
-                           static_cast<int>(middles.size())});
+        middles.push_back(
+            {{box.low[0] + box.high[0], box.low[1] + box.high[1], box.low[2] + box.high[2]},
+             static_cast<int>(middles.size())});
     }
     if (!boxes.empty()) {
         nodes.reserve(boxes.size());

@@ -45,8 +45,8 @@ public:
         }
     }
 
-    /// Calls `visit(index, index)` for every pair of boxes that meet, once, in an order that depends
-    /// on the boxes only; either index may come first.
+    /// Calls `visit(index, index)` for every pair of boxes that meet, once, in an order that
+    /// depends on the boxes only; either index may come first.
     template <typename visitor>
     void visit_pairs(visitor visit) const {
         if (!nodes.empty()) {
@@ -147,14 +147,16 @@ private:
     std::vector<node> nodes;
 };
 
-/// For each box those that meet it, in the order of their indices. O((n + k) log n) time and O(n + k)
-/// memory for k pairs of boxes that meet.
+/// For each box those that meet it, in the order of their indices. O((n + k) log n) time and O(n +
+/// k) memory for k pairs of boxes that meet.
 class box_neighbours {
 public:
     explicit box_neighbours(const std::vector<grid_box>& boxes);
 
     /// The neighbours of a box.
-    const int* begin_of(int box) const { return listed.data() + first[static_cast<std::size_t>(box)]; }
+    const int* begin_of(int box) const {
+        return listed.data() + first[static_cast<std::size_t>(box)];
+    }
     const int* end_of(int box) const {
         return listed.data() + first[static_cast<std::size_t>(box) + 1];
     }

@@ -31,6 +31,7 @@ private:
     void join(int face) override { at(face).cluster = growing; }
 
     void grow_from(int first);
+    bool is_apart(int face) const;
     scene_face& at(int face) const { return faces.faces[static_cast<std::size_t>(face)]; }
 
     scene& faces;
@@ -52,9 +53,16 @@ std::vector<grid_box> grown_boxes(const scene& faces, double margin) {
 cluster_search::cluster_search(scene& all, double reach)
     : faces(all), tolerance(reach), neighbours(grown_boxes(all, reach)),
       growth(*this, all.points, reach, 0) {
-    for (scene_face& face : faces.faces) {
-        face.cluster = -1;
+    for (int face = 0; face < static_cast<int>(faces.faces.size()); ++face) {
+        at(face).cluster = -1;
+        at(face).is_apart = is_apart(face);
     }
+}
+
+/// True if no face of another operand has a box that meets the face's.
+bool cluster_search::is_apart(int face) const {
+    return std::all_of(neighbours.begin_of(face), neighbours.end_of(face),
+                       [&](int other) { return at(other).operand == at(face).operand; });
 }
 
 /// False where `report` ended the work.

@@ -35,15 +35,15 @@ protected:
 /// drift.
 class plane_growth {
 public:
-    /// Members lie within `allowed` steps of their plane. Of those that lie off the plane, so many as `joint_fits` are tried together with all
-    /// members: a narrow first face says little of the plane far from it. The candidates and their
-    /// points outlive the growth.
+    /// Members lie within `allowed` steps of their plane. Of those that lie off the plane, so many
+    /// as `joint_fits` are tried together with all members: a narrow first face says little of the
+    /// plane far from it. The candidates and their points outlive the growth.
     plane_growth(plane_candidates& all, const std::vector<grid_point>& all_points, double allowed,
                  int joint_fits)
         : candidates(all), points(all_points), reach(allowed), joint_fit_count(joint_fits) {}
 
-    /// The candidates of one plane, `first` first, until the next call; `plane` is that of the first
-    /// one and becomes theirs. O(n log n) for n corners of them and their neighbours.
+    /// The candidates of one plane, `first` first, until the next call; `plane` is that of the
+    /// first one and becomes theirs. O(n log n) for n corners of them and their neighbours.
     const std::vector<int>& run(int first, fitted_plane& plane);
 
 private:

@@ -37,6 +37,7 @@ constexpr int shared_operand = -1;
 struct edge_record {
     int operand;
     bool is_fresh;
+    bool is_apart;             // of a face that is apart from all other operands
     std::vector<int> clusters; // ascending
 };
 
@@ -82,6 +83,7 @@ public:
 private:
     void record_edges();
     void search(int round);
+    static bool is_searched(const edge_record& edge, int round);
     void compare(int e, int f);
     void divide_at_end(int edge, int point, bool& touched);
     void join_passing(int e, int f);
@@ -138,10 +140,11 @@ void edge_snapper::record_edges() {
         for (const directed_edge& edge : face.boundary) {
             const auto number = static_cast<std::size_t>(edges.find_or_add(edge[0], edge[1]));
             if (number >= records.size()) {
-                records.resize(number + 1, {shared_operand, false, {}});
+                records.resize(number + 1, {shared_operand, false, false, {}});
             }
             edge_record& found = records[number];
             found.is_fresh = number >= known;
+            found.is_apart = found.is_apart || face.is_apart;
             if (found.clusters.empty()) {
                 found.operand = face.operand;
             } else if (found.operand != face.operand) {
@@ -153,7 +156,7 @@ void edge_snapper::record_edges() {
             }
         }
     }
-    records.resize(static_cast<std::size_t>(edges.size()), {shared_operand, false, {}});
+    records.resize(static_cast<std::size_t>(edges.size()), {shared_operand, false, false, {}});
 }
 
 /// True if the edges may be of different operands.
@@ -172,10 +175,15 @@ int edge_snapper::common_cluster(int e, int f) const {
     return -1;
 }
 
+/// True if the edge may have to be divided: at first only edges of different operands meet.
+bool edge_snapper::is_searched(const edge_record& edge, int round) {
+    return !edge.clusters.empty() && (round > 0 || !edge.is_apart);
+}
+
 void edge_snapper::search(int round) {
     std::vector<grid_box> boxes(records.size());
     for (std::size_t e = 0; e < records.size(); ++e) {
-        if (!records[e].clusters.empty()) {
+        if (is_searched(records[e], round)) {
             boxes[e].include(at(edges.ends(static_cast<int>(e))[0]));
             boxes[e].include(at(edges.ends(static_cast<int>(e))[1]));
             boxes[e].grow(tolerance);
@@ -183,12 +191,12 @@ void edge_snapper::search(int round) {
     }
     const box_tree tree(boxes);
     for (int e = 0; e < static_cast<int>(records.size()) && !stopped; ++e) {
-        if (record(e).clusters.empty() || !record(e).is_fresh) {
+        if (!is_searched(record(e), round) || !record(e).is_fresh) {
             continue;
         }
         tree.visit_meeting(boxes[static_cast<std::size_t>(e)], [&](int f) {
             const bool is_own_turn = f != e && (!record(f).is_fresh || e < f);
-            if (is_own_turn && !record(f).clusters.empty() && (round > 0 || may_differ(e, f))) {
+            if (is_own_turn && is_searched(record(f), round) && (round > 0 || may_differ(e, f))) {
                 compare(e, f);
             }
         });

@@ -49,8 +49,9 @@ ox_examples::exit_status run(const ox_examples::single_input& wanted) {
 } // namespace
 
 int main(int argc, char** argv) {
-    CLI::App line("Makes the solids of a building, measures and draws them.", "ox_building");
     ox_examples::single_input wanted;
-    ox_examples::add_single_input(line, wanted);
-    return ox_examples::run_program(line, argc, argv, [&] { return run(wanted); });
+    return ox_examples::run_program(
+        {"ox_building", "Makes the solids of a building, measures and draws them."}, argc, argv,
+        [&](CLI::App& line) { ox_examples::add_single_input(line, wanted); },
+        [&] { return run(wanted); });
 }

@@ -38,8 +38,9 @@ ox_examples::exit_status run(const ox_examples::single_input& wanted) {
 } // namespace
 
 int main(int argc, char** argv) {
-    CLI::App line("Draws three curves of the same points.", "ox_curves");
     ox_examples::single_input wanted;
-    ox_examples::add_single_input(line, wanted);
-    return ox_examples::run_program(line, argc, argv, [&] { return run(wanted); });
+    return ox_examples::run_program(
+        {"ox_curves", "Draws three curves of the same points."}, argc, argv,
+        [&](CLI::App& line) { ox_examples::add_single_input(line, wanted); },
+        [&] { return run(wanted); });
 }

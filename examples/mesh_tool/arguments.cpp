@@ -1,5 +1,9 @@
 #include <examples/mesh_tool/arguments.h>
 
+#include <examples/support/command_line.h>
+
+#include <CLI/CLI.hpp>
+
 #include <limits>
 
 namespace mesh_tool {

@@ -1,10 +1,12 @@
 #ifndef OX_EXAMPLES_MESH_TOOL_ARGUMENTS_H
 #define OX_EXAMPLES_MESH_TOOL_ARGUMENTS_H
 
-#include <examples/support/command_line.h>
-
 #include <string>
 #include <utility>
+
+namespace CLI {
+class App;
+}
 
 namespace mesh_tool {
 

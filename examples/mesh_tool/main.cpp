@@ -80,8 +80,9 @@ ox_examples::exit_status run(const arguments& wanted) {
 } // namespace
 
 int main(int argc, char** argv) {
-    CLI::App line("Measures, welds, refines, converts and draws a triangle mesh.", "ox_mesh_tool");
     arguments wanted;
-    mesh_tool::declare(line, wanted);
-    return ox_examples::run_program(line, argc, argv, [&] { return run(wanted); });
+    return ox_examples::run_program(
+        {"ox_mesh_tool", "Measures, welds, refines, converts and draws a triangle mesh."}, argc,
+        argv, [&](CLI::App& line) { mesh_tool::declare(line, wanted); },
+        [&] { return run(wanted); });
 }

@@ -1,5 +1,9 @@
 #include <examples/progress/arguments.h>
 
+#include <examples/support/command_line.h>
+
+#include <CLI/CLI.hpp>
+
 #include <algorithm>
 #include <thread>
 

@@ -1,9 +1,11 @@
 #ifndef OX_EXAMPLES_PROGRESS_ARGUMENTS_H
 #define OX_EXAMPLES_PROGRESS_ARGUMENTS_H
 
-#include <examples/support/command_line.h>
-
 #include <string>
+
+namespace CLI {
+class App;
+}
 
 namespace progress_example {
 

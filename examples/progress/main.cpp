@@ -59,9 +59,9 @@ ox_examples::exit_status run(const arguments& wanted) {
 } // namespace
 
 int main(int argc, char** argv) {
-    CLI::App line("Cuts and welds a tower of wall panels under a progress bar that learns.",
-                  "ox_progress");
     arguments wanted;
-    progress_example::declare(line, wanted);
-    return ox_examples::run_program(line, argc, argv, [&] { return run(wanted); });
+    return ox_examples::run_program(
+        {"ox_progress", "Cuts and welds a tower of wall panels under a progress bar that learns."},
+        argc, argv, [&](CLI::App& line) { progress_example::declare(line, wanted); },
+        [&] { return run(wanted); });
 }

@@ -27,8 +27,9 @@ ox_examples::exit_status run(const ox_examples::single_input& wanted) {
 } // namespace
 
 int main(int argc, char** argv) {
-    CLI::App line("Shares the load of a floor slab out among the beams that carry it.", "ox_slab");
     ox_examples::single_input wanted;
-    ox_examples::add_single_input(line, wanted);
-    return ox_examples::run_program(line, argc, argv, [&] { return run(wanted); });
+    return ox_examples::run_program(
+        {"ox_slab", "Shares the load of a floor slab out among the beams that carry it."}, argc,
+        argv, [&](CLI::App& line) { ox_examples::add_single_input(line, wanted); },
+        [&] { return run(wanted); });
 }

@@ -1,5 +1,7 @@
 #include <examples/support/command_line.h>
 
+#include <CLI/CLI.hpp>
+
 #include <charconv>
 
 namespace ox_examples {

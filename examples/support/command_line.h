@@ -1,9 +1,13 @@
 #ifndef OX_EXAMPLES_SUPPORT_COMMAND_LINE_H
 #define OX_EXAMPLES_SUPPORT_COMMAND_LINE_H
 
-#include <CLI/CLI.hpp>
-
 #include <string>
+
+namespace CLI { // whoever declares more than these includes its header
+class App;
+class Option;
+class Validator;
+} // namespace CLI
 
 namespace ox_examples {
 

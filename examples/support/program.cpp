@@ -2,6 +2,8 @@
 
 #include <examples/support/input_file.h>
 
+#include <CLI/CLI.hpp>
+
 #include <ox/core/ox_log.h>
 
 #include <cerrno>
@@ -40,9 +42,12 @@ bool flush_output() {
 
 } // namespace
 
-int run_program(CLI::App& line, int argc, char** argv, const std::function<int()>& work) {
+int run_program(const program_title& title, int argc, char** argv,
+                const std::function<void(CLI::App&)>& declare, const std::function<int()>& work) {
     ox_log_set(false);
-    line.set_version_flag("--version", line.get_name() + " " + OX_EXAMPLES_VERSION,
+    CLI::App line(title.purpose, title.name);
+    declare(line);
+    line.set_version_flag("--version", title.name + " " + OX_EXAMPLES_VERSION,
                           "Print the version and exit");
     const int status = outcome(line, argc, argv, work);
     return flush_output() ? status : failed;

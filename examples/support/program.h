@@ -1,9 +1,12 @@
 #ifndef OX_EXAMPLES_SUPPORT_PROGRAM_H
 #define OX_EXAMPLES_SUPPORT_PROGRAM_H
 
-#include <CLI/CLI.hpp>
-
 #include <functional>
+#include <string>
+
+namespace CLI {
+class App; // its header takes seconds to compile, so only who declares a command line includes it
+}
 
 namespace ox_examples {
 
@@ -16,12 +19,19 @@ enum exit_status {
     stopped = 130 ///< Ctrl-C ended the work early; what shells expect then
 };
 
-/// Runs a program to its exit status: reads the command line into what was declared with `line`,
-/// answers `--help` and `--version`, and does the `work`, with the library's log switched off, so
-/// that the working folder stays as it is. What is thrown is told on standard error: a
-/// `CLI::ParseError` and an `input_error` are refused, everything else has failed, and so has
-/// standard output that cannot be written.
-int run_program(CLI::App& line, int argc, char** argv, const std::function<int()>& work);
+/// What `--help` says of a program.
+struct program_title {
+    std::string name;
+    std::string purpose;
+};
+
+/// Runs a program to its exit status: reads the command line that `declare` describes, answers
+/// `--help` and `--version`, and does the `work`, with the library's log switched off, so that the
+/// working folder stays as it is. What is thrown is told on standard error: a `CLI::ParseError` and
+/// an `input_error` are refused, everything else has failed, and so has standard output that cannot
+/// be written.
+int run_program(const program_title& title, int argc, char** argv,
+                const std::function<void(CLI::App&)>& declare, const std::function<int()>& work);
 
 } // namespace ox_examples
 

@@ -2,6 +2,8 @@
 #include <examples/support/input_file.h>
 #include <examples/support/program.h>
 
+#include <CLI/CLI.hpp>
+
 #include <ox/io/ox_csv.h>
 
 #include <cstdio>
@@ -104,9 +106,8 @@ ox_examples::exit_status run(const arguments& wanted) {
 } // namespace
 
 int main(int argc, char** argv) {
-    CLI::App line("Reads a table of delimited text, writes a copy and compares the two.",
-                  "ox_table");
     arguments wanted;
-    declare(line, wanted);
-    return ox_examples::run_program(line, argc, argv, [&] { return run(wanted); });
+    return ox_examples::run_program(
+        {"ox_table", "Reads a table of delimited text, writes a copy and compares the two."}, argc,
+        argv, [&](CLI::App& line) { declare(line, wanted); }, [&] { return run(wanted); });
 }

@@ -76,8 +76,9 @@ ox_examples::exit_status run(const ox_examples::single_input& wanted) {
 } // namespace
 
 int main(int argc, char** argv) {
-    CLI::App line("Adds dormers to surveyed buildings, digs cellars and cuts roofs.", "ox_town");
     ox_examples::single_input wanted;
-    ox_examples::add_single_input(line, wanted);
-    return ox_examples::run_program(line, argc, argv, [&] { return run(wanted); });
+    return ox_examples::run_program(
+        {"ox_town", "Adds dormers to surveyed buildings, digs cellars and cuts roofs."}, argc, argv,
+        [&](CLI::App& line) { ox_examples::add_single_input(line, wanted); },
+        [&] { return run(wanted); });
 }

@@ -1,5 +1,9 @@
 #include <examples/view/arguments.h>
 
+#include <examples/support/command_line.h>
+
+#include <CLI/CLI.hpp>
+
 namespace view {
 
 namespace {

@@ -90,8 +90,8 @@ ox_examples::exit_status run(const view::arguments& wanted) {
 } // namespace
 
 int main(int argc, char** argv) {
-    CLI::App line("Takes a camera around a building, and picks and snaps a point.", "ox_view");
     view::arguments wanted;
-    view::declare(line, wanted);
-    return ox_examples::run_program(line, argc, argv, [&] { return run(wanted); });
+    return ox_examples::run_program(
+        {"ox_view", "Takes a camera around a building, and picks and snaps a point."}, argc, argv,
+        [&](CLI::App& line) { view::declare(line, wanted); }, [&] { return run(wanted); });
 }

@@ -144,7 +144,7 @@ ox_list<float> ox_reverse_matrix(const ox_list<float>& a) {
         return ox_list<float>();
     }
     const float root = static_cast<float>(std::sqrt(static_cast<double>(a.size())));
-    const int order = static_cast<int>(root + 0.5f);
+    const int order = static_cast<int>(std::lround(root));
     if (a.size() != square(order)) {
         return ox_list<float>();
     }

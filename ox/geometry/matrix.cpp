@@ -1,5 +1,6 @@
 #include <ox/geometry/ox_matrix.h>
 
+#include <cstddef>
 #include <cstdio>
 
 #include <ox/core/ox_log.h>
@@ -7,6 +8,8 @@
 #include <ox/internal/plain_numbers.h>
 
 namespace ox {
+
+using namespace internal;
 
 ox_matrix::ox_matrix(const float* values) {
     load_from_float(values);
@@ -160,15 +163,20 @@ ox_3dvector ox_matrix::transform_vector(const ox_3dvector& v) const {
 
 namespace {
 
+/// The four elements of a column.
+const float* column_of(const float* m, int column) {
+    return m + 4 * static_cast<std::ptrdiff_t>(column);
+}
+
 /// Cofactor of the element of `row` and `column`: the signed determinant of the 3x3 matrix left
 /// without them. The sign goes into the first factor of each product, which makes the sum the
 /// same, to the sign of a zero, as the fully expanded form of the inverse writes it.
 float cofactor(const float* m, int row, int column) {
     static const int others[4][3] = {{1, 2, 3}, {0, 2, 3}, {0, 1, 3}, {0, 1, 2}};
     const int* rows = others[row];
-    const float* a = m + 4 * others[column][0];
-    const float* b = m + 4 * others[column][1];
-    const float* c = m + 4 * others[column][2];
+    const float* a = column_of(m, others[column][0]);
+    const float* b = column_of(m, others[column][1]);
+    const float* c = column_of(m, others[column][2]);
     const float sign = (row + column) % 2 == 0 ? 1.0f : -1.0f;
     const int i = rows[0];
     const int j = rows[1];
@@ -180,22 +188,22 @@ float cofactor(const float* m, int row, int column) {
 } // namespace
 
 bool ox_matrix::reverse(ox_matrix& out) const {
-    double adjugate[16];
+    double adjugate[4][4];
     for (int row = 0; row < 4; ++row) {
         for (int column = 0; column < 4; ++column) {
-            adjugate[4 * row + column] = static_cast<double>(cofactor(m, row, column));
+            adjugate[row][column] = static_cast<double>(cofactor(m, row, column));
         }
     }
     double determinant = 0.0;
     for (int row = 0; row < 4; ++row) {
-        determinant += static_cast<double>(m[row]) * adjugate[4 * row];
+        determinant += static_cast<double>(m[row]) * adjugate[row][0];
     }
     if (determinant == 0.0) {
         return false;
     }
     const double factor = 1.0 / determinant;
     for (int i = 0; i < 16; ++i) {
-        out.m[i] = static_cast<float>(adjugate[i] * factor);
+        out.m[i] = static_cast<float>(adjugate[i / 4][i % 4] * factor);
     }
     return true;
 }

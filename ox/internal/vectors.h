@@ -6,7 +6,7 @@
 
 #include <ox/geometry/ox_3dvector.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// True if no coordinate is infinite or NaN.
 inline bool is_finite(const ox_3dvector& v) {
@@ -17,6 +17,7 @@ inline bool is_finite(const ox_3dvector& v) {
 /// for the same as itself.
 inline bool have_same_bits(const ox_3dvector& a, const ox_3dvector& b) {
     static_assert(sizeof(ox_3dvector) == 3 * sizeof(float), "nothing but its coordinates");
+    // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison): the bits are meant
     return std::memcmp(&a, &b, sizeof(ox_3dvector)) == 0;
 }
 
@@ -27,6 +28,6 @@ inline double exact_dot(const ox_3dvector& a, const ox_3dvector& b) {
            static_cast<double>(a.z) * static_cast<double>(b.z);
 }
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

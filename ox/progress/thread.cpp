@@ -49,6 +49,7 @@ ox_thread::ox_thread(const ox_thread& other)
       interrupted(other.interrupted.load()), manager(other.manager),
       progress_min(other.progress_min), progress_max(other.progress_max) {}
 
+// NOLINTNEXTLINE(bugprone-unhandled-self-assignment): each value may be given to itself
 ox_thread& ox_thread::operator=(const ox_thread& other) {
     next_step = other.next_step.load();
     mutex = other.mutex;

@@ -1,5 +1,7 @@
 #include <examples/view/arguments.h>
 
+#include <CLI/CLI.hpp>
+
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <string>

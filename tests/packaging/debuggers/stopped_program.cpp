@@ -11,13 +11,13 @@ int main() {
     ox::ox_hash<int, float> weights;
     weights.set(2, 0.5f);
     weights.set(1, 0.25f);
-    const ox::ox_2dvector pixel(3.0f, 4.5f);
-    const ox::ox_polar place(1.0f, 0.5f, 0.25f);
+    [[maybe_unused]] const ox::ox_2dvector pixel(3.0f, 4.5f);
+    [[maybe_unused]] const ox::ox_polar place(1.0f, 0.5f, 0.25f);
     ox::ox_box box;
-    const ox::ox_box nothing;
+    [[maybe_unused]] const ox::ox_box nothing;
     box.enlarge(ox::ox_3dvector(1.0f, 2.0f, 3.0f));
     box.enlarge(ox::ox_3dvector(2.0f, 4.0f, 6.0f));
-    const ox::ox_color brick_red(0.5f, 0.25f, 0.125f);
+    [[maybe_unused]] const ox::ox_color brick_red(0.5f, 0.25f, 0.125f);
     ox::ox_matrix moved;
     moved.translate(ox::ox_3dvector(7.0f, 8.0f, 9.0f));
     ox::ox_triangle_set triangles(3, 1);

@@ -51,8 +51,8 @@ arrangement_result boundary_writer::write(const std::vector<bool>& is_side_selec
     arrangement_result result;
     result.points = complex.points.near_points();
     for (int i = 0; i < count_of(list.pieces); ++i) {
-        const bool is_in_front = is_side_selected[static_cast<std::size_t>(2 * i)];
-        const bool is_behind = is_side_selected[static_cast<std::size_t>(2 * i + 1)];
+        const bool is_in_front = is_side_selected[2 * static_cast<std::size_t>(i)];
+        const bool is_behind = is_side_selected[2 * static_cast<std::size_t>(i) + 1];
         if (item(coincidences.representative, i) == i && is_in_front != is_behind) {
             write_piece(i, is_in_front, result);
         }

@@ -35,7 +35,8 @@ struct piece_edge {
 
 class group_search final : private plane_candidates {
 public:
-    group_search(const result_pieces& result, const scene& scene_faces, const working_grid& grid);
+    group_search(const result_pieces& result, const scene& scene_faces, const working_grid& grid,
+                 exact::progress_poll& steps);
     std::vector<face_group> run();
 
 private:
@@ -54,6 +55,7 @@ private:
 
     const result_pieces& result;
     const scene& faces;
+    exact::progress_poll& poll;
     double common_reach;
     double own_reach;
     std::vector<piece_edge> edges; // sorted
@@ -64,13 +66,14 @@ private:
 };
 
 group_search::group_search(const result_pieces& given, const scene& scene_faces,
-                           const working_grid& grid)
-    : result(given), faces(scene_faces),
+                           const working_grid& grid, exact::progress_poll& steps)
+    : result(given), faces(scene_faces), poll(steps),
       common_reach((std::max)(grid.get_tolerance() * common_plane_share, grid.get_float_spacing())),
       own_reach((std::min)(own_plane_spacings * grid.get_float_spacing(), common_reach)),
       is_grouped(given.pieces.size(), false),
       growth(*this, given.points, common_reach, joint_fit_count) {
     for (std::size_t i = 0; i < result.pieces.size(); ++i) {
+        poll.step();
         for (const directed_edge& edge : result.pieces[i].boundary) {
             edges.push_back({edge, static_cast<int>(i)});
         }
@@ -81,6 +84,7 @@ group_search::group_search(const result_pieces& given, const scene& scene_faces,
 
 /// The pieces not in a group yet with an edge against one of the given piece's.
 void group_search::find_neighbours(int piece, std::vector<int>& found) const {
+    poll.step();
     for (const directed_edge& edge : at(piece).boundary) {
         const directed_edge opposite = {edge[1], edge[0]};
         auto place = std::lower_bound(edges.begin(), edges.end(), piece_edge{opposite, 0});
@@ -164,8 +168,8 @@ std::vector<face_group> group_search::run() {
 } // namespace
 
 std::vector<face_group> group_faces(const result_pieces& result, const scene& faces,
-                                    const working_grid& grid) {
-    return group_search(result, faces, grid).run();
+                                    const working_grid& grid, exact::progress_poll& poll) {
+    return group_search(result, faces, grid, poll).run();
 }
 
 } // namespace ox::internal::csg

@@ -44,6 +44,10 @@ inline double length(const wide_vector& v) {
     return std::sqrt(dot(v, v));
 }
 
+inline double manhattan_size(const wide_vector& v) {
+    return std::fabs(v.x) + std::fabs(v.y) + std::fabs(v.z);
+}
+
 } // namespace ox::internal
 
 #endif

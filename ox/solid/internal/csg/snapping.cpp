@@ -187,27 +187,22 @@ int edge_snapper::common_cluster(int e, int f) const {
 }
 
 void edge_snapper::search(int round) {
-    std::vector<int> searched;
-    std::vector<grid_box> boxes;
-    for (int e = 0; e < static_cast<int>(records.size()); ++e) {
-        if (record(e).is_searched) {
-            searched.push_back(e);
-            boxes.emplace_back();
-            boxes.back().include(at(edges.ends(e)[0]));
-            boxes.back().include(at(edges.ends(e)[1]));
-            boxes.back().grow(tolerance);
+    std::vector<grid_box> boxes(records.size());
+    for (std::size_t e = 0; e < records.size(); ++e) {
+        if (records[e].is_named) {
+            boxes[e].include(at(edges.ends(static_cast<int>(e))[0]));
+            boxes[e].include(at(edges.ends(static_cast<int>(e))[1]));
+            boxes[e].grow(tolerance);
         }
     }
     const box_tree tree(boxes);
-    for (std::size_t i = 0; i < searched.size() && !stopped; ++i) {
-        const int e = searched[i];
-        if (!record(e).is_fresh) {
+    for (int e = 0; e < static_cast<int>(records.size()) && !stopped; ++e) {
+        if (!record(e).is_searched || !record(e).is_fresh) {
             continue;
         }
-        tree.visit_meeting(boxes[i], [&](int place) {
-            const int f = searched[static_cast<std::size_t>(place)];
+        tree.visit_meeting(boxes[static_cast<std::size_t>(e)], [&](int f) {
             const bool is_own_turn = f != e && (!record(f).is_fresh || e < f);
-            if (is_own_turn && (round > 0 || may_differ(e, f))) {
+            if (is_own_turn && record(f).is_searched && (round > 0 || may_differ(e, f))) {
                 compare(e, f);
             }
         });

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <utility>
 
+#include <ox/solid/internal/csg/convex_faces.h>
 #include <ox/solid/internal/csg/edge_register.h>
 #include <ox/solid/internal/csg/planar_triangulation.h>
 #include <ox/solid/internal/csg/planar_view.h>
@@ -34,6 +35,7 @@ struct viewed_points {
         std::sort(names.begin(), names.end());
         names.erase(std::unique(names.begin(), names.end()), names.end());
         const planar_view view(normal);
+        places.reserve(names.size());
         for (const int name : names) {
             places.push_back(view.see(points[static_cast<std::size_t>(name)]));
         }
@@ -115,8 +117,16 @@ std::vector<triangle_list> triangulate_together(const std::vector<grid_point>& p
                                                 const std::vector<const face_boundary*>& faces,
                                                 const std::array<double, 3>& normal,
                                                 std::vector<bool>& fits) {
+    fits.assign(faces.size(), true);
+    if (faces.size() == 1) {
+        triangle_list cut = cut_convex_face(points, *faces.front(), normal);
+        if (!cut.empty()) {
+            return {std::move(cut)};
+        }
+    }
     const viewed_points viewed(points, faces, normal);
     std::vector<region_edge> edges;
+    edges.reserve(2 * viewed.names.size());
     for (std::size_t f = 0; f < faces.size(); ++f) {
         for (const directed_edge& edge : *faces[f]) {
             edges.push_back(
@@ -130,7 +140,6 @@ std::vector<triangle_list> triangulate_together(const std::vector<grid_point>& p
             append_covered(viewed, triangle, triangles[static_cast<std::size_t>(triangle.region)]);
         }
     }
-    fits.assign(faces.size(), true);
     for (std::size_t f = 0; f < faces.size(); ++f) {
         if (!is_boundary_of(*faces[f], triangles[f])) {
             triangles[f].clear();

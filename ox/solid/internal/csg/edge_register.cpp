@@ -12,12 +12,16 @@ namespace {
 /// A power of two; at most half of the slots are taken.
 constexpr std::size_t first_slot_count = 64;
 
-/// Orders the edges between the same points next to each other.
-bool is_lower_edge(const directed_edge& a, const directed_edge& b) {
-    const auto key = [](const directed_edge& e) {
-        return std::make_pair(std::min(e[0], e[1]), std::max(e[0], e[1]));
-    };
-    return key(a) < key(b);
+/// Orders edges by their lower ends, then their higher ones, then their directions.
+bool comes_before(const directed_edge& a, const directed_edge& b) {
+    const int a_low = std::min(a[0], a[1]);
+    const int b_low = std::min(b[0], b[1]);
+    if (a_low != b_low) {
+        return a_low < b_low;
+    }
+    const int a_high = std::max(a[0], a[1]);
+    const int b_high = std::max(b[0], b[1]);
+    return a_high != b_high ? a_high < b_high : a[0] < b[0];
 }
 
 } // namespace
@@ -116,18 +120,16 @@ void edge_division::apply(edge_register& edges, face_boundary& face) const {
 }
 
 void cancel_opposites(face_boundary& boundary) {
-    std::sort(boundary.begin(), boundary.end(), [](const directed_edge& a, const directed_edge& b) {
-        return is_lower_edge(a, b) || (!is_lower_edge(b, a) && a < b);
-    });
-    face_boundary kept;
+    std::sort(boundary.begin(), boundary.end(), comes_before);
+    std::size_t kept = 0;
     for (const directed_edge& edge : boundary) {
-        if (!kept.empty() && kept.back()[0] == edge[1] && kept.back()[1] == edge[0]) {
-            kept.pop_back();
+        if (kept > 0 && boundary[kept - 1][0] == edge[1] && boundary[kept - 1][1] == edge[0]) {
+            --kept;
         } else {
-            kept.push_back(edge);
+            boundary[kept++] = edge;
         }
     }
-    boundary = std::move(kept);
+    boundary.resize(kept);
 }
 
 } // namespace ox::internal::csg

@@ -17,13 +17,21 @@ struct grid_box {
     /// Grows to hold a point.
     void include(const grid_point& point);
 
+    /// Grows to hold a box.
+    void include(const grid_box& other);
+
     /// Grows by `margin` on every side.
     void grow(double margin);
 
-    /// True if the boxes share a point.
+    /// True if the boxes share a point. All is compared always: which comparison fails first is
+    /// anybody's guess, and wrong guesses cost a processor more.
     bool meets(const grid_box& other) const {
-        return low[0] <= other.high[0] && other.low[0] <= high[0] && low[1] <= other.high[1] &&
-               other.low[1] <= high[1] && low[2] <= other.high[2] && other.low[2] <= high[2];
+        int count = 0;
+        for (std::size_t axis = 0; axis < 3; ++axis) {
+            count += static_cast<int>(low[axis] <= other.high[axis]);
+            count += static_cast<int>(other.low[axis] <= high[axis]);
+        }
+        return count == 6;
     }
 };
 
@@ -37,7 +45,7 @@ public:
     /// only.
     template <typename visitor>
     void visit_meeting(const grid_box& box, visitor visit) const {
-        if (!nodes.empty()) {
+        if (!nodes.empty() && nodes.front().bounds.meets(box)) {
             visit_node(0, box, visit);
         }
     }
@@ -50,18 +58,26 @@ private:
         std::size_t count;
     };
 
-    void build(std::size_t place, std::size_t begin, std::size_t end);
-    int longest_side(std::size_t begin, std::size_t end) const;
+    /// The middle of a box, doubled, on the way to its leaf.
+    struct box_middle {
+        std::array<double, 3> place;
+        int index;
+    };
+
+    void build(const std::vector<grid_box>& boxes, std::vector<box_middle>& middles,
+               std::size_t place, std::size_t begin, std::size_t end);
+    void make_leaf(const std::vector<grid_box>& boxes, const std::vector<box_middle>& middles,
+                   node& leaf);
 
     template <typename visitor>
     void visit_node(std::size_t place, const grid_box& box, visitor& visit) const {
         const node& here = nodes[place];
-        if (!here.bounds.meets(box)) {
-            return;
-        }
         if (here.count == 0) {
-            visit_node(here.first, box, visit);
-            visit_node(here.first + 1, box, visit);
+            for (const std::size_t half : {here.first, here.first + 1}) {
+                if (nodes[half].bounds.meets(box)) {
+                    visit_node(half, box, visit);
+                }
+            }
             return;
         }
         for (std::size_t i = here.first; i < here.first + here.count; ++i) {

@@ -13,7 +13,7 @@ namespace {
 constexpr std::size_t first_slot_count = 64;
 
 /// Orders edges by their lower ends, then their higher ones, then their directions.
-bool comes_before(const directed_edge& a, const directed_edge& b) {
+constexpr auto comes_before = [](const directed_edge& a, const directed_edge& b) {
     const int a_low = std::min(a[0], a[1]);
     const int b_low = std::min(b[0], b[1]);
     if (a_low != b_low) {
@@ -22,7 +22,7 @@ bool comes_before(const directed_edge& a, const directed_edge& b) {
     const int a_high = std::max(a[0], a[1]);
     const int b_high = std::max(b[0], b[1]);
     return a_high != b_high ? a_high < b_high : a[0] < b[0];
-}
+};
 
 } // namespace
 

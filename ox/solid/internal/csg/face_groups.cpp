@@ -53,7 +53,7 @@ private:
     const scene& faces;
     double common_reach;
     double own_reach;
-    std::vector<piece_edge> edges; // sorted
+    std::vector<piece_edge> edges;        // sorted
     std::vector<std::size_t> first_edges; // that leave each point
     std::vector<bool> is_grouped;
     std::vector<bool> is_narrow; // pieces whose normal says nothing

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include <ox/solid/internal/measures/point_tree.h>
-#include <ox/solid/internal/measures/stored_contours.h>
 #include <ox/solid/internal/measures/welded_points.h>
+#include <ox/solid/internal/stored_contours.h>
 
 namespace ox::internal {
 
@@ -35,6 +35,9 @@ edge_balance make_balance(int from, int to, int count) {
 
 void append_edges(const stored_contour& contour, const std::vector<int>& welded,
                   edge_balances& edges) {
+    if (contour.size == 0) {
+        return;
+    }
     int from = welded[contour.indices[contour.size - 1]];
     for (int i = 0; i < contour.size; ++i) {
         const int to = welded[contour.indices[i]];

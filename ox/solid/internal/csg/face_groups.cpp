@@ -40,8 +40,9 @@ public:
     std::vector<face_group> run();
 
 private:
+    plane_candidates make_candidates();
     face_group grow_from(int first);
-    double allowed_deviation(int piece, int first, const std::array<double, 3>& normal) const;
+    double allowed_deviation(int piece, const std::array<double, 3>& normal) const;
     bool is_thin(const result_piece& piece, double reach) const;
     void visit_neighbours(int piece, std::vector<int>& neighbours) const;
 
@@ -57,6 +58,8 @@ private:
     std::vector<std::size_t> first_edges; // that leave each point
     std::vector<bool> is_grouped;
     std::vector<bool> is_narrow; // pieces whose normal says nothing
+    int beginning = -1;          // the first piece of the group that grows
+    plane_growth growth;
 };
 
 group_search::group_search(const result_pieces& given, const scene& scene_faces,
@@ -64,7 +67,7 @@ group_search::group_search(const result_pieces& given, const scene& scene_faces,
     : result(given), faces(scene_faces),
       common_reach((std::max)(grid.get_tolerance() * common_plane_share, grid.get_float_spacing())),
       own_reach((std::min)(own_plane_spacings * grid.get_float_spacing(), common_reach)),
-      is_grouped(given.pieces.size(), false) {
+      is_grouped(given.pieces.size(), false), growth(make_candidates(), common_reach) {
     for (std::size_t i = 0; i < result.pieces.size(); ++i) {
         for (const directed_edge& edge : result.pieces[i].boundary) {
             edges.push_back({edge, static_cast<int>(i)});
@@ -101,12 +104,11 @@ bool group_search::is_thin(const result_piece& piece, double reach) const {
     return own.area * own.area <= reach * reach * longest;
 }
 
-double group_search::allowed_deviation(int piece, int first,
-                                       const std::array<double, 3>& normal) const {
+double group_search::allowed_deviation(int piece, const std::array<double, 3>& normal) const {
     const result_piece& candidate = at(piece);
-    const result_piece& beginning = at(first);
-    if (candidate.is_of_face && candidate.face == beginning.face &&
-        candidate.is_reversed == beginning.is_reversed) {
+    const result_piece& first = at(beginning);
+    if (candidate.is_of_face && candidate.face == first.face &&
+        candidate.is_reversed == first.is_reversed) {
         return 1e300; // of the same face, wherever its corners were moved to
     }
     if (dot(candidate.plane.normal, normal) <= same_way_cosine &&
@@ -116,11 +118,10 @@ double group_search::allowed_deviation(int piece, int first,
     const auto operand_of = [this](const result_piece& p) {
         return faces.faces[static_cast<std::size_t>(p.face)].operand;
     };
-    return operand_of(candidate) == operand_of(beginning) ? own_reach : common_reach;
+    return operand_of(candidate) == operand_of(first) ? own_reach : common_reach;
 }
 
-face_group group_search::grow_from(int first) {
-    const auto is_taken = [this](int piece) { return is_grouped[static_cast<std::size_t>(piece)]; };
+plane_candidates group_search::make_candidates() {
     plane_candidates candidates;
     candidates.points = &result.points;
     candidates.boundary_of = [this](int piece) -> const face_boundary& {
@@ -129,17 +130,28 @@ face_group group_search::grow_from(int first) {
     candidates.find_neighbours = [this](int piece, std::vector<int>& found) {
         visit_neighbours(piece, found);
     };
-    candidates.allowed_deviation = [&](int piece, const std::array<double, 3>& normal) {
-        return is_taken(piece) ? -1.0 : allowed_deviation(piece, first, normal);
+    candidates.allowed_deviation = [this](int piece, const std::array<double, 3>& normal) {
+        return is_grouped[static_cast<std::size_t>(piece)] ? -1.0
+                                                           : allowed_deviation(piece, normal);
     };
     candidates.is_reversed = [](int, const std::array<double, 3>&) { return false; };
     candidates.join = [this](int piece) { is_grouped[static_cast<std::size_t>(piece)] = true; };
     candidates.joint_fit_count = joint_fit_count;
+    return candidates;
+}
+
+face_group group_search::grow_from(int first) {
+    beginning = first;
+    is_grouped[static_cast<std::size_t>(first)] = true;
     face_group group;
-    group.plane = at(first).plane;
-    candidates.join(first);
-    group.pieces = collect_plane(first, group.plane, common_reach, candidates);
+    group.pieces = growth.collect(first, at(first).plane);
+    group.plane = growth.get_plane();
     group.first_face = at(first).face;
+    std::size_t edge_count = 0;
+    for (const int piece : group.pieces) {
+        edge_count += at(piece).boundary.size();
+    }
+    group.boundary.reserve(edge_count);
     for (const int piece : group.pieces) {
         const face_boundary& part = at(piece).boundary;
         group.boundary.insert(group.boundary.end(), part.begin(), part.end());

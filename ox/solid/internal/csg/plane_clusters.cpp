@@ -24,6 +24,7 @@ public:
     bool run(const progress_report& report);
 
 private:
+    plane_candidates make_candidates();
     void grow_from(int first);
     double allowed_deviation(int face, const std::array<double, 3>& normal) const;
     scene_face& at(int face) const { return faces.faces[static_cast<std::size_t>(face)]; }
@@ -32,10 +33,13 @@ private:
     double tolerance;
     std::vector<grid_box> boxes;
     box_tree tree;
+    int beginning = -1; ///< the first face of the cluster that grows
+    plane_growth growth;
 };
 
 std::vector<grid_box> grown_boxes(const scene& faces, double margin) {
     std::vector<grid_box> boxes;
+    boxes.reserve(faces.faces.size());
     for (const scene_face& face : faces.faces) {
         boxes.push_back(box_of_face(faces, face));
         boxes.back().grow(margin);
@@ -44,7 +48,8 @@ std::vector<grid_box> grown_boxes(const scene& faces, double margin) {
 }
 
 cluster_search::cluster_search(scene& all, double reach)
-    : faces(all), tolerance(reach), boxes(grown_boxes(all, reach)), tree(boxes) {
+    : faces(all), tolerance(reach), boxes(grown_boxes(all, reach)), tree(boxes),
+      growth(make_candidates(), reach) {
     for (scene_face& face : faces.faces) {
         face.cluster = -1;
     }
@@ -74,11 +79,7 @@ double cluster_search::allowed_deviation(int face, const std::array<double, 3>& 
     return is_parallel && at(face).unevenness <= tolerance ? tolerance : -1.0;
 }
 
-void cluster_search::grow_from(int first) {
-    at(first).cluster = first;
-    if (at(first).unevenness > tolerance || at(first).plane.area == 0.0) {
-        return;
-    }
+plane_candidates cluster_search::make_candidates() {
     plane_candidates candidates;
     candidates.points = &faces.points;
     candidates.boundary_of = [this](int face) -> const face_boundary& { return at(face).boundary; };
@@ -95,9 +96,16 @@ void cluster_search::grow_from(int first) {
     candidates.is_reversed = [this](int face, const std::array<double, 3>& normal) {
         return dot(at(face).plane.normal, normal) < 0.0;
     };
-    candidates.join = [this, first](int face) { at(face).cluster = first; };
-    fitted_plane plane = at(first).plane;
-    collect_plane(first, plane, tolerance, candidates);
+    candidates.join = [this](int face) { at(face).cluster = beginning; };
+    return candidates;
+}
+
+void cluster_search::grow_from(int first) {
+    at(first).cluster = first;
+    if (at(first).unevenness <= tolerance && at(first).plane.area != 0.0) {
+        beginning = first;
+        growth.collect(first, at(first).plane);
+    }
 }
 
 } // namespace

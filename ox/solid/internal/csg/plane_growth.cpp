@@ -46,29 +46,7 @@ fitted_plane fit_corners(const std::array<double, 3>& normal, const std::vector<
     return fitted;
 }
 
-class plane_growth {
-public:
-    plane_growth(fitted_plane& growing, double allowed, const plane_candidates& all)
-        : plane(growing), reach(allowed), candidates(all) {}
-
-    std::vector<int> run(int first);
-
-private:
-    void grow();
-    void try_to_join(int candidate);
-    bool refit();
-    bool fit(const face_boundary& all, double allowed);
-    face_boundary boundary_of_members() const;
-    void fit_jointly();
-
-    fitted_plane& plane;
-    double reach;
-    const plane_candidates& candidates;
-    std::vector<int> members;
-    std::vector<int> refused;
-    std::size_t visited = 0;      // members whose neighbours were tried
-    std::size_t fitted_count = 1; // members when the plane was fitted last
-};
+} // namespace
 
 void plane_growth::try_to_join(int candidate) {
     const double allowed = candidates.allowed_deviation(candidate, plane.normal);
@@ -84,7 +62,6 @@ void plane_growth::try_to_join(int candidate) {
 }
 
 void plane_growth::grow() {
-    std::vector<int> neighbours;
     for (; visited < members.size(); ++visited) {
         if (members.size() >= 2 * fitted_count) {
             refit();
@@ -143,27 +120,29 @@ void plane_growth::fit_jointly() {
     }
 }
 
-std::vector<int> plane_growth::run(int first) {
-    members.push_back(first);
-    grow();
+/// Tries those that were refused again while the plane of all members changes.
+void plane_growth::retry_refused() {
     for (int retry = 0; retry < largest_retry_count; ++retry) {
         if (refused.empty() || members.size() == fitted_count || !refit()) {
-            break;
+            return;
         }
         for (const int candidate : std::exchange(refused, {})) {
             try_to_join(candidate);
         }
         grow();
     }
-    fit_jointly();
-    return std::move(members);
 }
 
-} // namespace
-
-std::vector<int> collect_plane(int first, fitted_plane& plane, double reach,
-                               const plane_candidates& candidates) {
-    return plane_growth(plane, reach, candidates).run(first);
+const std::vector<int>& plane_growth::collect(int first, const fitted_plane& plane_of_first) {
+    plane = plane_of_first;
+    members.assign(1, first);
+    refused.clear();
+    visited = 0;
+    fitted_count = 1;
+    grow();
+    retry_refused();
+    fit_jointly();
+    return members;
 }
 
 } // namespace ox::internal::csg

@@ -2,6 +2,7 @@
 #define OX_SOLID_INTERNAL_CSG_PLANE_GROWTH_H
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 #include <ox/solid/internal/csg/scene.h>
@@ -32,12 +33,41 @@ struct plane_candidates {
     int joint_fit_count = 0;
 };
 
-/// Collects those of one plane around a first candidate, which comes first. The plane is that of
-/// the first one; each time their number has doubled, it becomes the plane of all of them, if they
-/// all lie within `reach` steps of it: so a plane is known the better the farther it reaches, and
-/// still does not drift. O(n log n) for n corners of them and their neighbours.
-std::vector<int> collect_plane(int first, fitted_plane& plane, double reach,
-                               const plane_candidates& candidates);
+/// Collects candidates of one plane, for one first candidate after another.
+class plane_growth {
+public:
+    /// Members lie within `allowed` steps of the plane of all of them.
+    plane_growth(plane_candidates all, double allowed)
+        : candidates(std::move(all)), reach(allowed) {}
+
+    /// Collects those of one plane around a first candidate, which comes first; valid until the
+    /// next call. The plane is that of the first one; each time their number has doubled, it
+    /// becomes the plane of all of them, if they all lie within reach of it: so a plane is known
+    /// the better the farther it reaches, and still does not drift. O(n log n) for n corners of
+    /// them and their neighbours.
+    const std::vector<int>& collect(int first, const fitted_plane& plane_of_first);
+
+    /// The plane of those collected last.
+    const fitted_plane& get_plane() const { return plane; }
+
+private:
+    void grow();
+    void try_to_join(int candidate);
+    bool refit();
+    bool fit(const face_boundary& all, double allowed);
+    face_boundary boundary_of_members() const;
+    void retry_refused();
+    void fit_jointly();
+
+    plane_candidates candidates;
+    double reach;
+    fitted_plane plane;
+    std::vector<int> members;
+    std::vector<int> refused;
+    std::vector<int> neighbours;
+    std::size_t visited = 0;      // members whose neighbours were tried
+    std::size_t fitted_count = 1; // members when the plane was fitted last
+};
 
 } // namespace ox::internal::csg
 

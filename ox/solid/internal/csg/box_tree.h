@@ -45,8 +45,15 @@ public:
     /// only.
     template <typename visitor>
     void visit_meeting(const grid_box& box, visitor visit) const {
-        if (!nodes.empty() && nodes.front().bounds.meets(box)) {
-            visit_node(0, box, visit);
+        visit_where([&box](const grid_box& other) { return other.meets(box); }, visit);
+    }
+
+    /// The same for every box for which `reaches(box)` holds, which must hold for a box around
+    /// one for which it does.
+    template <typename test, typename visitor>
+    void visit_where(const test& reaches, visitor visit) const {
+        if (!nodes.empty() && reaches(nodes.front().bounds)) {
+            visit_node(0, reaches, visit);
         }
     }
 
@@ -69,19 +76,19 @@ private:
     void make_leaf(const std::vector<grid_box>& boxes, const std::vector<box_middle>& middles,
                    node& leaf);
 
-    template <typename visitor>
-    void visit_node(std::size_t place, const grid_box& box, visitor& visit) const {
+    template <typename test, typename visitor>
+    void visit_node(std::size_t place, const test& reaches, visitor& visit) const {
         const node& here = nodes[place];
         if (here.count == 0) {
             for (const std::size_t half : {here.first, here.first + 1}) {
-                if (nodes[half].bounds.meets(box)) {
-                    visit_node(half, box, visit);
+                if (reaches(nodes[half].bounds)) {
+                    visit_node(half, reaches, visit);
                 }
             }
             return;
         }
         for (std::size_t i = here.first; i < here.first + here.count; ++i) {
-            if (sorted[i].box.meets(box)) {
+            if (reaches(sorted[i].box)) {
                 visit(sorted[i].index);
             }
         }

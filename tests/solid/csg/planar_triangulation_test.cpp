@@ -11,9 +11,7 @@
 
 #include <gtest/gtest.h>
 
-#include <ox/solid/internal/csg/convex_faces.h>
 #include <ox/solid/internal/csg/planar_triangulation.h>
-#include <ox/solid/internal/csg/planar_view.h>
 #include <tests/support/generator.h>
 
 namespace {
@@ -268,71 +266,6 @@ TEST(CsgTriangulation, RandomEdgesOfAnyKindEndInAnAnswer) {
         triangulate_regions(plane.points, plane.edges, triangles);
         EXPECT_LT(triangles.size(), 1000u);
     }
-}
-
-/// The triangles that the sweep cuts a ring of points into, seen along a normal; none where the
-/// ring does not run counter-clockwise about its inside.
-std::vector<std::array<int, 3>> sweep_ring(const std::vector<ox::internal::csg::grid_point>& points,
-                                           const std::array<double, 3>& normal) {
-    const ox::internal::csg::planar_view view(normal);
-    plane_regions plane;
-    std::vector<planar_point> ring;
-    for (const ox::internal::csg::grid_point& point : points) {
-        ring.push_back(view.see(point));
-    }
-    plane.add_ring(ring, 0);
-    std::vector<covered_triangle> covered;
-    std::vector<std::array<int, 3>> triangles;
-    if (triangulate_regions(plane.points, plane.edges, covered)) {
-        for (const covered_triangle& triangle : covered) {
-            if (triangle.winding == 1) {
-                triangles.push_back(triangle.vertices);
-            }
-        }
-    }
-    return triangles;
-}
-
-TEST(ConvexFaces, AreCutAsTheSweepCutsThem) {
-    support::generator random(93);
-    int cut_count = 0;
-    for (int i = 0; i < 20000; ++i) {
-        const int corner_count = random.between(3, 4);
-        std::vector<ox::internal::csg::grid_point> points;
-        ox::internal::csg::face_boundary face;
-        for (int corner = 0; corner < corner_count; ++corner) {
-            const int x = random.between(-4, 4);
-            const int y = random.between(-4, 4);
-            const int z = random.between(-4, 4);
-            points.push_back({x, y, z});
-            face.push_back({corner, (corner + 1) % corner_count});
-        }
-        std::reverse(face.begin(), face.end());
-        std::array<double, 3> normal = {0.0, 0.0, 0.0};
-        normal[static_cast<std::size_t>(random.between(0, 2))] = random.one_in(2) ? 1.0 : -1.0;
-        const auto cut = ox::internal::csg::cut_convex_face(points, face, normal);
-        if (!cut.empty()) {
-            ++cut_count;
-            EXPECT_EQ(cut, sweep_ring(points, normal)) << i;
-        }
-    }
-    EXPECT_GT(cut_count, 4000);
-}
-
-TEST(ConvexFaces, OfOtherShapesAreLeftToTheSweep) {
-    using ox::internal::csg::cut_convex_face;
-    const std::vector<ox::internal::csg::grid_point> points = {
-        {0, 0, 0}, {4, 0, 0}, {1, 1, 0}, {0, 4, 0}, {2, 0, 0}};
-    const std::array<double, 3> up = {0.0, 0.0, 1.0};
-    const std::array<double, 3> down = {0.0, 0.0, -1.0};
-    EXPECT_TRUE(cut_convex_face(points, {}, up).empty());
-    EXPECT_TRUE(cut_convex_face(points, {{0, 1}, {1, 2}, {2, 3}, {3, 0}}, up).empty()) << "dented";
-    EXPECT_TRUE(cut_convex_face(points, {{0, 4}, {4, 1}, {1, 3}, {3, 0}}, up).empty())
-        << "straight";
-    EXPECT_TRUE(cut_convex_face(points, {{0, 1}, {1, 3}, {3, 0}}, down).empty()) << "from behind";
-    EXPECT_TRUE(cut_convex_face(points, {{0, 1}, {1, 0}, {1, 3}, {3, 1}}, up).empty())
-        << "two rings";
-    EXPECT_EQ(cut_convex_face(points, {{0, 1}, {1, 3}, {3, 0}}, up).size(), 1u);
 }
 
 } // namespace

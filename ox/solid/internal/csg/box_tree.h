@@ -17,21 +17,16 @@ struct grid_box {
     /// Grows to hold a point.
     void include(const grid_point& point);
 
-    /// Grows to hold a box.
-    void include(const grid_box& other);
+    /// Grows to hold another box.
+    void include(const grid_box& box);
 
     /// Grows by `margin` on every side.
     void grow(double margin);
 
-    /// True if the boxes share a point. All is compared always: which comparison fails first is
-    /// anybody's guess, and wrong guesses cost a processor more.
+    /// True if the boxes share a point.
     bool meets(const grid_box& other) const {
-        int count = 0;
-        for (std::size_t axis = 0; axis < 3; ++axis) {
-            count += static_cast<int>(low[axis] <= other.high[axis]);
-            count += static_cast<int>(other.low[axis] <= high[axis]);
-        }
-        return count == 6;
+        return low[0] <= other.high[0] && other.low[0] <= high[0] && low[1] <= other.high[1] &&
+               other.low[1] <= high[1] && low[2] <= other.high[2] && other.low[2] <= high[2];
     }
 };
 
@@ -52,8 +47,17 @@ public:
     /// one for which it does.
     template <typename test, typename visitor>
     void visit_where(const test& reaches, visitor visit) const {
-        if (!nodes.empty() && reaches(nodes.front().bounds)) {
+        if (!nodes.empty()) {
             visit_node(0, reaches, visit);
+        }
+    }
+
+    /// Calls `visit(index, index)` for every pair of boxes that meet, once, in an order that
+    /// depends on the boxes only; either index may come first.
+    template <typename visitor>
+    void visit_pairs(visitor visit) const {
+        if (!nodes.empty()) {
+            visit_pairs_within(nodes.front(), visit);
         }
     }
 
@@ -65,31 +69,79 @@ private:
         std::size_t count;
     };
 
-    /// The middle of a box, doubled, on the way to its leaf.
+    /// Twice the middle of a box.
     struct box_middle {
         std::array<double, 3> place;
         int index;
     };
 
-    void build(const std::vector<grid_box>& boxes, std::vector<box_middle>& middles,
-               std::size_t place, std::size_t begin, std::size_t end);
-    void make_leaf(const std::vector<grid_box>& boxes, const std::vector<box_middle>& middles,
-                   node& leaf);
+    void build(std::size_t place, const std::vector<grid_box>& boxes, box_middle* begin,
+               box_middle* end);
+    void make_leaf(std::size_t place, const std::vector<grid_box>& boxes, box_middle* begin,
+                   box_middle* end);
+    static std::size_t longest_side(const box_middle* begin, const box_middle* end);
 
     template <typename test, typename visitor>
     void visit_node(std::size_t place, const test& reaches, visitor& visit) const {
         const node& here = nodes[place];
+        if (!reaches(here.bounds)) {
+            return;
+        }
         if (here.count == 0) {
-            for (const std::size_t half : {here.first, here.first + 1}) {
-                if (reaches(nodes[half].bounds)) {
-                    visit_node(half, reaches, visit);
-                }
-            }
+            visit_node(here.first, reaches, visit);
+            visit_node(here.first + 1, reaches, visit);
             return;
         }
         for (std::size_t i = here.first; i < here.first + here.count; ++i) {
             if (reaches(sorted[i].box)) {
                 visit(sorted[i].index);
+            }
+        }
+    }
+
+    template <typename visitor>
+    void visit_pairs_within(const node& here, visitor& visit) const {
+        if (here.count == 0) {
+            visit_pairs_within(nodes[here.first], visit);
+            visit_pairs_within(nodes[here.first + 1], visit);
+            visit_pairs_between(nodes[here.first], nodes[here.first + 1], visit);
+            return;
+        }
+        for (std::size_t i = here.first; i < here.first + here.count; ++i) {
+            for (std::size_t j = here.first; j < i; ++j) {
+                if (sorted[i].box.meets(sorted[j].box)) {
+                    visit(sorted[j].index, sorted[i].index);
+                }
+            }
+        }
+    }
+
+    template <typename visitor>
+    void visit_pairs_between(const node& a, const node& b, visitor& visit) const {
+        if (!a.bounds.meets(b.bounds)) {
+            return;
+        }
+        if (a.count == 0) {
+            visit_pairs_between(nodes[a.first], b, visit);
+            visit_pairs_between(nodes[a.first + 1], b, visit);
+        } else if (b.count == 0) {
+            visit_pairs_between(nodes[b.first], a, visit);
+            visit_pairs_between(nodes[b.first + 1], a, visit);
+        } else {
+            visit_pairs_of_leaves(a, b, visit);
+        }
+    }
+
+    template <typename visitor>
+    void visit_pairs_of_leaves(const node& a, const node& b, visitor& visit) const {
+        for (std::size_t i = a.first; i < a.first + a.count; ++i) {
+            if (!sorted[i].box.meets(b.bounds)) {
+                continue;
+            }
+            for (std::size_t j = b.first; j < b.first + b.count; ++j) {
+                if (sorted[i].box.meets(sorted[j].box)) {
+                    visit(sorted[i].index, sorted[j].index);
+                }
             }
         }
     }
@@ -100,6 +152,25 @@ private:
     };
     std::vector<leaf_box> sorted; // in the order of the leaves
     std::vector<node> nodes;
+};
+
+/// For each box those that meet it, in the order of their indices. O((n + k) log n) time and O(n +
+/// k) memory for k pairs of boxes that meet.
+class box_neighbours {
+public:
+    explicit box_neighbours(const std::vector<grid_box>& boxes);
+
+    /// The neighbours of a box.
+    const int* begin_of(int box) const {
+        return listed.data() + first[static_cast<std::size_t>(box)];
+    }
+    const int* end_of(int box) const {
+        return listed.data() + first[static_cast<std::size_t>(box) + 1];
+    }
+
+private:
+    std::vector<std::size_t> first;
+    std::vector<int> listed;
 };
 
 } // namespace ox::internal::csg

@@ -34,17 +34,21 @@ struct piece_edge {
     }
 };
 
-class group_search {
+class group_search final : private plane_candidates {
 public:
-    group_search(const result_pieces& result, const scene& scene_faces, const working_grid& grid);
+    group_search(const result_pieces& result, const scene& scene_faces, const working_grid& grid,
+                 exact::progress_poll& steps);
     std::vector<face_group> run();
 
 private:
-    plane_candidates make_candidates();
+    const face_boundary& boundary_of(int piece) const override { return at(piece).boundary; }
+    void find_neighbours(int piece, std::vector<int>& found) const override;
+    double allowed_deviation(int piece, const std::array<double, 3>& normal) const override;
+    bool is_reversed(int, const std::array<double, 3>&) const override { return false; }
+    void join(int piece) override { is_grouped[static_cast<std::size_t>(piece)] = true; }
+
     face_group grow_from(int first);
-    double allowed_deviation(int piece, const std::array<double, 3>& normal) const;
     bool is_thin(const result_piece& piece, double reach) const;
-    void visit_neighbours(int piece, std::vector<int>& neighbours) const;
 
     const result_piece& at(int piece) const {
         return result.pieces[static_cast<std::size_t>(piece)];
@@ -52,40 +56,44 @@ private:
 
     const result_pieces& result;
     const scene& faces;
+    exact::progress_poll& poll;
     double common_reach;
     double own_reach;
     std::vector<piece_edge> edges;        // sorted
     std::vector<std::size_t> first_edges; // that leave each point
     std::vector<bool> is_grouped;
     std::vector<bool> is_narrow; // pieces whose normal says nothing
-    int beginning = -1;          // the first piece of the group that grows
     plane_growth growth;
+    int beginning = -1; // the first piece of the group
 };
 
 group_search::group_search(const result_pieces& given, const scene& scene_faces,
-                           const working_grid& grid)
-    : result(given), faces(scene_faces),
+                           const working_grid& grid, exact::progress_poll& steps)
+    : result(given), faces(scene_faces), poll(steps),
       common_reach((std::max)(grid.get_tolerance() * common_plane_share, grid.get_float_spacing())),
       own_reach((std::min)(own_plane_spacings * grid.get_float_spacing(), common_reach)),
-      is_grouped(given.pieces.size(), false), growth(make_candidates(), common_reach) {
+      is_grouped(given.pieces.size(), false),
+      growth(*this, given.points, common_reach, joint_fit_count) {
     for (std::size_t i = 0; i < result.pieces.size(); ++i) {
+        poll.step();
         for (const directed_edge& edge : result.pieces[i].boundary) {
             edges.push_back({edge, static_cast<int>(i)});
         }
         is_narrow.push_back(is_thin(result.pieces[i], common_reach));
     }
     first_edges = sort_by_start(edges, result.points.size(),
-                                [](const piece_edge& given_edge) { return given_edge.edge[0]; });
+                                [](const piece_edge& sorted) { return sorted.edge[0]; });
 }
 
 /// The pieces not in a group yet with an edge against one of the given piece's.
-void group_search::visit_neighbours(int piece, std::vector<int>& neighbours) const {
-    for (const directed_edge& edge : result.pieces[static_cast<std::size_t>(piece)].boundary) {
+void group_search::find_neighbours(int piece, std::vector<int>& found) const {
+    poll.step();
+    for (const directed_edge& edge : at(piece).boundary) {
         const auto start = static_cast<std::size_t>(edge[1]);
         for (std::size_t e = first_edges[start]; e < first_edges[start + 1]; ++e) {
             if (edges[e].edge[1] == edge[0] &&
                 !is_grouped[static_cast<std::size_t>(edges[e].piece)]) {
-                neighbours.push_back(edges[e].piece);
+                found.push_back(edges[e].piece);
             }
         }
     }
@@ -105,6 +113,9 @@ bool group_search::is_thin(const result_piece& piece, double reach) const {
 }
 
 double group_search::allowed_deviation(int piece, const std::array<double, 3>& normal) const {
+    if (is_grouped[static_cast<std::size_t>(piece)]) {
+        return -1.0;
+    }
     const result_piece& candidate = at(piece);
     const result_piece& first = at(beginning);
     if (candidate.is_of_face && candidate.face == first.face &&
@@ -121,37 +132,13 @@ double group_search::allowed_deviation(int piece, const std::array<double, 3>& n
     return operand_of(candidate) == operand_of(first) ? own_reach : common_reach;
 }
 
-plane_candidates group_search::make_candidates() {
-    plane_candidates candidates;
-    candidates.points = &result.points;
-    candidates.boundary_of = [this](int piece) -> const face_boundary& {
-        return at(piece).boundary;
-    };
-    candidates.find_neighbours = [this](int piece, std::vector<int>& found) {
-        visit_neighbours(piece, found);
-    };
-    candidates.allowed_deviation = [this](int piece, const std::array<double, 3>& normal) {
-        return is_grouped[static_cast<std::size_t>(piece)] ? -1.0
-                                                           : allowed_deviation(piece, normal);
-    };
-    candidates.is_reversed = [](int, const std::array<double, 3>&) { return false; };
-    candidates.join = [this](int piece) { is_grouped[static_cast<std::size_t>(piece)] = true; };
-    candidates.joint_fit_count = joint_fit_count;
-    return candidates;
-}
-
 face_group group_search::grow_from(int first) {
-    beginning = first;
-    is_grouped[static_cast<std::size_t>(first)] = true;
     face_group group;
-    group.pieces = growth.collect(first, at(first).plane);
-    group.plane = growth.get_plane();
+    group.plane = at(first).plane;
+    beginning = first;
+    join(first);
+    group.pieces = growth.run(first, group.plane);
     group.first_face = at(first).face;
-    std::size_t edge_count = 0;
-    for (const int piece : group.pieces) {
-        edge_count += at(piece).boundary.size();
-    }
-    group.boundary.reserve(edge_count);
     for (const int piece : group.pieces) {
         const face_boundary& part = at(piece).boundary;
         group.boundary.insert(group.boundary.end(), part.begin(), part.end());
@@ -184,8 +171,8 @@ std::vector<face_group> group_search::run() {
 } // namespace
 
 std::vector<face_group> group_faces(const result_pieces& result, const scene& faces,
-                                    const working_grid& grid) {
-    return group_search(result, faces, grid).run();
+                                    const working_grid& grid, exact::progress_poll& poll) {
+    return group_search(result, faces, grid, poll).run();
 }
 
 } // namespace ox::internal::csg

@@ -12,17 +12,19 @@ namespace {
 /// A power of two; at most half of the slots are taken.
 constexpr std::size_t first_slot_count = 64;
 
-/// Orders edges by their lower ends, then their higher ones, then their directions.
-constexpr auto comes_before = [](const directed_edge& a, const directed_edge& b) {
-    const int a_low = std::min(a[0], a[1]);
-    const int b_low = std::min(b[0], b[1]);
-    if (a_low != b_low) {
-        return a_low < b_low;
-    }
-    const int a_high = std::max(a[0], a[1]);
-    const int b_high = std::max(b[0], b[1]);
-    return a_high != b_high ? a_high < b_high : a[0] < b[0];
-};
+/// A number for each directed edge, in the order of its lower point, its higher one, and its start:
+/// the lowest bit tells edges of opposite directions apart.
+std::uint64_t code_of(const directed_edge& edge) {
+    const auto low = static_cast<std::uint64_t>(std::min(edge[0], edge[1]));
+    const auto high = static_cast<std::uint64_t>(std::max(edge[0], edge[1]));
+    return (low << 32) | (high << 1) | (edge[0] > edge[1] ? 1u : 0u);
+}
+
+directed_edge edge_of(std::uint64_t code) {
+    const int low = static_cast<int>(code >> 32);
+    const int high = static_cast<int>((code & 0xffffffffu) >> 1);
+    return (code & 1) != 0 ? directed_edge{high, low} : directed_edge{low, high};
+}
 
 } // namespace
 
@@ -120,16 +122,21 @@ void edge_division::apply(edge_register& edges, face_boundary& face) const {
 }
 
 void cancel_opposites(face_boundary& boundary) {
-    std::sort(boundary.begin(), boundary.end(), comes_before);
-    std::size_t kept = 0;
+    std::vector<std::uint64_t> codes;
+    codes.reserve(boundary.size());
     for (const directed_edge& edge : boundary) {
-        if (kept > 0 && boundary[kept - 1][0] == edge[1] && boundary[kept - 1][1] == edge[0]) {
-            --kept;
+        codes.push_back(code_of(edge));
+    }
+    std::sort(codes.begin(), codes.end());
+    boundary.clear();
+    for (const std::uint64_t code : codes) {
+        const directed_edge edge = edge_of(code);
+        if (!boundary.empty() && boundary.back() == directed_edge{edge[1], edge[0]}) {
+            boundary.pop_back();
         } else {
-            boundary[kept++] = edge;
+            boundary.push_back(edge);
         }
     }
-    boundary.resize(kept);
 }
 
 } // namespace ox::internal::csg

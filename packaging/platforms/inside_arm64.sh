@@ -2,8 +2,10 @@
 # Builds for arm64 in a fresh Debian on another machine. Run by arm64.sh inside.
 set -euo pipefail
 
-readonly tools=(g++-aarch64-linux-gnu cmake ninja-build pkg-config python3 qemu-user libutfcpp-dev)
-readonly libraries=(libpolyclipping-dev libglu1-mesa-dev libgl-dev libgtest-dev libgmock-dev)
+readonly tools=(g++-aarch64-linux-gnu cmake ninja-build pkg-config python3 qemu-user libutfcpp-dev
+    libcli11-dev)
+readonly libraries=(libpolyclipping-dev libglu1-mesa-dev libgl-dev libegl-dev libpng-dev libgtest-dev
+    libgmock-dev)
 
 install_packages() {
     dpkg --add-architecture arm64

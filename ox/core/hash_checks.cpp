@@ -10,6 +10,8 @@
 
 namespace ox {
 
+using namespace internal;
+
 namespace {
 
 constexpr int entries = 100000;
@@ -44,18 +46,23 @@ void log_number_of_keys(const int_hash& hash) {
     log_line("ox_hash size %d", hash.get_keys().size());
 }
 
+/// Does `work(key)` for every key of [first, last], down where the last one is smaller.
 template <typename operation>
-void for_ascending(const operation& work) {
-    for (int i = 0; i < entries; ++i) {
-        work(i);
+void for_each_key(int first, int last, const operation& work) {
+    const int step = first <= last ? 1 : -1;
+    for (int key = first; key != last + step; key += step) {
+        work(key);
     }
 }
 
 template <typename operation>
+void for_ascending(const operation& work) {
+    for_each_key(0, entries - 1, work);
+}
+
+template <typename operation>
 void for_descending(const operation& work) {
-    for (int i = entries - 1; i >= 0; --i) {
-        work(i);
-    }
+    for_each_key(entries - 1, 0, work);
 }
 
 void time_right_ends() {
@@ -86,37 +93,29 @@ void time_left_ends() {
          [](int_hash& h) { for_ascending([&h](int i) { h.remove(i); }); });
 }
 
-/// Sets every key of [first, last] to itself, and tells whether it is then found.
+/// Sets every key of [first, last] to itself, and tells whether all are then found.
 bool set_each(int_hash& hash, int first, int last) {
-    const int step = first <= last ? 1 : -1;
-    for (int key = first; key != last + step; key += step) {
+    bool found = true;
+    for_each_key(first, last, [&](int key) {
         hash.set(key, key);
         int value = 0;
-        if (!hash.get(key, value) || value != key) {
-            return false;
-        }
-    }
-    return true;
+        found = found && hash.get(key, value) && value == key;
+    });
+    return found;
 }
 
 void remove_each(int_hash& hash, int first, int last) {
-    const int step = first <= last ? 1 : -1;
-    for (int key = first; key != last + step; key += step) {
-        hash.remove(key);
-    }
+    for_each_key(first, last, [&hash](int key) { hash.remove(key); });
 }
 
 } // namespace
 
 bool ox_hash_unitary_test() {
     int_hash hash;
-    if (!set_each(hash, 150, 159) || hash.size() != 10) {
-        return false;
-    }
-    if (!set_each(hash, 140, 131) || hash.size() != 20) {
-        return false;
-    }
-    if (!set_each(hash, 140, 131) || hash.size() != 20) {
+    const auto grows_to = [&hash](int first, int last, unsigned int size) {
+        return set_each(hash, first, last) && hash.size() == size;
+    };
+    if (!grows_to(150, 159, 10) || !grows_to(140, 131, 20) || !grows_to(140, 131, 20)) {
         return false;
     }
     hash.rebalance();

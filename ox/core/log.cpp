@@ -50,8 +50,8 @@ void print_without_arguments(const char* format) {
 
 void write_line(const char* message) {
     const char* const chosen = chosen_file_name;
-    const ox::open_file file = ox::open_path(chosen != nullptr ? chosen : default_file_name,
-                                             first_write_pending ? "w" : "a");
+    const ox::internal::open_file file = ox::internal::open_path(
+        chosen != nullptr ? chosen : default_file_name, first_write_pending ? "w" : "a");
     if (file == nullptr) {
         return;
     }

@@ -15,6 +15,8 @@
 
 namespace ox {
 
+using namespace internal;
+
 namespace {
 
 constexpr double megabytes_per_byte = 1.0 / 1048576.0;

@@ -9,6 +9,8 @@
 
 namespace ox {
 
+using namespace internal;
+
 namespace {
 
 constexpr double half_turn_double = 3.141592653589793;

@@ -55,35 +55,19 @@ ox_color::ox_color(const std::string& text) {
 }
 
 ox_color& ox_color::operator*=(const ox_color& c) {
-    r *= c.r;
-    g *= c.g;
-    b *= c.b;
-    a *= c.a;
-    return *this;
+    return *this = ox_color(r * c.r, g * c.g, b * c.b, a * c.a);
 }
 
 ox_color& ox_color::operator+=(const ox_color& c) {
-    r += c.r;
-    g += c.g;
-    b += c.b;
-    a += c.a;
-    return *this;
+    return *this = ox_color(r + c.r, g + c.g, b + c.b, a + c.a);
 }
 
 ox_color& ox_color::operator*=(float f) {
-    r *= f;
-    g *= f;
-    b *= f;
-    a *= f;
-    return *this;
+    return *this = ox_color(r * f, g * f, b * f, a * f);
 }
 
 ox_color& ox_color::operator/=(float f) {
-    r /= f;
-    g /= f;
-    b /= f;
-    a /= f;
-    return *this;
+    return *this = ox_color(r / f, g / f, b / f, a / f);
 }
 
 void ox_color::decode_rgba(unsigned long v) {

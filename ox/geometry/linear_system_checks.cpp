@@ -56,40 +56,25 @@ void log_differences(const ox_list<float>& computed, const ox_list<float>& expec
     }
 }
 
-bool log_result(int passed) {
-    log_line("result : %d / %d", passed, trials);
-    return passed == trials;
-}
+/// What one kind of check solves, and what it calls it in the log.
+struct checked_problem {
+    const char* name;
+    const char* solution_name;
+    ox_list<float> expected; ///< the product of the matrix and the solution
+};
 
-bool check_inverse(ox_random& random, const ox_list<float>& identity, int trial) {
-    const ox_list<float> matrix = random_numbers(random, order * order);
-    const ox_list<float> inverse = ox_reverse_matrix(matrix);
-    if (inverse.size() == 0) {
-        log_line("matrix %d is not inversible", trial);
-        return false;
-    }
-    const ox_list<float> computed = product(matrix, inverse, order);
-    const bool passed = agree(computed, identity);
-    if (!passed) {
-        log_line("reverse matrix %d is wrong", trial);
-        log_differences(computed, identity);
-    }
-    return passed;
-}
-
-bool check_solution(ox_random& random, int trial) {
-    const ox_list<float> matrix = random_numbers(random, order * order);
-    const ox_list<float> right_side = random_numbers(random, order);
-    const ox_list<float> solution = ox_solve_system(matrix, right_side);
+/// Multiplies out the solution of one problem, which is empty where there is none.
+bool check(const checked_problem& problem, const ox_list<float>& matrix,
+           const ox_list<float>& solution, int trial) {
     if (solution.size() == 0) {
-        log_line("system %d is not inversible", trial);
+        log_line("%s %d is not inversible", problem.name, trial);
         return false;
     }
-    const ox_list<float> computed = product(matrix, solution, 1);
-    const bool passed = agree(computed, right_side);
+    const ox_list<float> computed = product(matrix, solution, problem.expected.size() / order);
+    const bool passed = agree(computed, problem.expected);
     if (!passed) {
-        log_line("system %d is wrong", trial);
-        log_differences(computed, right_side);
+        log_line("%s %d is wrong", problem.solution_name, trial);
+        log_differences(computed, problem.expected);
     }
     return passed;
 }
@@ -102,27 +87,38 @@ ox_list<float> identity_matrix() {
     return identity;
 }
 
+bool check_inverse(ox_random& random, int trial) {
+    const checked_problem inversion = {"matrix", "reverse matrix", identity_matrix()};
+    const ox_list<float> matrix = random_numbers(random, order * order);
+    return check(inversion, matrix, ox_reverse_matrix(matrix), trial);
+}
+
+bool check_solution(ox_random& random, int trial) {
+    const ox_list<float> matrix = random_numbers(random, order * order);
+    const checked_problem system = {"system", "system", random_numbers(random, order)};
+    return check(system, matrix, ox_solve_system(matrix, system.expected), trial);
+}
+
+/// Runs all trials of a check and logs how many passed; true if all did.
+bool run_trials(const char* title, bool (*passes)(ox_random& random, int trial)) {
+    ox_log_thread_safe(title);
+    ox_random random(check_seed);
+    int passed = 0;
+    for (int trial = 0; trial < trials; ++trial) {
+        passed += passes(random, trial) ? 1 : 0;
+    }
+    log_line("result : %d / %d", passed, trials);
+    return passed == trials;
+}
+
 } // namespace
 
 bool oxut_reverse_matrix() {
-    ox_log_thread_safe("oxut_reverse_matrix");
-    ox_random random(check_seed);
-    const ox_list<float> identity = identity_matrix();
-    int passed = 0;
-    for (int trial = 0; trial < trials; ++trial) {
-        passed += check_inverse(random, identity, trial) ? 1 : 0;
-    }
-    return log_result(passed);
+    return run_trials("oxut_reverse_matrix", check_inverse);
 }
 
 bool oxut_solve_system() {
-    ox_log_thread_safe("oxut_solve_system");
-    ox_random random(check_seed);
-    int passed = 0;
-    for (int trial = 0; trial < trials; ++trial) {
-        passed += check_solution(random, trial) ? 1 : 0;
-    }
-    return log_result(passed);
+    return run_trials("oxut_solve_system", check_solution);
 }
 
 } // namespace ox

@@ -9,6 +9,8 @@
 
 namespace ox {
 
+using namespace internal;
+
 ox_matrix::ox_matrix(const float* values) {
     load_from_float(values);
 }

@@ -67,44 +67,32 @@ public:
 
     /// Adds v in place.
     constexpr ox_2dvector& operator+=(const ox_2dvector& v) noexcept {
-        x += v.x;
-        y += v.y;
-        return *this;
+        return *this = ox_2dvector(x + v.x, y + v.y);
     }
 
     /// Subtracts v in place.
     constexpr ox_2dvector& operator-=(const ox_2dvector& v) noexcept {
-        x -= v.x;
-        y -= v.y;
-        return *this;
+        return *this = ox_2dvector(x - v.x, y - v.y);
     }
 
     /// Multiplies component by component in place (not a dot product).
     constexpr ox_2dvector& operator*=(const ox_2dvector& v) noexcept {
-        x *= v.x;
-        y *= v.y;
-        return *this;
+        return *this = ox_2dvector(x * v.x, y * v.y);
     }
 
     /// Divides component by component in place. A division by 0 is not guarded.
     constexpr ox_2dvector& operator/=(const ox_2dvector& v) noexcept {
-        x /= v.x;
-        y /= v.y;
-        return *this;
+        return *this = ox_2dvector(x / v.x, y / v.y);
     }
 
     /// Multiplies both components by f in place.
     constexpr ox_2dvector& operator*=(float f) noexcept {
-        x *= f;
-        y *= f;
-        return *this;
+        return *this = ox_2dvector(x * f, y * f);
     }
 
     /// Divides both components by f in place. A division by 0 is not guarded.
     constexpr ox_2dvector& operator/=(float f) noexcept {
-        x /= f;
-        y /= f;
-        return *this;
+        return *this = ox_2dvector(x / f, y / f);
     }
 
     /// Euclidean length, in model units.

@@ -71,50 +71,32 @@ public:
 
     /// Adds v in place.
     constexpr ox_3dvector& operator+=(const ox_3dvector& v) noexcept {
-        x += v.x;
-        y += v.y;
-        z += v.z;
-        return *this;
+        return *this = ox_3dvector(x + v.x, y + v.y, z + v.z);
     }
 
     /// Subtracts v in place.
     constexpr ox_3dvector& operator-=(const ox_3dvector& v) noexcept {
-        x -= v.x;
-        y -= v.y;
-        z -= v.z;
-        return *this;
+        return *this = ox_3dvector(x - v.x, y - v.y, z - v.z);
     }
 
     /// Multiplies component by component in place (not a dot product).
     constexpr ox_3dvector& operator*=(const ox_3dvector& v) noexcept {
-        x *= v.x;
-        y *= v.y;
-        z *= v.z;
-        return *this;
+        return *this = ox_3dvector(x * v.x, y * v.y, z * v.z);
     }
 
     /// Divides component by component in place. A division by 0 is not guarded.
     constexpr ox_3dvector& operator/=(const ox_3dvector& v) noexcept {
-        x /= v.x;
-        y /= v.y;
-        z /= v.z;
-        return *this;
+        return *this = ox_3dvector(x / v.x, y / v.y, z / v.z);
     }
 
     /// Multiplies every component by f in place.
     constexpr ox_3dvector& operator*=(float f) noexcept {
-        x *= f;
-        y *= f;
-        z *= f;
-        return *this;
+        return *this = ox_3dvector(x * f, y * f, z * f);
     }
 
     /// Divides every component by f in place. A division by 0 is not guarded.
     constexpr ox_3dvector& operator/=(float f) noexcept {
-        x /= f;
-        y /= f;
-        z /= f;
-        return *this;
+        return *this = ox_3dvector(x / f, y / f, z / f);
     }
 
     /// Euclidean length, in model units.

@@ -5,6 +5,8 @@
 
 namespace ox {
 
+using namespace internal;
+
 ox_polar::ox_polar(const ox_3dvector& p) : radius(p.size()) {
     if (!(radius > 0.0f)) {
         return;

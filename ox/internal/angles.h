@@ -3,7 +3,7 @@
 
 #include <cmath>
 
-namespace ox {
+namespace ox::internal {
 
 // Angles are floats in radians; the functions are evaluated in double precision and rounded
 // back, so that every machine gives the same float.
@@ -31,6 +31,6 @@ inline float to_degrees(float angle) {
     return angle * 180.0f / half_turn;
 }
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -1,6 +1,8 @@
 #ifndef OX_INTERNAL_CONTOUR_VIEW_H
 #define OX_INTERNAL_CONTOUR_VIEW_H
 
+#include <algorithm>
+
 #include <ox/core/ox_list.h>
 
 namespace ox::internal {
@@ -20,6 +22,14 @@ struct contour_view {
     /// The place of the vertex before the one at `i`, around the contour.
     int before(int i) const { return i > first ? i - 1 : end - 1; }
 };
+
+/// The elements of a list that belong to one contour, as a list of their own.
+template <class element>
+ox_list<element> elements_of(const ox_list<element>& list, const contour_view& contour) {
+    ox_list<element> elements(contour.size());
+    std::copy(list.begin() + contour.first, list.begin() + contour.end, elements.begin());
+    return elements;
+}
 
 /// The contours of a list of their sizes, for a range-based loop. A negative size, as holes have
 /// in some lists, counts like a positive one.

@@ -6,7 +6,7 @@
 #include <ox/core/ox_log.h>
 #include <ox/internal/plain_numbers.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// Logs one line made as by `printf`, with decimal points whatever the locale, cut off after 255
 /// characters. Objects of separate threads may log at the same time.
@@ -18,6 +18,6 @@ void log_line(const char* format, values... arguments) {
     ox_log_thread_safe(line);
 }
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

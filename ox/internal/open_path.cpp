@@ -8,7 +8,7 @@
 #include <unistd.h>
 #endif
 
-namespace ox {
+namespace ox::internal {
 
 namespace {
 
@@ -69,4 +69,4 @@ open_file open_stream(const std::string& path) {
     return has_nul(path) ? nullptr : open_file(std::fopen(path.c_str(), "rb"));
 }
 
-} // namespace ox
+} // namespace ox::internal

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-namespace ox {
+namespace ox::internal {
 
 struct file_closer {
     void operator()(std::FILE* file) const { std::fclose(file); }
@@ -24,6 +24,6 @@ open_file open_path(const std::string& path, const char* mode);
 /// Opens for reading what may also be a pipe, and waits for whoever writes to it, or a device.
 open_file open_stream(const std::string& path);
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -2,7 +2,7 @@
 
 #include <clocale>
 
-namespace ox {
+namespace ox::internal {
 
 #if defined(_WIN32)
 
@@ -37,4 +37,4 @@ plain_numbers::~plain_numbers() {
 
 #endif
 
-} // namespace ox
+} // namespace ox::internal

@@ -7,7 +7,7 @@
 #include <locale.h>
 #endif
 
-namespace ox {
+namespace ox::internal {
 
 /// While it lives, the C library writes and reads the numbers of this thread with a decimal point,
 /// whatever locale the process has chosen.
@@ -27,6 +27,6 @@ private:
 #endif
 };
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -5,13 +5,13 @@
 #include <cstddef>
 #include <vector>
 
-namespace ox {
+namespace ox::internal {
 
 /// The intervals of a fixed set that a window meets which only moves upwards: the active edges of
 /// a sweep line (Wylie and others, 1967).
 ///
 /// All intervals are closed. Adding them and sorting costs O(n log n); after that every interval
-/// comes in once, and a move costs the number of intervals met before and after it.
+/// comes in once, and a move costs the intervals active before and after it.
 class sweep_window {
 public:
     struct interval {
@@ -37,7 +37,7 @@ public:
 
     /// The intervals that meet [low, high]. Neither end may be below that of the move before. They
     /// stay in the order in which the user leaves them; new ones come in at the end.
-    std::vector<interval>& move_to(float low, float high) {
+    std::vector<interval>& advance_to(float low, float high) {
         active.erase(std::remove_if(active.begin(), active.end(),
                                     [low](const interval& i) { return i.high < low; }),
                      active.end());
@@ -49,8 +49,8 @@ public:
         return active;
     }
 
-    /// Orders what is met by `at`, equal ones by index: in linear time when they are nearly in that
-    /// order already, as after a small move.
+    /// Orders the active intervals by `at`, equal ones by index: in linear time when they are
+    /// nearly in that order already, as after a small move.
     void order_active() {
         std::size_t moves_left = moves_per_interval * active.size();
         for (std::size_t i = 1; i < active.size(); ++i) {
@@ -87,6 +87,6 @@ private:
     std::vector<interval> active;
 };
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -6,7 +6,7 @@
 
 #include <ox/geometry/ox_3dvector.h>
 
-namespace ox {
+namespace ox::internal {
 
 /// True if no coordinate is infinite or NaN.
 inline bool is_finite(const ox_3dvector& v) {
@@ -28,6 +28,6 @@ inline double exact_dot(const ox_3dvector& a, const ox_3dvector& b) {
            static_cast<double>(a.z) * static_cast<double>(b.z);
 }
 
-} // namespace ox
+} // namespace ox::internal
 
 #endif

@@ -24,12 +24,6 @@ constexpr int largest_precision = 1000;
 /// The sign, the 39 digits before the point of the largest float, the point and the end.
 constexpr int longest_float = 1 + 39 + 1 + largest_precision + 1;
 
-ox_list<std::string> list_of(const std::string& header) {
-    ox_list<std::string> headers;
-    headers.push_right(header);
-    return headers;
-}
-
 /// The text of a number with `separator` in place of the point.
 std::string format_float(float value, int precision, char separator) {
     char text[longest_float];
@@ -83,7 +77,7 @@ ox_list<std::string> headers_of(const ox_csv_column& column) {
 } // namespace
 
 void ox_csv::add_column(const std::string& header, const ox_list<int>& values) {
-    add_column(list_of(header), values);
+    add_column(ox_make_list({header}), values);
 }
 
 void ox_csv::add_column(const ox_list<std::string>& headers, const ox_list<int>& values) {
@@ -92,7 +86,7 @@ void ox_csv::add_column(const ox_list<std::string>& headers, const ox_list<int>&
 }
 
 void ox_csv::add_column(const std::string& header, const ox_list<float>& values, int precision) {
-    add_column(list_of(header), values, precision);
+    add_column(ox_make_list({header}), values, precision);
 }
 
 void ox_csv::add_column(const ox_list<std::string>& headers, const ox_list<float>& values,
@@ -105,7 +99,7 @@ void ox_csv::add_column(const ox_list<std::string>& headers, const ox_list<float
 }
 
 void ox_csv::add_column(const std::string& header, const ox_list<std::string>& values) {
-    add_column(list_of(header), values);
+    add_column(ox_make_list({header}), values);
 }
 
 void ox_csv::add_column(const ox_list<std::string>& headers, const ox_list<std::string>& values) {
@@ -114,7 +108,7 @@ void ox_csv::add_column(const ox_list<std::string>& headers, const ox_list<std::
 }
 
 void ox_csv::add_column(const std::string& header, const ox_list<bool>& values) {
-    add_column(list_of(header), values);
+    add_column(ox_make_list({header}), values);
 }
 
 void ox_csv::add_column(const ox_list<std::string>& headers, const ox_list<bool>& values) {

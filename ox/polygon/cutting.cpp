@@ -7,7 +7,6 @@
 #include <vector>
 
 #include <ox/internal/contour_view.h>
-#include <ox/polygon/internal/hand_over.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
 #include <ox/polygon/internal/tolerances.h>
 #include <ox/polygon/ox_polygon.h>
@@ -62,12 +61,10 @@ cut_extent measure(const ox_list<ox_3dvector>& vertices, const cut_frame& frame)
 /// The rectangle over the polygon's whole extent along the cut, from `s_first` to `s_last` away.
 ox_list<ox_3dvector> rectangle(const cut_frame& f, const cut_extent& x, float s_first,
                                float s_last) {
-    ox_list<ox_3dvector> corners;
-    corners.push_right(f.origin + s_first * f.away + x.t_min * f.along);
-    corners.push_right(f.origin + s_first * f.away + x.t_max * f.along);
-    corners.push_right(f.origin + s_last * f.away + x.t_max * f.along);
-    corners.push_right(f.origin + s_last * f.away + x.t_min * f.along);
-    return corners;
+    return ox_make_list({f.origin + s_first * f.away + x.t_min * f.along,
+                         f.origin + s_first * f.away + x.t_max * f.along,
+                         f.origin + s_last * f.away + x.t_max * f.along,
+                         f.origin + s_last * f.away + x.t_min * f.along});
 }
 
 /// The part of `polygon` inside a rectangle of its plane, as a new polygon.
@@ -78,6 +75,16 @@ std::unique_ptr<ox_polygon> piece_inside(const ox_polygon& polygon,
     auto piece = std::make_unique<ox_polygon>(polygon);
     piece->intersects(clip);
     return piece;
+}
+
+/// Hands new polygons over to the caller of a public function, in their order. Until here they
+/// have an owner, so that an allocation that fails leaks none of them.
+ox_list<ox_polygon*> hand_over(std::vector<std::unique_ptr<ox_polygon>> polygons) {
+    ox_list<ox_polygon*> list(static_cast<int>(polygons.size()));
+    for (int i = 0; i < list.size(); ++i) {
+        list[i] = polygons[static_cast<std::size_t>(i)].release();
+    }
+    return list;
 }
 
 } // namespace
@@ -110,9 +117,7 @@ ox_list<ox_polygon*> ox_polygon::cut_by_plane(const ox_3dvector& point, const ox
 
 ox_list<ox_polygon*> ox_polygon::split_to_polygons() {
     if (count_outer_contours() < 2) {
-        ox_list<ox_polygon*> itself;
-        itself.push_right(this);
-        return itself;
+        return ox_make_list({this});
     }
     std::vector<std::unique_ptr<ox_polygon>> pieces;
     // By contour, what an outer one became. Parents come before what lies inside them.
@@ -134,11 +139,7 @@ ox_list<ox_polygon*> ox_polygon::split_to_polygons() {
 }
 
 ox_list<ox_polygon*> ox_polygon::split_to_convex_polygons() {
-    ox_list<ox_polygon*> pieces;
-    if (is_convex(-1)) {
-        pieces.push_right(this);
-    }
-    return pieces;
+    return is_convex(-1) ? ox_make_list({this}) : ox_list<ox_polygon*>();
 }
 
 bool ox_polygon::is_convex(int contour) {

@@ -62,7 +62,7 @@ const ox_3dvector& ox_polygon::get_best_center() {
         data->best_center = data->point;
     } else {
         // Without a candidate inside, the previous centre stays.
-        center_search(*data).find(data->best_center);
+        find_best_center(*data, data->best_center);
     }
     data->best_center_computed = true;
     return data->best_center;

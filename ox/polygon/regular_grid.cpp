@@ -9,6 +9,7 @@
 
 #include <ox/internal/contour_view.h>
 #include <ox/internal/sweep_window.h>
+#include <ox/polygon/internal/answer_counts.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
 #include <ox/polygon/internal/plane_coordinates.h>
 #include <ox/polygon/internal/search/crossing_count.h>
@@ -147,7 +148,7 @@ private:
     void fill_inside(bool* row, int j) {
         const double y = static_cast<double>(j) + 0.5;
         crossings.clear();
-        for (const sweep_window::interval& i : crossed.move_to(float_below(y), float_above(y))) {
+        for (const sweep_window::interval& i : crossed.advance_to(float_below(y), float_above(y))) {
             const side& s = cell_sides[static_cast<std::size_t>(i.index)];
             double x = 0.0;
             if (find_crossing(s.a, s.b, y, x)) {
@@ -164,11 +165,12 @@ private:
 
     void clear_margin(bool* row, int j, double margin) {
         const double y = static_cast<double>(j) + 0.5;
-        for (const sweep_window::interval& i : near.move_to(float_below(y), float_above(y))) {
+        for (const sweep_window::interval& i : near.advance_to(float_below(y), float_above(y))) {
             const std::size_t index = static_cast<std::size_t>(i.index);
             const point reach = columns_near(cell_sides[index], y);
             const int first = first_cell_beyond(reach.x, columns);
             const int last = first_cell_beyond(reach.y, columns);
+            answers_of(answered_by::measured_cell) += static_cast<std::uint64_t>(last - first);
             for (int c = first; c < last; ++c) {
                 const double x = static_cast<double>(c) + 0.5;
                 const point centre{x * cell_x.x + y * cell_y.x, x * cell_x.y + y * cell_y.y};

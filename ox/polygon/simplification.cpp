@@ -161,9 +161,7 @@ void ox_polygon::optimize_contours(float tolerance) {
     std::vector<ox_list<ox_3dvector>> contours;
     int left = 0;
     for (const contour_view view : contour_views(data->contour_sizes)) {
-        ox_list<ox_3dvector> contour(view.size());
-        std::copy(data->contour_vertices.begin() + view.first,
-                  data->contour_vertices.begin() + view.end, contour.begin());
+        ox_list<ox_3dvector> contour = elements_of(data->contour_vertices, view);
         optimize_contour(contour, data->normal, tolerance);
         left += contour.size();
         contours.push_back(contour);

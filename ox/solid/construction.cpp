@@ -20,9 +20,7 @@ std::vector<ox_list<ox_3dvector>> copy_contours(ox_polygon& polygon) {
     const ox_list<ox_3dvector>& vertices = polygon.get_contour_vertices();
     std::vector<ox_list<ox_3dvector>> contours;
     for (const contour_view& view : contour_views(polygon.get_contour_sizes())) {
-        contours.emplace_back(view.size());
-        std::copy(vertices.begin() + view.first, vertices.begin() + view.end,
-                  contours.back().begin());
+        contours.push_back(elements_of(vertices, view));
     }
     return contours;
 }
@@ -35,11 +33,7 @@ using axis_vectors = ox_3dvector[3];
 /// Adds the parallelogram spanned from `corner` by `u` and `w`, in this direction or reversed.
 void add_parallelogram(solid_storage& storage, const ox_3dvector& corner, const ox_3dvector& u,
                        const ox_3dvector& w, const ox_3dvector& normal, bool is_reversed) {
-    ox_list<ox_3dvector> corners;
-    corners.push_right(corner);
-    corners.push_right(corner + u);
-    corners.push_right(corner + u + w);
-    corners.push_right(corner + w);
+    ox_list<ox_3dvector> corners = ox_make_list({corner, corner + u, corner + u + w, corner + w});
     if (is_reversed) {
         std::reverse(corners.begin(), corners.end());
     }
@@ -90,13 +84,9 @@ void add_sides(solid_storage& storage, const ox_list<ox_3dvector>& contour,
                const ox_3dvector& sweep) {
     for (int i = 0; i < contour.size(); ++i) {
         const int j = i + 1 == contour.size() ? 0 : i + 1;
-        ox_list<ox_3dvector> corners;
-        corners.push_right(contour[i]);
-        corners.push_right(contour[j]);
-        corners.push_right(contour[j] + sweep);
-        corners.push_right(contour[i] + sweep);
         ox_polygon side;
-        side.add_contour(corners);
+        side.add_contour(
+            ox_make_list({contour[i], contour[j], contour[j] + sweep, contour[i] + sweep}));
         storage.append_polygon(side);
     }
 }

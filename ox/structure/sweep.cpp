@@ -89,7 +89,7 @@ private:
     /// The beams that cross the line, by ascending x. One whose crossing overflows comes last, at
     /// infinity, where it meets no slab.
     const beam_crossings& find_beam_crossings(float y) {
-        beam_crossings& crossings = beams.move_to(y, y);
+        beam_crossings& crossings = beams.advance_to(y, y);
         for (beam_crossing& crossing : crossings) {
             const beam_line& b = lines[static_cast<std::size_t>(crossing.index)];
             const float x = b.x + b.width * (y - b.y) / b.height;

@@ -7,6 +7,8 @@
 #include <unordered_map>
 #include <utility>
 
+#include <ox/internal/hashing.h>
+
 namespace ox::internal {
 
 /// What a library answered for shapes of few vertices, by a key that tells how they lie: an array
@@ -31,12 +33,11 @@ public:
 private:
     static constexpr std::size_t most_answers = 10000;
 
-    /// Multiplies by the golden ratio as a fraction of 2^64, number by number (Knuth, 6.4).
     struct key_hash {
         std::size_t operator()(const key& hashed) const {
             std::uint64_t mixed = 0;
             for (const std::uint64_t number : hashed) {
-                mixed = (mixed ^ number) * 0x9E3779B97F4A7C15u;
+                mixed = spread(mixed ^ number);
                 mixed ^= mixed >> 32;
             }
             return static_cast<std::size_t>(mixed);

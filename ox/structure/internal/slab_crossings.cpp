@@ -80,8 +80,8 @@ slab_crossings::slab_crossings(const ox_list<ox_list<ox_3dvector>>& contours) {
 
 const std::vector<float>& slab_crossings::find(float y) {
     std::size_t count = 0;
-    std::vector<sweep_window::interval>& met = window.move_to(y, y);
-    for (sweep_window::interval& i : met) {
+    std::vector<sweep_window::interval>& active = window.advance_to(y, y);
+    for (sweep_window::interval& i : active) {
         const edge& e = edges[static_cast<std::size_t>(i.index)];
         const bool crossed = contour_line(*e.contour, y).find_crossing(e.start, i.at);
         count += crossed ? 1 : 0;
@@ -92,7 +92,7 @@ const std::vector<float>& slab_crossings::find(float y) {
     window.order_active();
     found.clear();
     for (std::size_t i = 0; i < count; ++i) {
-        found.push_back(met[i].at);
+        found.push_back(active[i].at);
     }
     return found;
 }

@@ -36,8 +36,7 @@ std::uint64_t leaf_grid::hash_of_leaf(const ox_3dvector& p) const {
     const auto place = [this](float coordinate, float origin) {
         return static_cast<std::uint64_t>(cell_of(coordinate, origin));
     };
-    return spread(place(p.x, root_origin.x)) + place(p.y, root_origin.y) * 0xC2B2AE3D27D4EB4Fu +
-           place(p.z, root_origin.z) * 0x165667B19E3779F9u;
+    return spread(place(p.x, root_origin.x), place(p.y, root_origin.y), place(p.z, root_origin.z));
 }
 
 /// How many leaves lie before a coordinate. The coordinate is first cut down to whole units, which

@@ -34,9 +34,6 @@ public:
                (std::fabs(p.x) <= limit && std::fabs(p.y) <= limit && std::fabs(p.z) <= limit);
     }
 
-    /// True if it holds at every vertex within the root.
-    bool covers_all() const { return covers_root; }
-
     /// True if two vertices that the grid covers lie in the same leaf.
     bool same_leaf(const ox_3dvector& p, const ox_3dvector& q) const;
 

@@ -51,8 +51,7 @@ private:
 
     /// A multiplicative hash of three coordinates; its high bits are the best ones.
     static std::uint64_t key_of_cell(double x, double y, double z) {
-        const std::uint64_t sum = spread(bits_of(x)) + bits_of(y) * 0xC2B2AE3D27D4EB4Fu +
-                                  bits_of(z) * 0x165667B19E3779F9u;
+        const std::uint64_t sum = spread(bits_of(x), bits_of(y), bits_of(z));
         return (sum ^ (sum >> 32)) * 0xD6E8FEB86659FD93u;
     }
 

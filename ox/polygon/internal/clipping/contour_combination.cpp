@@ -1,6 +1,6 @@
 // How contours are combined:
 //
-//  1. A lone contour that climbs and falls once is its own union.
+//  1. A single contour that climbs and falls once is its own union.
 //  2. Contours that keep clear of each other are kept whole or dropped.
 //  3. A few contours along the axes of the frame that lie as others did before get their answer.
 //  4. The clipping library is asked, and its answer to the third kind is remembered.

@@ -17,7 +17,7 @@ namespace ox::internal {
 void combine_contours(ox_polygon_data& polygon, ClipperLib::ClipType operation,
                       const grid_contours& subjects, const grid_contours& clips);
 
-/// The same for the union of a lone contour with nothing: it is mostly one that stays as it is.
+/// The same for the union of a single contour with nothing: it is mostly one that stays as it is.
 /// `path` has its points on the grid; the pending lists of `polygon` may be used up.
 void unite_single_contour(ox_polygon_data& polygon, const grid_path& path);
 

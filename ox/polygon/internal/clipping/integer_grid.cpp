@@ -20,6 +20,21 @@ bool to_grid_unit(float coordinate, ClipperLib::cInt& unit) {
     return true;
 }
 
+/// Converts the `size` vertices of one contour into the frame of `plane`; the distance from the
+/// plane is dropped. False, with unspecified points, when a coordinate is not a number or lies
+/// outside the grid.
+bool contour_to_grid(const plane_frame& plane, const ox_3dvector* vertices, std::size_t size,
+                     ClipperLib::IntPoint* points) {
+    for (std::size_t i = 0; i < size; ++i) {
+        const ox_3dvector offset = vertices[i] - plane.point;
+        if (!to_grid_unit(ox_dot(offset, plane.dx), points[i].X) ||
+            !to_grid_unit(ox_dot(offset, plane.dy), points[i].Y)) {
+            return false;
+        }
+    }
+    return true;
+}
+
 bool runs_counter_clockwise(const ClipperLib::IntPoint* points, std::size_t count) {
     double area = 0.0;
     for (std::size_t i = 0, before = count - 1; i < count; before = i++) {
@@ -77,18 +92,6 @@ bool grid_contours::is_counter_clockwise(std::size_t contour) const {
 
 bool grid_path::is_counter_clockwise() const {
     return runs_counter_clockwise(data(), count);
-}
-
-bool contour_to_grid(const plane_frame& plane, const ox_3dvector* vertices, std::size_t size,
-                     ClipperLib::IntPoint* points) {
-    for (std::size_t i = 0; i < size; ++i) {
-        const ox_3dvector offset = vertices[i] - plane.point;
-        if (!to_grid_unit(ox_dot(offset, plane.dx), points[i].X) ||
-            !to_grid_unit(ox_dot(offset, plane.dy), points[i].Y)) {
-            return false;
-        }
-    }
-    return true;
 }
 
 } // namespace ox::internal

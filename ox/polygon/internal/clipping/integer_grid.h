@@ -79,12 +79,6 @@ private:
     std::vector<std::size_t> ends; ///< one past the last point of each contour
 };
 
-/// Converts the `size` vertices of one contour into the frame of `plane`; the distance from the
-/// plane is dropped. False, with unspecified points, when a coordinate is not a number or lies
-/// outside the grid.
-bool contour_to_grid(const plane_frame& plane, const ox_3dvector* vertices, std::size_t size,
-                     ClipperLib::IntPoint* points);
-
 /// The point of the plane that belongs to a grid point.
 inline ox_3dvector grid_to_plane(const plane_frame& plane, const ClipperLib::IntPoint& p) {
     const float u = static_cast<float>(p.X) * grid_unit;

@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 
 #include <ox/internal/contour_view.h>
+#include <ox/polygon/internal/answer_counts.h>
 #include <ox/polygon/internal/plane_coordinates.h>
 #include <ox/polygon/internal/search/crossing_count.h>
 #include <ox/polygon/internal/tolerances.h>
@@ -82,7 +84,7 @@ const std::vector<column_range>& region_rows::find_inside(float w) {
         return inside;
     }
     const row_strip row = strip_of(w);
-    active = &window.move_to(row.low, row.high);
+    active = &window.advance_to(row.low, row.high);
     find_uncertain_spans(row);
     join_overlapping_spans();
     walk(w);
@@ -90,6 +92,7 @@ const std::vector<column_range>& region_rows::find_inside(float w) {
 }
 
 void region_rows::test_each(float w) {
+    answers_of(answered_by::row_point) += us.size();
     inside.clear();
     int column = 0;
     for (const float u : us) {
@@ -148,8 +151,10 @@ void region_rows::walk(float w) {
         const int first = first_column_beyond(b.low, column, w);
         if (between_is_inside) {
             add_inside(column, first);
+            answers_of(answered_by::row_stretch) += static_cast<std::uint64_t>(first - column);
         }
         const int last = first_column_beyond(b.high, first, w);
+        answers_of(answered_by::row_point) += static_cast<std::uint64_t>(last - first);
         for (int c = first; c < last; ++c) {
             if (contains(us[static_cast<std::size_t>(c)], w)) {
                 add_inside(c, c + 1);

@@ -5,6 +5,7 @@
 #include <numeric>
 #include <utility>
 
+#include <ox/internal/wide_vector.h>
 #include <ox/polygon/internal/answer_memory.h>
 #include <ox/polygon/internal/tolerances.h>
 
@@ -13,29 +14,6 @@ namespace {
 
 /// The tessellator looks for a fan only in so many vertices.
 constexpr std::size_t most_fan_vertices = 100;
-
-struct wide_vector {
-    double x = 0.0;
-    double y = 0.0;
-    double z = 0.0;
-};
-
-wide_vector difference(const ox_3dvector& a, const ox_3dvector& b) {
-    return {static_cast<double>(a.x) - static_cast<double>(b.x),
-            static_cast<double>(a.y) - static_cast<double>(b.y),
-            static_cast<double>(a.z) - static_cast<double>(b.z)};
-}
-
-/// How far the normal at the corner between `a` and `b` points along `n`.
-double turn_about(const wide_vector& a, const wide_vector& b, const ox_3dvector& n) {
-    return (a.y * b.z - a.z * b.y) * static_cast<double>(n.x) +
-           (a.z * b.x - a.x * b.z) * static_cast<double>(n.y) +
-           (a.x * b.y - a.y * b.x) * static_cast<double>(n.z);
-}
-
-double manhattan_size(const wide_vector& v) {
-    return std::fabs(v.x) + std::fabs(v.y) + std::fabs(v.z);
-}
 
 /// A vertex in the plane of the tessellator's sweep, which runs along s.
 struct sweep_vertex {
@@ -235,10 +213,11 @@ fan_kind find_fan(const ox_3dvector* contour, std::size_t size, const ox_3dvecto
     bool any_forward = false;
     bool any_backward = false;
     bool any_doubtful = false;
-    wide_vector before = difference(contour[1], contour[0]);
+    wide_vector before = to_wide(contour[1]) - to_wide(contour[0]);
     for (std::size_t i = 2; i < size; ++i) {
-        const wide_vector after = difference(contour[i], contour[0]);
-        const double turn = turn_about(before, after, normal);
+        const wide_vector after = to_wide(contour[i]) - to_wide(contour[0]);
+        // how far the normal of the triangle points along that of the plane
+        const double turn = dot(cross(before, after), to_wide(normal));
         const double doubt = scale * manhattan_size(before) * manhattan_size(after);
         any_forward = any_forward || turn > doubt;
         any_backward = any_backward || turn < -doubt;

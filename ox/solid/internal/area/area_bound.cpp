@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include <ox/core/ox_list.h>
+#include <ox/internal/wide_vector.h>
 #include <ox/solid/internal/area/facade.h>
 #include <ox/solid/internal/area/kept_axes.h>
 #include <ox/solid/internal/area/limits.h>
@@ -31,22 +32,13 @@ bool is_first_contour_alone(ox_polygon& polygon, const face_bounds& first) {
 /// The length of the vector area of a contour, in double precision. Triangles that fill the contour
 /// have the same vector area together, so their areas sum up to no less.
 double measure_vector_area(const ox_3dvector* vertices, unsigned int size) {
-    double sum[3] = {};
+    wide_vector sum;
     for (unsigned int i = 1; i + 1 < size; ++i) {
-        double a[3];
-        double b[3];
-        for (unsigned int axis = 0; axis < 3; ++axis) {
-            const double origin = static_cast<double>(vertices[0].at(axis));
-            a[axis] = static_cast<double>(vertices[i].at(axis)) - origin;
-            b[axis] = static_cast<double>(vertices[i + 1].at(axis)) - origin;
-        }
-        for (unsigned int axis = 0; axis < 3; ++axis) {
-            const unsigned int next = (axis + 1) % 3;
-            const unsigned int last = (axis + 2) % 3;
-            sum[axis] += a[next] * b[last] - a[last] * b[next];
-        }
+        const wide_vector a = to_wide(vertices[i]) - to_wide(vertices[0]);
+        const wide_vector b = to_wide(vertices[i + 1]) - to_wide(vertices[0]);
+        sum = sum + cross(a, b);
     }
-    return 0.5 * std::sqrt(sum[0] * sum[0] + sum[1] * sum[1] + sum[2] * sum[2]);
+    return 0.5 * length(sum);
 }
 
 /// True if the first contour alone has more area than that, as it has few vertices and no other

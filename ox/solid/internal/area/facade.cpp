@@ -21,6 +21,7 @@
 #include <vector>
 
 #include <ox/core/ox_list.h>
+#include <ox/internal/wide_vector.h>
 #include <ox/solid/internal/area/kept_axes.h>
 #include <ox/solid/internal/area/limits.h>
 #include <ox/solid/internal/search/face_bounds.h>
@@ -31,43 +32,36 @@ namespace {
 
 constexpr unsigned int rectangle_corners = 4;
 
-/// A vector in double precision: differences of single-precision coordinates are exact enough.
-struct side {
-    double x;
-    double y;
-    double z;
+wide_vector side(const ox_3dvector& from, const ox_3dvector& to) {
+    return to_wide(to) - to_wide(from);
+}
 
-    side(const ox_3dvector& from, const ox_3dvector& to)
-        : x(static_cast<double>(to.x) - static_cast<double>(from.x)),
-          y(static_cast<double>(to.y) - static_cast<double>(from.y)),
-          z(static_cast<double>(to.z) - static_cast<double>(from.z)) {}
-
-    double square() const { return dot(*this); }
-    double dot(const side& other) const { return x * other.x + y * other.y + z * other.z; }
-};
+double square(const wide_vector& v) {
+    return dot(v, v);
+}
 
 /// True if four vertices are the corners of a nearly rectangular quadrilateral with no side
 /// shorter than the gap: its angles are nearly right, and opposite sides run opposite ways.
 bool is_rectangle(const ox_3dvector* v, double gap) {
-    const side sides[rectangle_corners] = {side(v[0], v[1]), side(v[1], v[2]), side(v[2], v[3]),
-                                           side(v[3], v[0])};
+    const wide_vector sides[rectangle_corners] = {side(v[0], v[1]), side(v[1], v[2]),
+                                                  side(v[2], v[3]), side(v[3], v[0])};
     for (unsigned int i = 0; i < rectangle_corners; ++i) {
-        const side& a = sides[i];
-        const side& b = sides[(i + 1) % rectangle_corners];
-        const double product = a.dot(b);
-        if (!(a.square() > gap * gap) ||
-            !(product * product < largest_square_slant * a.square() * b.square())) {
+        const wide_vector& a = sides[i];
+        const wide_vector& b = sides[(i + 1) % rectangle_corners];
+        const double product = dot(a, b);
+        if (!(square(a) > gap * gap) ||
+            !(product * product < largest_square_slant * square(a) * square(b))) {
             return false;
         }
     }
-    return sides[0].dot(sides[2]) < 0.0 && sides[1].dot(sides[3]) < 0.0;
+    return dot(sides[0], sides[2]) < 0.0 && dot(sides[1], sides[3]) < 0.0;
 }
 
 /// True if all vertices of the outline are more than the gap apart.
 bool has_distant_vertices(const ox_3dvector* vertices, unsigned int count, double gap) {
     for (unsigned int i = 0; i < count; ++i) {
         for (unsigned int j = i + 1; j < count; ++j) {
-            if (!(side(vertices[i], vertices[j]).square() > gap * gap)) {
+            if (!(square(side(vertices[i], vertices[j])) > gap * gap)) {
                 return false;
             }
         }

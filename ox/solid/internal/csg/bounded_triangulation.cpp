@@ -12,6 +12,12 @@ namespace ox::internal::csg {
 
 namespace {
 
+/// Heights to widths from which a view is laid down.
+constexpr std::int64_t long_share = 4;
+
+/// Fewer points make no fan worth the turn.
+constexpr std::size_t fewest_laid_down = 16;
+
 /// The points of some faces under numbers of their own, in the view along a normal.
 struct viewed_points {
     std::vector<int> names; // ascending
@@ -31,6 +37,7 @@ struct viewed_points {
         for (const int name : names) {
             places.push_back(view.see(points[static_cast<std::size_t>(name)]));
         }
+        lay_down();
     }
 
     int number_of(int name) const {
@@ -38,7 +45,31 @@ struct viewed_points {
     }
 
     int name_of(int number) const { return names[static_cast<std::size_t>(number)]; }
+
+private:
+    void lay_down();
 };
+
+/// Turns what is much higher than wide by a quarter, so that the sweep from left to right goes
+/// along it: across, it would join points from all along the one side to the end of the other.
+void viewed_points::lay_down() {
+    if (places.size() < fewest_laid_down) {
+        return;
+    }
+    const auto across =
+        std::minmax_element(places.begin(), places.end(),
+                            [](const planar_point& a, const planar_point& b) { return a.x < b.x; });
+    const auto along =
+        std::minmax_element(places.begin(), places.end(),
+                            [](const planar_point& a, const planar_point& b) { return a.y < b.y; });
+    const std::int64_t width = across.second->x - across.first->x;
+    if (along.second->y - along.first->y <= long_share * width) {
+        return;
+    }
+    for (planar_point& place : places) {
+        place = {place.y, -place.x};
+    }
+}
 
 /// A triangle as often as its face covers it, turned over where it does so negatively.
 void append_covered(const viewed_points& viewed, const covered_triangle& covered,

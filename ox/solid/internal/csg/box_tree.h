@@ -37,8 +37,15 @@ public:
     /// only.
     template <typename visitor>
     void visit_meeting(const grid_box& box, visitor visit) const {
+        visit_where([&box](const grid_box& other) { return other.meets(box); }, visit);
+    }
+
+    /// The same for every box for which `reaches(box)` holds, which must hold for a box around
+    /// one for which it does.
+    template <typename test, typename visitor>
+    void visit_where(const test& reaches, visitor visit) const {
         if (!nodes.empty()) {
-            visit_node(0, box, visit);
+            visit_node(0, reaches, visit);
         }
     }
 
@@ -53,19 +60,19 @@ private:
     void build(std::size_t place, std::size_t begin, std::size_t end);
     int longest_side(std::size_t begin, std::size_t end) const;
 
-    template <typename visitor>
-    void visit_node(std::size_t place, const grid_box& box, visitor& visit) const {
+    template <typename test, typename visitor>
+    void visit_node(std::size_t place, const test& reaches, visitor& visit) const {
         const node& here = nodes[place];
-        if (!here.bounds.meets(box)) {
+        if (!reaches(here.bounds)) {
             return;
         }
         if (here.count == 0) {
-            visit_node(here.first, box, visit);
-            visit_node(here.first + 1, box, visit);
+            visit_node(here.first, reaches, visit);
+            visit_node(here.first + 1, reaches, visit);
             return;
         }
         for (std::size_t i = here.first; i < here.first + here.count; ++i) {
-            if (sorted[i].box.meets(box)) {
+            if (reaches(sorted[i].box)) {
                 visit(sorted[i].index);
             }
         }

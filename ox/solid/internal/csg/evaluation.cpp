@@ -7,6 +7,7 @@
 #include <ox/solid/internal/csg/result_boundary.h>
 #include <ox/solid/internal/csg/scene.h>
 #include <ox/solid/internal/csg/shell.h>
+#include <ox/solid/internal/csg/slicing.h>
 #include <ox/solid/internal/csg/snapping.h>
 #include <ox/solid/internal/csg/working_grid.h>
 
@@ -91,8 +92,11 @@ bool combine(const std::vector<operand>& operands, const std::vector<shell>& she
     if (!place_shells(shells, grid, stage_report(report, done_when_read, done_when_placed),
                       faces) ||
         !cluster_planes(faces, grid, stage_report(report, done_when_placed, done_when_clustered)) ||
-        !snap_edges(faces, grid, stage_report(report, done_when_clustered, done_when_snapped)) ||
-        !triangulate_faces(faces, stage_report(report, done_when_snapped, done_when_cut),
+        !snap_edges(faces, grid, stage_report(report, done_when_clustered, done_when_snapped))) {
+        return false;
+    }
+    slice_long_planes(faces);
+    if (!triangulate_faces(faces, stage_report(report, done_when_snapped, done_when_cut),
                            triangles)) {
         return false;
     }

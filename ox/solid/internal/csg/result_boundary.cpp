@@ -24,34 +24,38 @@ struct face_part {
     int origin;
 };
 
-/// A directed edge of a triangle.
+/// A side of a triangle in either direction, the lower point first.
 struct triangle_side {
-    directed_edge edge;
+    directed_edge ends;
     int triangle;
 
-    bool operator<(const triangle_side& other) const { return edge < other.edge; }
+    bool operator<(const triangle_side& other) const { return ends < other.ends; }
 };
+
+triangle_side make_side(int from, int to, int triangle) {
+    return {{std::min(from, to), std::max(from, to)}, triangle};
+}
 
 std::vector<triangle_side> sides_of(const triangle_list& triangles) {
     std::vector<triangle_side> sides;
     for (std::size_t t = 0; t < triangles.size(); ++t) {
         const std::array<int, 3>& corners = triangles[t];
         for (std::size_t i = 0; i < 3; ++i) {
-            sides.push_back({{corners[i], corners[(i + 1) % 3]}, static_cast<int>(t)});
+            sides.push_back(make_side(corners[i], corners[(i + 1) % 3], static_cast<int>(t)));
         }
     }
     std::sort(sides.begin(), sides.end());
     return sides;
 }
 
-/// For each triangle the first one that it hangs together with over sides.
+/// For each triangle the first one that it hangs together with over sides. All triangles of a side
+/// belong together, also where a crumpled face has more than two: so each part is bounded by closed
+/// rings, because the other parts have none of its sides.
 index_groups connect(const triangle_list& triangles, const std::vector<triangle_side>& sides) {
     index_groups connected(triangles.size());
-    for (const triangle_side& side : sides) {
-        const triangle_side opposite = {{side.edge[1], side.edge[0]}, 0};
-        const auto place = std::lower_bound(sides.begin(), sides.end(), opposite);
-        if (place != sides.end() && place->edge == opposite.edge) {
-            connected.join(side.triangle, place->triangle);
+    for (std::size_t i = 1; i < sides.size(); ++i) {
+        if (sides[i].ends == sides[i - 1].ends) {
+            connected.join(sides[i].triangle, sides[i - 1].triangle);
         }
     }
     return connected;
@@ -74,8 +78,9 @@ std::vector<face_part> divide_group(const face_boundary& boundary, triangle_list
         parts[static_cast<std::size_t>(part_of[t])].triangles.push_back(triangles[t]);
     }
     for (const directed_edge& edge : boundary) {
-        const auto side = std::lower_bound(sides.begin(), sides.end(), triangle_side{edge, 0});
-        const bool is_found = side != sides.end() && side->edge == edge;
+        const triangle_side wanted = make_side(edge[0], edge[1], 0);
+        const auto side = std::lower_bound(sides.begin(), sides.end(), wanted);
+        const bool is_found = side != sides.end() && side->ends == wanted.ends;
         if (!is_found) {
             return {{boundary, std::move(triangles), 0}};
         }

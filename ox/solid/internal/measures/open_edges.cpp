@@ -1,13 +1,16 @@
 #include <ox/solid/internal/measures/open_edges.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <cstdlib>
 #include <tuple>
 #include <utility>
 #include <vector>
 
-#include <ox/solid/internal/measures/point_tree.h>
+#include <ox/internal/vectors.h>
+#include <ox/internal/wide_vector.h>
+#include <ox/solid/internal/csg/box_tree.h>
 #include <ox/solid/internal/measures/stored_contours.h>
 #include <ox/solid/internal/measures/welded_points.h>
 
@@ -64,25 +67,124 @@ edge_balances add_up(edge_balances edges) {
     return sums;
 }
 
-std::vector<int> ends_of(const edge_balances& edges) {
-    std::vector<int> ends;
-    for (const edge_balance& edge : edges) {
-        ends.push_back(edge.low);
-        ends.push_back(edge.high);
+/// Part of the extents by which boxes are taken larger than they are, so that the roundings of the
+/// test with an edge never reject a point that lies along it.
+constexpr double box_allowance = 1e-12;
+
+/// The way from one point to another, and a tolerance around it.
+struct edge_stretch {
+    wide_vector start;
+    wide_vector way;
+    double tolerance;
+
+    /// False only if no point of the box is within the tolerance of the edge: the part of the edge
+    /// within the box, grown by the tolerance, is empty on some axis.
+    bool may_reach(const csg::grid_box& box) const {
+        double entry = 0.0;
+        double exit = 1.0;
+        for (std::size_t axis = 0; axis < 3; ++axis) {
+            const double origin = start.at(axis);
+            const double slope = way.at(axis);
+            const double extent = std::fabs(origin) + std::fabs(slope) + std::fabs(box.low[axis]) +
+                                  std::fabs(box.high[axis]);
+            const double margin = tolerance + box_allowance * extent;
+            const double to_low = box.low[axis] - margin - origin;
+            const double to_high = box.high[axis] + margin - origin;
+            if (slope == 0.0) {
+                if (to_low > 0.0 || to_high < 0.0) {
+                    return false;
+                }
+                continue;
+            }
+            entry = std::max(entry, std::min(to_low / slope, to_high / slope));
+            exit = std::min(exit, std::max(to_low / slope, to_high / slope));
+        }
+        return entry <= exit + box_allowance;
     }
-    std::sort(ends.begin(), ends.end());
-    ends.erase(std::unique(ends.begin(), ends.end()), ends.end());
-    return ends;
-}
+
+    /// Finds how far along the edge a point lies; false when that is not between its ends, or
+    /// farther from it than the tolerance.
+    bool find_place(const wide_vector& point, double& place) const {
+        const wide_vector offset = point - start;
+        const wide_vector beside = cross(offset, way);
+        const double square_length = dot(way, way);
+        place = dot(offset, way);
+        return place > 0.0 && place < square_length &&
+               dot(beside, beside) <= tolerance * tolerance * square_length;
+    }
+};
+
+/// Finds the points that lie along an edge, in a tree over the ends of edges.
+class edge_divider {
+public:
+    edge_divider(const ox_list<ox_3dvector>& all_points, const edge_balances& edges,
+                 double distance_tolerance)
+        : points(all_points), tolerance(distance_tolerance), ends(finite_ends(edges)),
+          tree(boxes_of(ends)) {}
+
+    /// The points between the ends of an edge, and no farther from it than the tolerance, in their
+    /// order along it; none along an edge that is not finite. O(log n) for each point found.
+    std::vector<int> find_along(int from, int to) const {
+        std::vector<std::pair<double, int>> stops; // with their places along the edge
+        if (is_finite(points[from]) && is_finite(points[to])) {
+            const wide_vector start = to_wide(points[from]);
+            const edge_stretch edge = {start, to_wide(points[to]) - start, tolerance};
+            tree.visit_where([&edge](const csg::grid_box& box) { return edge.may_reach(box); },
+                             [&](int index) {
+                                 const int point = ends[static_cast<std::size_t>(index)];
+                                 double place = 0.0;
+                                 if (point != from && point != to &&
+                                     edge.find_place(to_wide(points[point]), place)) {
+                                     stops.emplace_back(place, point);
+                                 }
+                             });
+        }
+        std::sort(stops.begin(), stops.end());
+        std::vector<int> found;
+        for (const auto& [place, point] : stops) {
+            found.push_back(point);
+        }
+        return found;
+    }
+
+private:
+    std::vector<int> finite_ends(const edge_balances& edges) const {
+        std::vector<int> found;
+        for (const edge_balance& edge : edges) {
+            for (const int end : {edge.low, edge.high}) {
+                if (is_finite(points[end])) {
+                    found.push_back(end);
+                }
+            }
+        }
+        std::sort(found.begin(), found.end());
+        found.erase(std::unique(found.begin(), found.end()), found.end());
+        return found;
+    }
+
+    std::vector<csg::grid_box> boxes_of(const std::vector<int>& chosen) const {
+        std::vector<csg::grid_box> boxes;
+        for (const int point : chosen) {
+            const wide_vector p = to_wide(points[point]);
+            boxes.push_back({{p.x, p.y, p.z}, {p.x, p.y, p.z}});
+        }
+        return boxes;
+    }
+
+    const ox_list<ox_3dvector>& points;
+    double tolerance;
+    std::vector<int> ends;
+    csg::box_tree tree;
+};
 
 /// The edges divided at every end of another one that lies along them.
 edge_balances divide(const edge_balances& edges, const ox_list<ox_3dvector>& points,
                      double tolerance) {
-    const point_tree ends(points, ends_of(edges));
+    const edge_divider divider(points, edges, tolerance);
     edge_balances pieces;
     for (const edge_balance& edge : edges) {
         int from = edge.low;
-        for (const int stop : ends.find_along(edge.low, edge.high, tolerance)) {
+        for (const int stop : divider.find_along(edge.low, edge.high)) {
             pieces.push_back(make_balance(from, stop, edge.surplus));
             from = stop;
         }

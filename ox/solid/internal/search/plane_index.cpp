@@ -1,23 +1,14 @@
 #include <ox/solid/internal/search/plane_index.h>
 
 #include <algorithm>
-#include <cmath>
 #include <numeric>
 #include <tuple>
 
 #include <ox/internal/vectors.h>
+#include <ox/internal/wide_vector.h>
 #include <ox/solid/internal/search/roundings.h>
 
 namespace ox::internal {
-
-namespace {
-
-double manhattan_size(const ox_3dvector& v) {
-    return std::fabs(static_cast<double>(v.x)) + std::fabs(static_cast<double>(v.y)) +
-           std::fabs(static_cast<double>(v.z));
-}
-
-} // namespace
 
 plane_index::plane_index(const std::vector<face_plane>& face_planes, float plane_tolerance)
     : planes(face_planes), tolerance(plane_tolerance), bundles(make_bundles(face_planes)),
@@ -38,7 +29,7 @@ std::vector<plane_index::bundle> plane_index::make_bundles(const std::vector<fac
         if (made.empty() || made.back().normal != plane.normal) {
             made.push_back({plane.normal, 0.0, {}});
         }
-        made.back().reach = std::max(made.back().reach, manhattan_size(plane.point));
+        made.back().reach = std::max(made.back().reach, manhattan_size(to_wide(plane.point)));
         made.back().members.push_back({exact_dot(plane.point, plane.normal), i});
     }
     return made;
@@ -60,8 +51,8 @@ std::vector<std::size_t> plane_index::find_later(std::size_t i) const {
         const bundle& near = bundles[number];
         const double place = exact_dot(plane.point, near.normal);
         const double roundings = spare_roundings * rounding_allowance *
-                                 (manhattan_size(plane.point) + near.reach) *
-                                 (1.0 + manhattan_size(near.normal));
+                                 (manhattan_size(to_wide(plane.point)) + near.reach) *
+                                 (1.0 + manhattan_size(to_wide(near.normal)));
         const double distance = static_cast<double>(tolerance) + roundings;
         auto next =
             std::lower_bound(near.members.begin(), near.members.end(), place - distance,

@@ -12,8 +12,8 @@
 
 #include <vector>
 
+#include <ox/internal/disjoint_sets.h>
 #include <ox/solid/internal/csg/exact/coincidences.h>
-#include <ox/solid/internal/csg/exact/disjoint_sets.h>
 #include <ox/solid/internal/csg/exact/facets.h>
 #include <ox/solid/internal/csg/exact/pieces.h>
 #include <ox/solid/internal/csg/exact/progress_poll.h>

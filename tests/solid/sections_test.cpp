@@ -224,4 +224,41 @@ TEST(PlaneSection, NoPolygonIsLeaked) {
     EXPECT_EQ(ox_polygon::get_instanced(), before);
 }
 
+TEST(ProjectingOnAPlane, ABrickGivesItsOutlineAndSkipsItsSides) {
+    ox_solid solid;
+    solid.brick(ox_3dvector(1, 1, 1), 2, 3, 4);
+    const std::unique_ptr<ox_polygon> outline(
+        solid.project_on_plane(ox_3dvector(0, 0, 0), ox_3dvector(0, 0, 1)));
+    EXPECT_NEAR(outline->get_area(), 6.0f, 1e-4f);
+    EXPECT_EQ(outline->get_contour_sizes().size(), 1);
+    EXPECT_EQ(outline->get_normal(), ox_3dvector(0, 0, 1));
+    EXPECT_FLOAT_EQ(outline->get_bounding_box().origin.z, 0.0f);
+}
+
+TEST(ProjectingOnAPlane, AnEmptySolidGivesAnEmptyPolygon) {
+    ox_solid solid;
+    const std::unique_ptr<ox_polygon> outline(
+        solid.project_on_plane(ox_3dvector(0, 0, 0), ox_3dvector(0, 0, 1)));
+    ASSERT_NE(outline, nullptr);
+    EXPECT_EQ(outline->get_contour_sizes().size(), 0);
+}
+
+TEST(ProjectingOnAPlane, ComparesTheCosineWithTheNormalAsGiven) {
+    ox_solid solid = unit_brick();
+    const std::unique_ptr<ox_polygon> short_normal(
+        solid.project_on_plane(ox_3dvector(0, 0, 0), ox_3dvector(0, 0, 0.0009f)));
+    EXPECT_EQ(short_normal->get_contour_sizes().size(), 0);
+}
+
+TEST(ProjectingOnAPlane, WithoutAUsableNormalDoesNotFail) {
+    ox_solid solid = unit_brick();
+    const float values[] = {0.0f, std::numeric_limits<float>::infinity(),
+                            std::numeric_limits<float>::quiet_NaN()};
+    for (const float value : values) {
+        const std::unique_ptr<ox_polygon> outline(
+            solid.project_on_plane(ox_3dvector(value, 0, 0), ox_3dvector(0, value, value)));
+        EXPECT_NE(outline, nullptr);
+    }
+}
+
 } // namespace

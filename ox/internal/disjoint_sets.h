@@ -1,12 +1,12 @@
-#ifndef OX_SOLID_INTERNAL_CSG_EXACT_DISJOINT_SETS_H
-#define OX_SOLID_INTERNAL_CSG_EXACT_DISJOINT_SETS_H
+#ifndef OX_INTERNAL_DISJOINT_SETS_H
+#define OX_INTERNAL_DISJOINT_SETS_H
 
+#include <algorithm>
+#include <cstddef>
 #include <numeric>
 #include <vector>
 
-#include <ox/solid/internal/csg/exact/item.h>
-
-namespace ox::internal::csg::exact {
+namespace ox::internal {
 
 /// Disjoint sets of the numbers below a count, which are joined pair by pair.
 class disjoint_sets {
@@ -17,9 +17,9 @@ public:
 
     /// The number that stands for the set of a number: its smallest one.
     int find(int number) {
-        while (item(parents, number) != number) {
-            item(parents, number) = item(parents, item(parents, number));
-            number = item(parents, number);
+        while (parent(number) != number) {
+            parent(number) = parent(parent(number));
+            number = parent(number);
         }
         return number;
     }
@@ -27,17 +27,15 @@ public:
     void join(int a, int b) {
         a = find(a);
         b = find(b);
-        if (a < b) {
-            item(parents, b) = a;
-        } else {
-            item(parents, a) = b;
-        }
+        parent(std::max(a, b)) = std::min(a, b);
     }
 
 private:
+    int& parent(int number) { return parents[static_cast<std::size_t>(number)]; }
+
     std::vector<int> parents;
 };
 
-} // namespace ox::internal::csg::exact
+} // namespace ox::internal
 
 #endif

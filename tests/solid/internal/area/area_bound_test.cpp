@@ -122,6 +122,20 @@ TEST(AreaBound, IsKnownOfASquareAndOfALongWallWithOpenings) {
     EXPECT_TRUE(ox::internal::is_area_surely_above(wall, smallest_face));
 }
 
+// Narrower openings could have flat triangles only, whose areas Heron's formula may lose.
+TEST(AreaBound, IsKnownOfAFacadeAsLongAsNoSideOfAnOpeningIsShorterThanTheGap) {
+    const auto is_known = [](float width, float height) {
+        ox_polygon wall = support::rectangle_polygon(0.0f, 0.0f, 10.0f, 3.0f);
+        wall.add_contour(support::rectangle(4.0f, 1.0f, 4.0f + width, 1.0f + height));
+        return ox::internal::is_area_surely_above(wall, smallest_face);
+    };
+    EXPECT_TRUE(is_known(1.0f, 1.0f));
+    EXPECT_TRUE(is_known(0.101f, 1.0f));
+    EXPECT_TRUE(is_known(1.0f, 0.101f));
+    EXPECT_FALSE(is_known(0.099f, 1.0f));
+    EXPECT_FALSE(is_known(1.0f, 0.099f));
+}
+
 TEST(AreaBound, IsUnknownOfASliverOfAPolygonWithoutContoursAndOfALimitAboveTheArea) {
     ox_polygon sliver = support::rectangle_polygon(0.0f, 0.0f, 1000.0f, 0.001f);
     EXPECT_FALSE(ox::internal::is_area_surely_above(sliver, smallest_face));

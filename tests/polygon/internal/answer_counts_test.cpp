@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 
 #include <ox/polygon/internal/answer_counts.h>
 #include <ox/polygon/ox_polygon.h>
@@ -101,6 +102,45 @@ TEST(OxPolygonAnswers, ManyVerticesAreLeftToTheTessellator) {
     both.add_contour(turned_square(2, 2));
     both.get_contour_sizes();
     EXPECT_EQ(answers_during(answered_by::tessellator, [&] { both.get_area(); }), 1u);
+}
+
+TEST(OxPolygonAnswers, MostCandidatesOfTheBestCentreAreNeverScored) {
+    const double candidates = 100.0 * 40.0 / (0.0625 * 0.0625); // of the finest grid alone
+    ox_polygon hall = rectangle_polygon(0, 0, 100, 40);
+    std::uint64_t placed_by_block = 0;
+    const std::uint64_t scored = answers_during(answered_by::centre_candidate, [&] {
+        placed_by_block =
+            answers_during(answered_by::centre_block, [&] { hall.get_best_center(); });
+    });
+    EXPECT_LT(static_cast<double>(scored), candidates / 50.0);
+    EXPECT_GT(static_cast<double>(placed_by_block), candidates / 4.0);
+}
+
+TEST(OxPolygonAnswers, MostPointsOfAGridAreInsideBecauseTheirNeighbourIs) {
+    ox_polygon turned;
+    turned.add_contour(turned_square(0, 0));
+    std::uint64_t tested = 0;
+    const std::uint64_t spared = answers_during(answered_by::row_stretch, [&] {
+        tested =
+            answers_during(answered_by::row_point, [&] { turned.regular_distribution(0.01f); });
+    });
+    EXPECT_GT(spared, 70000u); // of an area of 8.5
+    EXPECT_LT(tested, 2000u);  // a few in each of 400 rows
+}
+
+TEST(OxPolygonAnswers, DistancesAreMeasuredOnlyForCellsNearASide) {
+    constexpr int side = 400;
+    const std::unique_ptr<bool[]> cells(new bool[side * side]);
+    ox_polygon square = rectangle_polygon(0, 0, 4, 4);
+    const auto fill = [&](float margin) {
+        return answers_during(answered_by::measured_cell, [&] {
+            square.fill_regular_grid(cells.get(), ox_3dvector(), ox_3dvector(0.01f, 0, 0),
+                                     ox_3dvector(0, 0.01f, 0), side, side, margin);
+        });
+    };
+    EXPECT_EQ(fill(0.0f), 0u);
+    EXPECT_GT(fill(0.05f), 4u * 4u * side);  // those within the margin
+    EXPECT_LT(fill(0.05f), 4u * 13u * side); // and as many again, at most
 }
 
 // The library sorts contours by their highest level alone, so the order of those on one level is

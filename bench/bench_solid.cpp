@@ -8,5 +8,6 @@ int main(int argc, char** argv) {
     workloads.push_back(bench::row_of_cubes());
     workloads.push_back(bench::whole_building());
     workloads.push_back(bench::subtracted_spheres());
+    workloads.push_back(bench::sphere_sections());
     return bench::run_program(argc, argv, workloads);
 }

@@ -3,6 +3,7 @@
 #include <bench/peers/glu.h>
 #include <bench/support/shape_facts.h>
 
+#include "contours.h"
 #include "workloads.h"
 
 namespace bench {
@@ -61,8 +62,17 @@ std::shared_ptr<const std::vector<peers::wide_contour>> wide_contours(ox_polygon
     return made;
 }
 
-contest tessellate(long holes) {
-    const auto merged = std::make_shared<ox_polygon>(outline_with_holes(holes));
+// The sweep runs along the x axis of a horizontal region.
+ox_polygon row_of_squares(long squares) {
+    ox_polygon polygon;
+    for (long i = 0; i < squares; ++i) {
+        polygon.add_contour(rectangle(0.0f, 1.5f * static_cast<float>(i), 1.0f, 1.0f));
+    }
+    return polygon;
+}
+
+contest tessellate(const ox_polygon& region) {
+    const auto merged = std::make_shared<ox_polygon>(region);
     contest rules;
     rules.ours = make_contestant(
         "ox_polygon", [=] { return ox_polygon(*merged); },
@@ -80,9 +90,22 @@ contest tessellate(long holes) {
 } // namespace
 
 workload tessellation_with_holes() {
-    return workload{
-        "outline with holes tessellated", "holes", {25, 100, 400}, {25, 50, 100}, tessellate}
+    return workload{"outline with holes tessellated",
+                    "holes",
+                    {25, 100, 400},
+                    {25, 50, 100},
+                    [](long holes) { return tessellate(outline_with_holes(holes)); }}
         .judged_from(100);
+}
+
+workload tessellation_of_a_row() {
+    return workload{"row of squares tessellated",
+                    "squares",
+                    {250, 1000, 4000},
+                    {25, 50, 100},
+                    [](long squares) { return tessellate(row_of_squares(squares)); }}
+        .growing_at_most(1.2)
+        .judged_from(1000);
 }
 
 } // namespace bench

@@ -13,6 +13,12 @@ std::vector<workload> merging_workloads();
 /// Triangles of an outline with many holes.
 workload tessellation_with_holes();
 
+/// The same for many squares in a row, which the tessellator's sweep meets all at once.
+workload tessellation_of_a_row();
+
+/// Questions whether points lie in a region of many sides.
+workload points_in_a_region();
+
 /// The small faces that a model consists of, from lists to triangles.
 workload faces_of_a_model();
 

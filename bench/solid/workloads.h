@@ -16,6 +16,9 @@ workload row_of_cubes();
 /// One finely faceted sphere subtracted from another.
 workload subtracted_spheres();
 
+/// Sections of a finely faceted sphere.
+workload sphere_sections();
+
 /// A whole building: its walls cut, united, clipped by a roof, and sectioned storey by storey.
 workload whole_building();
 

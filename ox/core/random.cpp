@@ -3,7 +3,6 @@
 #include <limits>
 
 #include <ox/core/internal/mersenne_twister.h>
-#include <ox/core/internal/tolerances.h>
 
 namespace ox {
 
@@ -41,6 +40,11 @@ void ox_random::swap(ox_random& other) noexcept {
 ox_random::~ox_random() = default;
 
 namespace {
+
+/// Squared length (no unit, the ball has radius 1) up to which a point drawn in the unit ball is
+/// drawn again: so close to the centre the grid of a millionth leaves few directions to choose
+/// from.
+constexpr float random_direction_min_squared_length = 0.001f;
 
 constexpr unsigned int largest_draw = (std::numeric_limits<unsigned int>::max)();
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include <ox/display/internal/tolerances.h>
 #include <ox/geometry/ox_polar.h>
 #include <ox/internal/angles.h>
 #include <ox/ox_functions.h>
@@ -11,6 +10,14 @@
 namespace ox {
 
 using namespace internal;
+
+namespace {
+
+/// Radians: an orbit stops here, just short of a right angle, so that the view never flips over
+/// the pole.
+constexpr float largest_elevation = 1.57f;
+
+} // namespace
 
 ox_camera::ox_camera()
     : ox_camera(ox_3dvector(), ox_3dvector(), ox_3dvector(0.0f, 0.0f, 1.0f), 30.0f, 0, 0) {}

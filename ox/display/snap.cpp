@@ -2,11 +2,18 @@
 
 #include <cmath>
 
-#include <ox/display/internal/tolerances.h>
-
 namespace ox {
 
-using namespace internal;
+namespace {
+
+/// Sine of the angle between two planes below which they are too parallel to snap to their line.
+constexpr float parallel_planes_sine = 0.01f;
+
+/// Cosine of the angle between a line and a plane's normal below which the line is too parallel to
+/// the plane to snap to their common point.
+constexpr float parallel_line_cosine = 0.01f;
+
+} // namespace
 
 ox_snap::ox_snap(const ox_3dvector& point, float snap_tolerance, int degrees_of_freedom,
                  const ox_3dvector& constraint)

@@ -115,11 +115,8 @@ std::int64_t square(int order) {
 
 ox_list<float> identity(int order) {
     ox_list<float> matrix(order * order);
-    for (float& element : matrix) {
-        element = 0.0f;
-    }
-    for (int i = 0; i < order; ++i) {
-        matrix[i * order + i] = 1.0f;
+    for (int i = 0; i < matrix.size(); ++i) {
+        matrix[i] = i % (order + 1) == 0 ? 1.0f : 0.0f;
     }
     return matrix;
 }

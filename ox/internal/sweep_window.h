@@ -49,8 +49,9 @@ public:
         return active;
     }
 
-    /// Orders the active intervals by `at`, equal ones by index: in linear time when they are
-    /// nearly in that order already, as after a small move.
+    /// Orders what is met by `at`, equal ones by index; no `at` may be NaN. Linear time but for
+    /// those of equal `at`, with the fewest steps when they are nearly in that order already, as
+    /// after a small move.
     void order_active() {
         std::size_t moves_left = moves_per_interval * active.size();
         for (std::size_t i = 1; i < active.size(); ++i) {
@@ -59,7 +60,7 @@ public:
             }
         }
         if (moves_left == 0) {
-            std::sort(active.begin(), active.end(), precedes);
+            sort_active();
         }
     }
 
@@ -80,6 +81,9 @@ private:
         }
         active[place] = moved;
     }
+
+    void sort_active();
+    void sort_equal_ones();
 
     int added = 0;
     std::vector<interval> pending; ///< by ascending lower end, from `next` on

@@ -180,6 +180,7 @@ void ox_polygon_data::clear_contours() {
 }
 
 void ox_polygon_data::forget_derived() {
+    tell_change();
     tesselation_computed = false;
     bounding_box.clear();
 }

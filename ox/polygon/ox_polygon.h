@@ -192,7 +192,8 @@ public:
 
     /// True if the projection of `p` on the plane lies inside the region, by counting
     /// crossings of a line through it along dx. No tolerance; `p`'s distance from the plane is
-    /// ignored. O(n).
+    /// ignored. O(n) for the first questions after a change and for coordinates beyond 1e37, then
+    /// O(log n) for each stretch of the outline that passes near `p`.
     bool contains(const ox_3dvector& p);
 
     // Tessellation

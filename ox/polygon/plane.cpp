@@ -79,6 +79,7 @@ int next_different(const ox_list<ox_3dvector>& contour, int from, const ox_3dvec
 } // namespace
 
 void ox_polygon_data::set_plane(const ox_3dvector& new_point, ox_3dvector new_normal) {
+    tell_change();
     point = new_point;
     bool flip = false;
     if (turn_plane(*this, new_normal, flip)) {
@@ -108,12 +109,14 @@ void ox_polygon::set_point(const ox_3dvector& point) {
     if (data->plane_defined) {
         data->set_plane(point, data->normal);
     } else {
+        data->tell_change();
         data->point = point;
     }
 }
 
 void ox_polygon::reverse() {
     data->compute_contours();
+    data->tell_change();
     data->normal = -data->normal;
     data->dy = -data->dy;
     reverse_each_contour(*data);
@@ -122,6 +125,7 @@ void ox_polygon::reverse() {
 
 void ox_polygon::matrix_transform(ox_matrix& m) {
     data->compute_contours();
+    data->tell_change();
     data->point = m.transform_point(data->point);
     for (ox_3dvector& v : data->contour_vertices) {
         v = m.transform_point(v);

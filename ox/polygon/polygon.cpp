@@ -28,7 +28,13 @@ ox_polygon_data* ox_polygon_data::copy() {
     return made.release();
 }
 
+void ox_polygon_data::tell_change() noexcept {
+    watch.tell();
+    containment.forget();
+}
+
 void ox_polygon_data::clear() {
+    tell_change();
     pending_vertices.clear();
     pending_sizes.clear();
     clear_contours();
@@ -73,6 +79,8 @@ ox_polygon& ox_polygon::operator=(ox_polygon&& source) noexcept {
 }
 
 void ox_polygon::swap(ox_polygon& other) noexcept {
+    data->watch.tell();
+    other.data->watch.tell();
     std::swap(data, other.data);
 }
 
@@ -102,6 +110,10 @@ void polygon_access::set_counted(ox_polygon& polygon, bool counted) noexcept {
         polygon.data->counted = counted;
         living_polygons += counted ? 1 : -1;
     }
+}
+
+void polygon_access::watch(ox_polygon& polygon, bool* changed) noexcept {
+    polygon.data->watch.set(changed);
 }
 
 void polygon_access::forget_best_center(ox_polygon& polygon) noexcept {

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include <ox/internal/contour_view.h>
+#include <ox/polygon/internal/answer_counts.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
 #include <ox/polygon/internal/plane_coordinates.h>
 #include <ox/polygon/internal/search/center_search.h>
@@ -76,7 +77,12 @@ bool ox_polygon_data::contains(const ox_3dvector& p) const {
 
 bool ox_polygon::contains(const ox_3dvector& p) {
     data->compute_contours();
-    return data->contains(p);
+    const containment_index* index = data->containment.find(*data);
+    if (index == nullptr) {
+        return data->contains(p);
+    }
+    ++answers_of(answered_by::containment_index);
+    return index->contains(plane_coordinates(*data, p));
 }
 
 bool ox_polygon::may_intersect(const ox_box& box) {

@@ -165,12 +165,13 @@ private:
 
     void clear_margin(bool* row, int j, double margin) {
         const double y = static_cast<double>(j) + 0.5;
+        std::int64_t measured = 0;
         for (const sweep_window::interval& i : near.advance_to(float_below(y), float_above(y))) {
             const std::size_t index = static_cast<std::size_t>(i.index);
             const point reach = columns_near(cell_sides[index], y);
             const int first = first_cell_beyond(reach.x, columns);
             const int last = first_cell_beyond(reach.y, columns);
-            answers_of(answered_by::measured_cell) += static_cast<std::uint64_t>(last - first);
+            measured += last - first;
             for (int c = first; c < last; ++c) {
                 const double x = static_cast<double>(c) + 0.5;
                 const point centre{x * cell_x.x + y * cell_y.x, x * cell_x.y + y * cell_y.y};
@@ -179,6 +180,7 @@ private:
                 }
             }
         }
+        answers_of(answered_by::measured_cell) += static_cast<std::uint64_t>(measured);
     }
 
     /// From where to where points of the line at y can be within the margin of a side, in cells:

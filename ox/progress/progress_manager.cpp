@@ -70,7 +70,7 @@ void ox_progress_manager::add_phase(const std::string& name, const std::string& 
     const double used_weight = learnt != state->experience.end() ? learnt->second : weight;
     if (ox_progress_manager_phase* const known = state->tree.find(name)) {
         known->weight = used_weight;
-        state->tree.tile_all();
+        state->tree.tile_children(nullptr);
         return;
     }
     ox_progress_manager_phase* const above = parent.empty() ? nullptr : state->tree.find(parent);

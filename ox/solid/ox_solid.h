@@ -226,8 +226,9 @@ public:
     ///
     /// In the plane of a face the section is the face when `normal` is the face's normal, and
     /// empty when it is the opposite one. Of an open shell the section depends on the order of the
-    /// faces: a cut is only continued by the cut of a later face. O(n) for n faces to see that they
-    /// are those of the last section, O(s log s) to join s crossing segments.
+    /// faces: a cut is only continued by the cut of a later face. O(log n + s log s) for n faces
+    /// and s crossing segments; the first time after a change, and where the caller changed a face,
+    /// O(n log n).
     [[nodiscard]] ox_list<ox_polygon*> intersect_by_plane(const ox_3dvector& point,
                                                           const ox_3dvector& normal);
 

@@ -7,6 +7,8 @@
 // - where all faces are reproducible, those of the solid itself: they would be made again;
 // - otherwise those made for the last section, if the faces still have the contours that they were
 //   made from.
+//
+// The faces tell when one of them changes: until then nothing is compared again.
 
 #include <ox/solid/ox_solid.h>
 
@@ -74,13 +76,15 @@ std::unique_ptr<section_source> add_again(face_cache& cache) {
 face_cache& find_section_faces(ox_solid_state& state) {
     const ox_list<ox_polygon*>& faces = state.faces.get_list();
     if (state.faces.is_all_reproducible()) {
-        state.faces.refresh_bounds();
         return state.faces;
     }
-    if (!state.added_again || !is_made_of(state.added_again->storage, faces)) {
-        state.added_again = add_again(state.faces);
+    std::unique_ptr<section_source>& made = state.added_again;
+    const unsigned int revision = state.faces.get_revision();
+    if (!made || (made->revision != revision && !is_made_of(made->storage, faces))) {
+        made = add_again(state.faces);
     }
-    return state.added_again->faces;
+    made->revision = revision;
+    return made->faces;
 }
 
 } // namespace

@@ -1,7 +1,10 @@
+#include <cstdint>
 #include <limits>
 
 #include <gtest/gtest.h>
 
+#include <ox/geometry/ox_matrix.h>
+#include <ox/polygon/internal/answer_counts.h>
 #include <ox/polygon/ox_polygon.h>
 #include <tests/polygon/polygon_checks.h>
 #include <tests/reference/contains.h>
@@ -14,6 +17,8 @@ namespace {
 using ox::ox_3dvector;
 using ox::ox_box;
 using ox::ox_polygon;
+using ox::internal::answered_by;
+using ox::internal::answers_of;
 using support::frame;
 using support::generator;
 using support::rectangle;
@@ -210,6 +215,114 @@ TEST(OxPolygonContains, EqualsThePlainCountInSlantedPlanes) {
         }
     }
     EXPECT_GT(compared, 200);
+}
+
+namespace {
+
+using point_list = ox::ox_list<ox_3dvector>;
+
+/// Jagged contours of many vertices that cross each other and themselves, in a frame of their own.
+ox_polygon many_sided_polygon(generator& random, const frame& axes, float scale) {
+    ox_polygon polygon;
+    const int contours = random.between(1, 4);
+    const bool coarse = random.one_in(2); // many vertices on one level
+    for (int c = 0; c < contours; ++c) {
+        point_list vertices;
+        const int corners = random.between(3, 40);
+        for (int k = 0; k < corners; ++k) {
+            const float x = coarse ? static_cast<float>(random.between(-4, 4)) : random.grid(-3, 3);
+            const float y = coarse ? static_cast<float>(random.between(-4, 4)) : random.grid(-3, 3);
+            vertices.push_right((axes.x * x + axes.y * y) * scale);
+        }
+        polygon.add_contour(vertices);
+    }
+    return polygon;
+}
+
+/// A vertex, a point level with one vertex and below another, the middle of two, or any point.
+ox_3dvector questioned_point(generator& random, ox_polygon& polygon, float scale) {
+    const point_list& vertices = polygon.get_contour_vertices();
+    const ox_3dvector& a = vertices[random.between(0, vertices.size() - 1)];
+    const ox_3dvector& b = vertices[random.between(0, vertices.size() - 1)];
+    switch (random.between(0, 3)) {
+    case 0:
+        return a;
+    case 1:
+        return ox_3dvector(a.x, b.y, a.z);
+    case 2:
+        return (a + b) * 0.5f;
+    default:
+        return support::random_point(random, 4.0) * scale;
+    }
+}
+
+void change(generator& random, ox_polygon& polygon) {
+    ox::ox_matrix moving;
+    moving.translate(support::random_point(random, 1.0));
+    ox_polygon other = rectangle_polygon(-1.0f, -0.5f, 1.0f, 0.75f);
+    switch (random.between(0, 8)) {
+    case 0:
+        return polygon.reverse();
+    case 1:
+        return polygon.matrix_transform(moving);
+    case 2:
+        return polygon.set_point(support::random_point(random, 1.0));
+    case 3:
+        return polygon.add_contour(support::random_tangle(random, 9, 2));
+    case 4:
+        return polygon.unites(other);
+    case 5:
+        return polygon.substracts(other);
+    case 6:
+        return polygon.offset(0.0625f, ox_polygon::join_miter);
+    case 7:
+        return polygon.swap(other);
+    default:
+        return polygon.set_normal(support::random_point(random, 1.0));
+    }
+}
+
+} // namespace
+
+TEST(OxPolygonContains, EqualsThePlainCountWhenAskedAgainAndAgain) {
+    generator random(603);
+    const std::uint64_t before = answers_of(answered_by::containment_index);
+    for (int i = 0; i < 600; ++i) {
+        static const float scales[] = {1.0f, 1.0f, 0.01f, 1000.0f, 1e10f};
+        const float scale = scales[random.between(0, 4)];
+        const frame axes = random.one_in(2) ? frame() : support::random_frame(random);
+        ox_polygon polygon = many_sided_polygon(random, axes, scale);
+        if (polygon.get_contour_sizes().size() == 0 ||
+            !reference::has_reproducible_frame(polygon)) {
+            continue;
+        }
+        for (int k = 0; k < 60; ++k) {
+            const ox_3dvector p = questioned_point(random, polygon, scale);
+            ASSERT_EQ(polygon.contains(p), reference::contains(polygon, p))
+                << "polygon " << i << ", point " << p.x << ' ' << p.y << ' ' << p.z;
+        }
+        for (const float bad : {infinity, -infinity, not_a_number}) {
+            EXPECT_FALSE(polygon.contains(ox_3dvector(bad, 0.0f, 0.0f)));
+            EXPECT_FALSE(polygon.contains(ox_3dvector(0.0f, bad, 0.0f)));
+        }
+    }
+    EXPECT_GT(answers_of(answered_by::containment_index) - before, 6000u);
+}
+
+TEST(OxPolygonContains, FollowsEveryChangeBetweenTwoQuestions) {
+    generator random(604);
+    ox_polygon polygon = many_sided_polygon(random, frame(), 1.0f);
+    for (int i = 0; i < 2000; ++i) {
+        if (polygon.get_contour_vertices().size() < 64 ||
+            polygon.get_contour_vertices().size() > 1000) {
+            polygon = many_sided_polygon(random, frame(), 1.0f);
+        } else if (random.one_in(20)) {
+            change(random, polygon);
+        } else { // the first question to a copy is answered by counting all sides
+            const ox_3dvector p = questioned_point(random, polygon, 1.0f);
+            ASSERT_EQ(polygon.contains(p), ox_polygon(polygon).contains(p)) << "step " << i;
+        }
+    }
 }
 
 TEST(OxPolygonMayIntersect, IsTrueForBoxesThatTouchWithinTheTolerance) {

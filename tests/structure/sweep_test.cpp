@@ -141,6 +141,27 @@ TEST(OxLoadshareSweep, AgreesWithThePlainSweepOnSlabsOfManyPointsAndBeams) {
     }
 }
 
+/// A beam from below the slab to above it. Many start or end at the same few places.
+void add_long_beam(support::generator& random, twin_slabs& slabs, bool coarse) {
+    const float scale = random.one_in(50) ? 3e37f : 1.0f;
+    const ox::ox_2dvector start(random_point(random, coarse).x, -1.0f);
+    const ox::ox_2dvector end(random_point(random, coarse).x * scale, 7.0f);
+    random.one_in(2) ? slabs.add_beam(start, end) : slabs.add_beam(end, start);
+}
+
+TEST(OxLoadshareSweep, AgreesWithThePlainSweepWhereThousandsOfBeamsCrossEachOther) {
+    support::generator random(96);
+    for (int round = 0; round < 40; ++round) {
+        twin_slabs slabs;
+        slabs.add_contour({{-1, 0}, {7, 0}, {7, 6}, {-1, 6}});
+        const int beams = random.between(2000, 6000);
+        for (int k = 0; k < beams; ++k) {
+            add_long_beam(random, slabs, round % 2 == 0);
+        }
+        slabs.expect_same_weights(0.5f);
+    }
+}
+
 TEST(OxLoadshareSweep, AgreesWithThePlainSweepWhereStepsAreAsSmallAsTheSpacingOfFloats) {
     support::generator random(95);
     for (int round = 0; round < 300; ++round) {

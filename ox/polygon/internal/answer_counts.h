@@ -14,11 +14,12 @@ enum class answered_by {
     fan,
     known_triangles,
     tessellator,
-    centre_block,     ///< candidates of the best centre that one test places
-    centre_candidate, ///< those scored one by one
-    row_stretch,      ///< grid points that are inside because a neighbour in their row is
-    row_point,        ///< those tested one by one
-    measured_cell,    ///< cells of a raster whose distance from a side is measured
+    containment_index, ///< of the questions whether a point is inside
+    centre_block,      ///< candidates of the best centre that one test places
+    centre_candidate,  ///< those scored one by one
+    row_stretch,       ///< grid points that are inside because a neighbour in their row is
+    row_point,         ///< those tested one by one
+    measured_cell,     ///< cells of a raster whose distance from a side is measured
     count
 };
 

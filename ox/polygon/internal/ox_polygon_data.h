@@ -5,7 +5,9 @@
 #include <ox/geometry/ox_3dvector.h>
 #include <ox/geometry/ox_box.h>
 #include <ox/internal/boolean_operation.h>
+#include <ox/polygon/internal/change_watch.h>
 #include <ox/polygon/internal/plane_frame.h>
+#include <ox/polygon/internal/search/containment_index.h>
 
 namespace ox {
 
@@ -28,6 +30,8 @@ struct ox_polygon_data : internal::plane_frame {
     float area = 0.0f; ///< of the triangles
     ox_list<ox_3dvector> tesselation_vertices;
     ox_list<unsigned int> tesselation_triangles;
+    internal::change_watch watch; ///< of contours and plane
+    internal::lazy_containment_index containment;
 
     /// Merges the pending contours: the head of every query.
     void compute_contours();
@@ -56,8 +60,12 @@ struct ox_polygon_data : internal::plane_frame {
     /// Empties the four lists of the normalised contours.
     void clear_contours();
 
-    /// To be called after every change of the normalised contours: their triangles and their
-    /// bounding box are no longer known.
+    /// To be called with every change of the contours or the plane: what was found out about them
+    /// no longer holds.
+    void tell_change() noexcept;
+
+    /// To be called after every change of the normalised contours: tells it, and forgets
+    /// their triangles and their bounding box.
     void forget_derived();
 
     /// Empties the region when the plane or a vertex holds a number that is not finite, so that

@@ -47,10 +47,6 @@ ox_progress_manager_phase* phase_tree::append(const std::string& name,
     return phase;
 }
 
-void phase_tree::tile_all() {
-    tile_children(nullptr);
-}
-
 void phase_tree::tile_children(ox_progress_manager_phase* parent) {
     phase_list pending;
     if (parent != nullptr) {

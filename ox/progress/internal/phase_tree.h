@@ -31,10 +31,8 @@ public:
     ox_progress_manager_phase* append(const std::string& name, ox_progress_manager_phase* parent,
                                       double weight);
 
-    /// Tiles the whole tree from `[0, 1]`.
-    void tile_all();
-
-    /// Tiles the interval of `parent` (`[0, 1]` when null) with its children, and theirs in turn.
+    /// Tiles the interval of `parent` with its children, and theirs in turn; the whole tree from
+    /// `[0, 1]` when that is null.
     void tile_children(ox_progress_manager_phase* parent);
 
     /// Gives every phase with children the sum of their durations.

@@ -53,9 +53,14 @@ void face_cache::show(owned_faces made, std::vector<origin> made_origins) {
     list = std::move(shown);
     origins = std::move(made_origins);
     is_complete = true;
+    is_changed = true;
 }
 
 owned_faces face_cache::retire() noexcept {
+    for (ox_polygon* face : list) {
+        polygon_access::watch(*face, nullptr);
+    }
+    is_changed = true;
     list.clear();
     origins.clear();
     is_complete = false;
@@ -86,13 +91,16 @@ bool face_cache::is_reproducible(int face) const {
            has_contours_of(made.place, polygon);
 }
 
-bool face_cache::is_all_reproducible() const {
-    for (int i = 0; i < list.size(); ++i) {
-        if (!is_reproducible(i)) {
-            return false;
+bool face_cache::is_all_reproducible() {
+    refresh_bounds();
+    if (!all_reproducible) {
+        int i = 0;
+        while (i < list.size() && is_reproducible(i)) {
+            ++i;
         }
+        all_reproducible = i == list.size();
     }
-    return true;
+    return *all_reproducible;
 }
 
 bool face_cache::has_contours_of(const storage_place& place, ox_polygon& face) const {
@@ -103,6 +111,15 @@ bool face_cache::has_contours_of(const storage_place& place, ox_polygon& face) c
 // Searching
 
 const std::vector<face_bounds>& face_cache::refresh_bounds() {
+    if (is_changed) {
+        find_bounds();
+        watch_faces();
+    }
+    return bounds;
+}
+
+/// The tree stays where the bounds are what they were.
+void face_cache::find_bounds() {
     std::vector<face_bounds> found;
     found.reserve(faces.size());
     for (ox_polygon* face : list) {
@@ -112,7 +129,16 @@ const std::vector<face_bounds>& face_cache::refresh_bounds() {
         bounds = std::move(found);
         tree.reset();
     }
-    return bounds;
+}
+
+/// Each face has been merged when its bounds were found.
+void face_cache::watch_faces() {
+    for (ox_polygon* face : list) {
+        polygon_access::watch(*face, &is_changed);
+    }
+    is_changed = false;
+    all_reproducible.reset();
+    ++revision;
 }
 
 const face_tree& face_cache::get_tree() {

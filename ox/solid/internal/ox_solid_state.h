@@ -23,6 +23,7 @@ enum solid_phase { own_faces_phase, other_faces_phase, rebuild_phase, solid_phas
 struct section_source {
     solid_storage storage;
     face_cache faces{storage, face_audience::nobody};
+    unsigned int revision = 0; ///< of the faces that were added, when they were last compared
 };
 
 } // namespace internal

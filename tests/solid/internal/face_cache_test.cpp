@@ -1,7 +1,10 @@
 // Booleans keep the polygons of faces that would come out as they are, and sections those of the
 // last one: chains of both are compared with plain versions that make every face anew.
 
+#include <functional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -242,6 +245,75 @@ TEST(KeptFaces, MadeForASectionAreNotTakenForFewerFaces) {
         towers.get_faces()[i]->clear();
     }
     section_at_half_height(towers, 1);
+}
+
+/// All ways in which a caller may change a face that a solid shows.
+std::vector<std::function<void(ox_polygon&, const ox_polygon&)>> ways_to_change() {
+    return {
+        [](ox_polygon& face, const ox_polygon& other) { face = other; },
+        [](ox_polygon& face, const ox_polygon& other) { face = ox_polygon(other); },
+        [](ox_polygon& face, const ox_polygon& other) {
+            ox_polygon exchanged(other);
+            exchanged.swap(face);
+        },
+        [](ox_polygon& face, const ox_polygon&) { ox_polygon taken(std::move(face)); },
+        [](ox_polygon& face, const ox_polygon& other) {
+            face.add_contour(ox_polygon(other).get_contour_vertices());
+        },
+        [](ox_polygon& face, const ox_polygon&) { face.clear(); },
+        [](ox_polygon& face, const ox_polygon& other) { face.set_normal(other.get_normal()); },
+        [](ox_polygon& face, const ox_polygon& other) { face.set_point(other.get_point()); },
+        [](ox_polygon& face, const ox_polygon&) { face.reverse(); },
+        [](ox_polygon& face, const ox_polygon& other) {
+            ox::ox_matrix moving;
+            moving.translate(other.get_point());
+            face.matrix_transform(moving);
+        },
+        [](ox_polygon& face, const ox_polygon& other) { face.unites(other); },
+        [](ox_polygon& face, const ox_polygon& other) { face.substracts(other); },
+        [](ox_polygon& face, const ox_polygon& other) { face.intersects(other); },
+        [](ox_polygon& face, const ox_polygon&) { face.offset(0.125f, ox_polygon::join_round); },
+        [](ox_polygon& face, const ox_polygon&) { face.offset(-0.125f, ox_polygon::join_square); },
+        [](ox_polygon& face, const ox_polygon&) { face.optimize_contours(0.25f); },
+    };
+}
+
+/// Expects a section to be the plain one of the faces as they stand.
+void expect_section_of_faces(ox_solid& solid, generator& random) {
+    const ox_3dvector point = support::random_point(random, 1.0);
+    const ox_3dvector normal = support::random_frame(random).x;
+    compare_section(solid, solid, point, normal);
+}
+
+TEST(KeptFaces, ThatChangeInAnyWayAreSeenByTheNextSection) {
+    generator random(7);
+    const auto ways = ways_to_change();
+    for (int round = 0; round < 3000 && !testing::Test::HasFailure(); ++round) {
+        SCOPED_TRACE(round);
+        ox_solid solid = ox_test::unit_brick();
+        ox_solid tool = support::brick_between(support::random_point(random, 1.0),
+                                               support::random_point(random, 1.0));
+        solid.substracts(tool);
+        for (int step = 0; step < 4 && solid.get_faces().size() > 0; ++step) {
+            expect_section_of_faces(solid, random);
+            ox_polygon& face = *solid.get_faces()[random.between(0, solid.get_faces().size() - 1)];
+            const ox_polygon other(*tool.get_faces()[random.between(0, 5)]);
+            const int way = random.between(0, static_cast<int>(ways.size()) - 1);
+            ways[static_cast<std::size_t>(way)](face, other);
+        }
+        expect_section_of_faces(solid, random);
+    }
+}
+
+TEST(KeptFaces, TakenOutOfASolidMayOutliveIt) {
+    ox_polygon taken;
+    {
+        ox_solid solid = ox_test::unit_brick();
+        section_at_half_height(solid, 1);
+        taken = std::move(*solid.get_faces()[0]);
+    }
+    taken.reverse();
+    EXPECT_FLOAT_EQ(taken.get_area(), 1.0f);
 }
 
 TEST(KeptFaces, ForgetTheBestCentreThatTheyHadElsewhere) {

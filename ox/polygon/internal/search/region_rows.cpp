@@ -147,14 +147,16 @@ void region_rows::walk(float w) {
     inside.clear();
     int column = 0;
     bool between_is_inside = false;
+    int stretched = 0;
+    int tested = 0;
     for (const uncertain_span& b : spans) {
         const int first = first_column_beyond(b.low, column, w);
         if (between_is_inside) {
             add_inside(column, first);
-            answers_of(answered_by::row_stretch) += static_cast<std::uint64_t>(first - column);
+            stretched += first - column;
         }
         const int last = first_column_beyond(b.high, first, w);
-        answers_of(answered_by::row_point) += static_cast<std::uint64_t>(last - first);
+        tested += last - first;
         for (int c = first; c < last; ++c) {
             if (contains(us[static_cast<std::size_t>(c)], w)) {
                 add_inside(c, c + 1);
@@ -163,6 +165,8 @@ void region_rows::walk(float w) {
         column = last;
         between_is_inside ^= b.odd;
     }
+    answers_of(answered_by::row_stretch) += static_cast<std::uint64_t>(stretched);
+    answers_of(answered_by::row_point) += static_cast<std::uint64_t>(tested);
 }
 
 /// The first column, not before `from`, whose point of row w lies right of x. The columns' points

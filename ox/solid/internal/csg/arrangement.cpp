@@ -55,7 +55,7 @@ arrangement_result make_arrangement(const arrangement_input& input, progress_pol
     poll.begin(0.4);
     const piece_list list = divide_facets(complex, contacts, planes, poll);
     poll.begin(0.7);
-    const coincidence_list coincidences = find_coincidences(complex, contacts, list);
+    const coincidence_list coincidences = find_coincidences(complex, contacts, list, poll);
     const int outside = 2 * count_of(list.pieces);
     disjoint_sets cells(outside + 1);
     const edge_fans fans = join_wedges(complex, list, coincidences, cells, poll);
@@ -64,7 +64,7 @@ arrangement_result make_arrangement(const arrangement_input& input, progress_pol
     const std::vector<bool> is_side_selected =
         select_cells(complex, list, coincidences, input.operations, outside, cells, poll);
     poll.begin(0.95);
-    return boundary_writer(complex, list, coincidences).write(is_side_selected);
+    return boundary_writer(complex, list, coincidences, poll).write(is_side_selected);
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include <ox/solid/internal/csg/edge_register.h>
+#include <ox/solid/internal/csg/monotone_face.h>
 #include <ox/solid/internal/csg/planar_triangulation.h>
 #include <ox/solid/internal/csg/planar_view.h>
 
@@ -94,6 +95,54 @@ triangle_list make_cone(const face_boundary& face) {
     return cone;
 }
 
+/// Cuts faces by a sweep over the regions of all of them.
+std::vector<triangle_list> triangulate_any(const std::vector<grid_point>& points,
+                                           const std::vector<const face_boundary*>& faces,
+                                           const std::array<double, 3>& normal,
+                                           std::vector<bool>& fits) {
+    const viewed_points viewed(points, faces, normal);
+    std::vector<region_edge> edges;
+    for (std::size_t f = 0; f < faces.size(); ++f) {
+        for (const directed_edge& edge : *faces[f]) {
+            edges.push_back(
+                {viewed.number_of(edge[0]), viewed.number_of(edge[1]), static_cast<int>(f)});
+        }
+    }
+    std::vector<covered_triangle> covered;
+    std::vector<triangle_list> triangles(faces.size());
+    if (triangulate_regions(viewed.places, edges, covered)) {
+        for (const covered_triangle& triangle : covered) {
+            append_covered(viewed, triangle, triangles[static_cast<std::size_t>(triangle.region)]);
+        }
+    }
+    for (std::size_t f = 0; f < faces.size(); ++f) {
+        if (!is_boundary_of(*faces[f], triangles[f])) {
+            triangles[f].clear();
+            fits[f] = false;
+        }
+    }
+    return triangles;
+}
+
+/// Cuts one face, or two that lie beside each other along an edge, where they are simple enough;
+/// false for any others.
+bool triangulate_simple(const std::vector<grid_point>& points,
+                        const std::vector<const face_boundary*>& faces,
+                        const std::array<double, 3>& normal,
+                        std::vector<triangle_list>& triangles) {
+    std::array<monotone_face, 2> read;
+    if (faces.size() > read.size()) {
+        return false;
+    }
+    const planar_view view(normal);
+    for (std::size_t f = 0; f < faces.size(); ++f) {
+        if (!read[f].read(points, *faces[f], view) || !read[f].triangulate(triangles[f])) {
+            return false;
+        }
+    }
+    return faces.size() < 2 || read[0].has_outside(read[1]) || read[1].has_outside(read[0]);
+}
+
 } // namespace
 
 bool is_boundary_of(const face_boundary& boundary, const triangle_list& triangles) {
@@ -115,27 +164,10 @@ std::vector<triangle_list> triangulate_together(const std::vector<grid_point>& p
                                                 const std::vector<const face_boundary*>& faces,
                                                 const std::array<double, 3>& normal,
                                                 std::vector<bool>& fits) {
-    const viewed_points viewed(points, faces, normal);
-    std::vector<region_edge> edges;
-    for (std::size_t f = 0; f < faces.size(); ++f) {
-        for (const directed_edge& edge : *faces[f]) {
-            edges.push_back(
-                {viewed.number_of(edge[0]), viewed.number_of(edge[1]), static_cast<int>(f)});
-        }
-    }
-    std::vector<covered_triangle> covered;
     std::vector<triangle_list> triangles(faces.size());
-    if (triangulate_regions(viewed.places, edges, covered)) {
-        for (const covered_triangle& triangle : covered) {
-            append_covered(viewed, triangle, triangles[static_cast<std::size_t>(triangle.region)]);
-        }
-    }
     fits.assign(faces.size(), true);
-    for (std::size_t f = 0; f < faces.size(); ++f) {
-        if (!is_boundary_of(*faces[f], triangles[f])) {
-            triangles[f].clear();
-            fits[f] = false;
-        }
+    if (!triangulate_simple(points, faces, normal, triangles)) {
+        triangles = triangulate_any(points, faces, normal, fits);
     }
     return triangles;
 }

@@ -17,6 +17,9 @@ struct grid_box {
     /// Grows to hold a point.
     void include(const grid_point& point);
 
+    /// Grows to hold another box.
+    void include(const grid_box& box);
+
     /// Grows by `margin` on every side.
     void grow(double margin);
 
@@ -49,6 +52,15 @@ public:
         }
     }
 
+    /// Calls `visit(index, index)` for every pair of boxes that meet, once, in an order that
+    /// depends on the boxes only; either index may come first.
+    template <typename visitor>
+    void visit_pairs(visitor visit) const {
+        if (!nodes.empty()) {
+            visit_pairs_within(nodes.front(), visit);
+        }
+    }
+
 private:
     /// An inner node has its halves at `first` and `first + 1`; a leaf has `count` boxes.
     struct node {
@@ -57,8 +69,17 @@ private:
         std::size_t count;
     };
 
-    void build(std::size_t place, std::size_t begin, std::size_t end);
-    int longest_side(std::size_t begin, std::size_t end) const;
+    /// Twice the middle of a box.
+    struct box_middle {
+        std::array<double, 3> place;
+        int index;
+    };
+
+    void build(std::size_t place, const std::vector<grid_box>& boxes, box_middle* begin,
+               box_middle* end);
+    void make_leaf(std::size_t place, const std::vector<grid_box>& boxes, box_middle* begin,
+                   box_middle* end);
+    static std::size_t longest_side(const box_middle* begin, const box_middle* end);
 
     template <typename test, typename visitor>
     void visit_node(std::size_t place, const test& reaches, visitor& visit) const {
@@ -78,12 +99,78 @@ private:
         }
     }
 
+    template <typename visitor>
+    void visit_pairs_within(const node& here, visitor& visit) const {
+        if (here.count == 0) {
+            visit_pairs_within(nodes[here.first], visit);
+            visit_pairs_within(nodes[here.first + 1], visit);
+            visit_pairs_between(nodes[here.first], nodes[here.first + 1], visit);
+            return;
+        }
+        for (std::size_t i = here.first; i < here.first + here.count; ++i) {
+            for (std::size_t j = here.first; j < i; ++j) {
+                if (sorted[i].box.meets(sorted[j].box)) {
+                    visit(sorted[j].index, sorted[i].index);
+                }
+            }
+        }
+    }
+
+    template <typename visitor>
+    void visit_pairs_between(const node& a, const node& b, visitor& visit) const {
+        if (!a.bounds.meets(b.bounds)) {
+            return;
+        }
+        if (a.count == 0) {
+            visit_pairs_between(nodes[a.first], b, visit);
+            visit_pairs_between(nodes[a.first + 1], b, visit);
+        } else if (b.count == 0) {
+            visit_pairs_between(nodes[b.first], a, visit);
+            visit_pairs_between(nodes[b.first + 1], a, visit);
+        } else {
+            visit_pairs_of_leaves(a, b, visit);
+        }
+    }
+
+    template <typename visitor>
+    void visit_pairs_of_leaves(const node& a, const node& b, visitor& visit) const {
+        for (std::size_t i = a.first; i < a.first + a.count; ++i) {
+            if (!sorted[i].box.meets(b.bounds)) {
+                continue;
+            }
+            for (std::size_t j = b.first; j < b.first + b.count; ++j) {
+                if (sorted[i].box.meets(sorted[j].box)) {
+                    visit(sorted[i].index, sorted[j].index);
+                }
+            }
+        }
+    }
+
     struct leaf_box {
         grid_box box;
         int index;
     };
     std::vector<leaf_box> sorted; // in the order of the leaves
     std::vector<node> nodes;
+};
+
+/// For each box those that meet it, in the order of their indices. O((n + k) log n) time and O(n +
+/// k) memory for k pairs of boxes that meet.
+class box_neighbours {
+public:
+    explicit box_neighbours(const std::vector<grid_box>& boxes);
+
+    /// The neighbours of a box.
+    const int* begin_of(int box) const {
+        return listed.data() + first[static_cast<std::size_t>(box)];
+    }
+    const int* end_of(int box) const {
+        return listed.data() + first[static_cast<std::size_t>(box) + 1];
+    }
+
+private:
+    std::vector<std::size_t> first;
+    std::vector<int> listed;
 };
 
 } // namespace ox::internal::csg

@@ -33,16 +33,21 @@ struct piece_edge {
     }
 };
 
-class group_search {
+class group_search final : private plane_candidates {
 public:
-    group_search(const result_pieces& result, const scene& scene_faces, const working_grid& grid);
+    group_search(const result_pieces& result, const scene& scene_faces, const working_grid& grid,
+                 exact::progress_poll& steps);
     std::vector<face_group> run();
 
 private:
+    const face_boundary& boundary_of(int piece) const override { return at(piece).boundary; }
+    void find_neighbours(int piece, std::vector<int>& found) const override;
+    double allowed_deviation(int piece, const std::array<double, 3>& normal) const override;
+    bool is_reversed(int, const std::array<double, 3>&) const override { return false; }
+    void join(int piece) override { is_grouped[static_cast<std::size_t>(piece)] = true; }
+
     face_group grow_from(int first);
-    double allowed_deviation(int piece, int first, const std::array<double, 3>& normal) const;
     bool is_thin(const result_piece& piece, double reach) const;
-    void visit_neighbours(int piece, std::vector<int>& neighbours) const;
 
     const result_piece& at(int piece) const {
         return result.pieces[static_cast<std::size_t>(piece)];
@@ -50,20 +55,25 @@ private:
 
     const result_pieces& result;
     const scene& faces;
+    exact::progress_poll& poll;
     double common_reach;
     double own_reach;
     std::vector<piece_edge> edges; // sorted
     std::vector<bool> is_grouped;
     std::vector<bool> is_narrow; // pieces whose normal says nothing
+    plane_growth growth;
+    int beginning = -1; // the first piece of the group
 };
 
 group_search::group_search(const result_pieces& given, const scene& scene_faces,
-                           const working_grid& grid)
-    : result(given), faces(scene_faces),
+                           const working_grid& grid, exact::progress_poll& steps)
+    : result(given), faces(scene_faces), poll(steps),
       common_reach((std::max)(grid.get_tolerance() * common_plane_share, grid.get_float_spacing())),
       own_reach((std::min)(own_plane_spacings * grid.get_float_spacing(), common_reach)),
-      is_grouped(given.pieces.size(), false) {
+      is_grouped(given.pieces.size(), false),
+      growth(*this, given.points, common_reach, joint_fit_count) {
     for (std::size_t i = 0; i < result.pieces.size(); ++i) {
+        poll.step();
         for (const directed_edge& edge : result.pieces[i].boundary) {
             edges.push_back({edge, static_cast<int>(i)});
         }
@@ -73,13 +83,14 @@ group_search::group_search(const result_pieces& given, const scene& scene_faces,
 }
 
 /// The pieces not in a group yet with an edge against one of the given piece's.
-void group_search::visit_neighbours(int piece, std::vector<int>& neighbours) const {
-    for (const directed_edge& edge : result.pieces[static_cast<std::size_t>(piece)].boundary) {
+void group_search::find_neighbours(int piece, std::vector<int>& found) const {
+    poll.step();
+    for (const directed_edge& edge : at(piece).boundary) {
         const directed_edge opposite = {edge[1], edge[0]};
         auto place = std::lower_bound(edges.begin(), edges.end(), piece_edge{opposite, 0});
         for (; place != edges.end() && place->edge == opposite; ++place) {
             if (!is_grouped[static_cast<std::size_t>(place->piece)]) {
-                neighbours.push_back(place->piece);
+                found.push_back(place->piece);
             }
         }
     }
@@ -98,12 +109,14 @@ bool group_search::is_thin(const result_piece& piece, double reach) const {
     return own.area * own.area <= reach * reach * longest;
 }
 
-double group_search::allowed_deviation(int piece, int first,
-                                       const std::array<double, 3>& normal) const {
+double group_search::allowed_deviation(int piece, const std::array<double, 3>& normal) const {
+    if (is_grouped[static_cast<std::size_t>(piece)]) {
+        return -1.0;
+    }
     const result_piece& candidate = at(piece);
-    const result_piece& beginning = at(first);
-    if (candidate.is_of_face && candidate.face == beginning.face &&
-        candidate.is_reversed == beginning.is_reversed) {
+    const result_piece& first = at(beginning);
+    if (candidate.is_of_face && candidate.face == first.face &&
+        candidate.is_reversed == first.is_reversed) {
         return 1e300; // of the same face, wherever its corners were moved to
     }
     if (dot(candidate.plane.normal, normal) <= same_way_cosine &&
@@ -113,29 +126,15 @@ double group_search::allowed_deviation(int piece, int first,
     const auto operand_of = [this](const result_piece& p) {
         return faces.faces[static_cast<std::size_t>(p.face)].operand;
     };
-    return operand_of(candidate) == operand_of(beginning) ? own_reach : common_reach;
+    return operand_of(candidate) == operand_of(first) ? own_reach : common_reach;
 }
 
 face_group group_search::grow_from(int first) {
-    const auto is_taken = [this](int piece) { return is_grouped[static_cast<std::size_t>(piece)]; };
-    plane_candidates candidates;
-    candidates.points = &result.points;
-    candidates.boundary_of = [this](int piece) -> const face_boundary& {
-        return at(piece).boundary;
-    };
-    candidates.find_neighbours = [this](int piece, std::vector<int>& found) {
-        visit_neighbours(piece, found);
-    };
-    candidates.allowed_deviation = [&](int piece, const std::array<double, 3>& normal) {
-        return is_taken(piece) ? -1.0 : allowed_deviation(piece, first, normal);
-    };
-    candidates.is_reversed = [](int, const std::array<double, 3>&) { return false; };
-    candidates.join = [this](int piece) { is_grouped[static_cast<std::size_t>(piece)] = true; };
-    candidates.joint_fit_count = joint_fit_count;
     face_group group;
     group.plane = at(first).plane;
-    candidates.join(first);
-    group.pieces = collect_plane(first, group.plane, common_reach, candidates);
+    beginning = first;
+    join(first);
+    group.pieces = growth.run(first, group.plane);
     group.first_face = at(first).face;
     for (const int piece : group.pieces) {
         const face_boundary& part = at(piece).boundary;
@@ -169,8 +168,8 @@ std::vector<face_group> group_search::run() {
 } // namespace
 
 std::vector<face_group> group_faces(const result_pieces& result, const scene& faces,
-                                    const working_grid& grid) {
-    return group_search(result, faces, grid).run();
+                                    const working_grid& grid, exact::progress_poll& poll) {
+    return group_search(result, faces, grid, poll).run();
 }
 
 } // namespace ox::internal::csg

@@ -17,14 +17,14 @@ struct face_group {
 /// belongs to it if its corners lie in the plane of the group (see plane_growth.h). They do so
 /// within three tenths of the tolerance; for another face of the same operand within the spacing of
 /// floats, so that the facets of a fine curve stay. Groups come in the order of their first faces.
-/// O(n log n).
+/// Counts a step of `poll` for each piece. O(n log n).
 std::vector<face_group> group_faces(const result_pieces& result, const scene& faces,
-                                    const working_grid& grid);
+                                    const working_grid& grid, exact::progress_poll& poll);
 
 /// Leaves out the points on straight lines that no third edge meets, in all groups alike.
-/// O(n log n).
+/// Counts a step of `poll` for each edge. O(n log n).
 void straighten(std::vector<face_group>& groups, const std::vector<grid_point>& points,
-                const working_grid& grid);
+                const working_grid& grid, exact::progress_poll& poll);
 
 } // namespace ox::internal::csg
 

@@ -18,20 +18,27 @@ constexpr double parallel_cosine = 0.7;
 constexpr std::size_t report_interval = 256;
 
 /// Grows the clusters of a scene, the largest faces first.
-class cluster_search {
+class cluster_search final : private plane_candidates {
 public:
     cluster_search(scene& all, double reach);
     bool run(const progress_report& report);
 
 private:
+    const face_boundary& boundary_of(int face) const override { return at(face).boundary; }
+    void find_neighbours(int face, std::vector<int>& found) const override;
+    double allowed_deviation(int face, const std::array<double, 3>& normal) const override;
+    bool is_reversed(int face, const std::array<double, 3>& normal) const override;
+    void join(int face) override { at(face).cluster = growing; }
+
     void grow_from(int first);
-    double allowed_deviation(int face, const std::array<double, 3>& normal) const;
+    bool is_apart(int face) const;
     scene_face& at(int face) const { return faces.faces[static_cast<std::size_t>(face)]; }
 
     scene& faces;
     double tolerance;
-    std::vector<grid_box> boxes;
-    box_tree tree;
+    box_neighbours neighbours;
+    plane_growth growth;
+    int growing = -1; // the cluster's number
 };
 
 std::vector<grid_box> grown_boxes(const scene& faces, double margin) {
@@ -44,10 +51,18 @@ std::vector<grid_box> grown_boxes(const scene& faces, double margin) {
 }
 
 cluster_search::cluster_search(scene& all, double reach)
-    : faces(all), tolerance(reach), boxes(grown_boxes(all, reach)), tree(boxes) {
-    for (scene_face& face : faces.faces) {
-        face.cluster = -1;
+    : faces(all), tolerance(reach), neighbours(grown_boxes(all, reach)),
+      growth(*this, all.points, reach, 0) {
+    for (int face = 0; face < static_cast<int>(faces.faces.size()); ++face) {
+        at(face).cluster = -1;
+        at(face).is_apart = is_apart(face);
     }
+}
+
+/// True if no face of another operand has a box that meets the face's.
+bool cluster_search::is_apart(int face) const {
+    return std::all_of(neighbours.begin_of(face), neighbours.end_of(face),
+                       [&](int other) { return at(other).operand == at(face).operand; });
 }
 
 /// False where `report` ended the work.
@@ -69,35 +84,31 @@ bool cluster_search::run(const progress_report& report) {
     return true;
 }
 
+void cluster_search::find_neighbours(int face, std::vector<int>& found) const {
+    for (const int* other = neighbours.begin_of(face); other != neighbours.end_of(face); ++other) {
+        if (at(*other).cluster < 0) {
+            found.push_back(*other);
+        }
+    }
+}
+
 double cluster_search::allowed_deviation(int face, const std::array<double, 3>& normal) const {
-    const bool is_parallel = std::fabs(dot(at(face).plane.normal, normal)) > parallel_cosine;
-    return is_parallel && at(face).unevenness <= tolerance ? tolerance : -1.0;
+    const bool may_join = at(face).cluster < 0 && at(face).unevenness <= tolerance &&
+                          std::fabs(dot(at(face).plane.normal, normal)) > parallel_cosine;
+    return may_join ? tolerance : -1.0;
+}
+
+bool cluster_search::is_reversed(int face, const std::array<double, 3>& normal) const {
+    return dot(at(face).plane.normal, normal) < 0.0;
 }
 
 void cluster_search::grow_from(int first) {
-    at(first).cluster = first;
-    if (at(first).unevenness > tolerance || at(first).plane.area == 0.0) {
-        return;
+    growing = first;
+    join(first);
+    if (at(first).unevenness <= tolerance && at(first).plane.area != 0.0) {
+        fitted_plane plane = at(first).plane;
+        growth.run(first, plane);
     }
-    plane_candidates candidates;
-    candidates.points = &faces.points;
-    candidates.boundary_of = [this](int face) -> const face_boundary& { return at(face).boundary; };
-    candidates.find_neighbours = [this](int face, std::vector<int>& found) {
-        tree.visit_meeting(boxes[static_cast<std::size_t>(face)], [&](int other) {
-            if (at(other).cluster < 0) {
-                found.push_back(other);
-            }
-        });
-    };
-    candidates.allowed_deviation = [this](int face, const std::array<double, 3>& normal) {
-        return at(face).cluster < 0 ? allowed_deviation(face, normal) : -1.0;
-    };
-    candidates.is_reversed = [this](int face, const std::array<double, 3>& normal) {
-        return dot(at(face).plane.normal, normal) < 0.0;
-    };
-    candidates.join = [this, first](int face) { at(face).cluster = first; };
-    fitted_plane plane = at(first).plane;
-    collect_plane(first, plane, tolerance, candidates);
 }
 
 } // namespace

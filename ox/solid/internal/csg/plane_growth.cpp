@@ -46,36 +46,14 @@ fitted_plane fit_corners(const std::array<double, 3>& normal, const std::vector<
     return fitted;
 }
 
-class plane_growth {
-public:
-    plane_growth(fitted_plane& growing, double allowed, const plane_candidates& all)
-        : plane(growing), reach(allowed), candidates(all) {}
+} // namespace
 
-    std::vector<int> run(int first);
-
-private:
-    void grow();
-    void try_to_join(int candidate);
-    bool refit();
-    bool fit(const face_boundary& all, double allowed);
-    face_boundary boundary_of_members() const;
-    void fit_jointly();
-
-    fitted_plane& plane;
-    double reach;
-    const plane_candidates& candidates;
-    std::vector<int> members;
-    std::vector<int> refused;
-    std::size_t visited = 0;      // members whose neighbours were tried
-    std::size_t fitted_count = 1; // members when the plane was fitted last
-};
-
-void plane_growth::try_to_join(int candidate) {
+void plane_growth::try_to_join(int candidate, const fitted_plane& plane) {
     const double allowed = candidates.allowed_deviation(candidate, plane.normal);
     if (allowed < 0.0) {
         return;
     }
-    if (lies_within(plane, *candidates.points, candidates.boundary_of(candidate), allowed)) {
+    if (lies_within(plane, points, candidates.boundary_of(candidate), allowed)) {
         candidates.join(candidate);
         members.push_back(candidate);
     } else {
@@ -83,87 +61,95 @@ void plane_growth::try_to_join(int candidate) {
     }
 }
 
-void plane_growth::grow() {
-    std::vector<int> neighbours;
+void plane_growth::grow(fitted_plane& plane) {
     for (; visited < members.size(); ++visited) {
         if (members.size() >= 2 * fitted_count) {
-            refit();
+            refit(plane);
         }
-        neighbours.clear();
-        candidates.find_neighbours(members[visited], neighbours);
-        for (const int candidate : neighbours) {
-            try_to_join(candidate);
+        found.clear();
+        candidates.find_neighbours(members[visited], found);
+        for (const int candidate : found) {
+            try_to_join(candidate, plane);
         }
     }
 }
 
-face_boundary plane_growth::boundary_of_members() const {
-    face_boundary all;
+void plane_growth::gather_boundary(const fitted_plane& plane) {
+    gathered.clear();
     for (const int member : members) {
         const bool is_reversed = candidates.is_reversed(member, plane.normal);
         for (const directed_edge& edge : candidates.boundary_of(member)) {
-            all.push_back(is_reversed ? directed_edge{edge[1], edge[0]} : edge);
+            gathered.push_back(is_reversed ? directed_edge{edge[1], edge[0]} : edge);
         }
     }
-    return all;
 }
 
-/// Takes the plane of a boundary where all of it lies in it; true where it did.
-bool plane_growth::fit(const face_boundary& all, double allowed) {
-    const fitted_plane fitted = fit_corners(plane.normal, *candidates.points, all);
-    if (fitted.area == 0.0 || !lies_within(fitted, *candidates.points, all, allowed)) {
+/// Takes the plane of the boundary that was gathered where all of it lies in it; true where it did.
+bool plane_growth::fit(double allowed, fitted_plane& plane) const {
+    const fitted_plane fitted = fit_corners(plane.normal, points, gathered);
+    if (fitted.area == 0.0 || !lies_within(fitted, points, gathered, allowed)) {
         return false;
     }
     plane = fitted;
     return true;
 }
 
-bool plane_growth::refit() {
+bool plane_growth::refit(fitted_plane& plane) {
     fitted_count = members.size();
-    return fit(boundary_of_members(), reach);
+    gather_boundary(plane);
+    return fit(reach, plane);
 }
 
 /// Tries some of those that were refused together with all members.
-void plane_growth::fit_jointly() {
-    for (int attempt = 0; attempt < candidates.joint_fit_count && !refused.empty(); ++attempt) {
+void plane_growth::fit_jointly(fitted_plane& plane) {
+    std::size_t gathered_members = 0;
+    std::size_t own_edge_count = 0;
+    for (int attempt = 0; attempt < joint_fit_count && !refused.empty(); ++attempt) {
         const int candidate = refused.back();
         refused.pop_back();
         const double allowed = candidates.allowed_deviation(candidate, plane.normal);
         if (allowed < 0.0) {
             continue;
         }
-        face_boundary all = boundary_of_members();
+        if (gathered_members != members.size()) {
+            gather_boundary(plane);
+            gathered_members = members.size();
+            own_edge_count = gathered.size();
+        }
+        gathered.resize(own_edge_count);
         const face_boundary& added = candidates.boundary_of(candidate);
-        all.insert(all.end(), added.begin(), added.end());
-        if (fit(all, std::min(allowed, reach))) {
+        gathered.insert(gathered.end(), added.begin(), added.end());
+        if (fit(std::min(allowed, reach), plane)) {
             candidates.join(candidate);
             members.push_back(candidate);
-            grow();
+            grow(plane);
         }
     }
 }
 
-std::vector<int> plane_growth::run(int first) {
-    members.push_back(first);
-    grow();
-    for (int retry = 0; retry < largest_retry_count; ++retry) {
-        if (refused.empty() || members.size() == fitted_count || !refit()) {
-            break;
+/// Tries those again that lay off the plane before it was fitted to all members.
+void plane_growth::retry(fitted_plane& plane) {
+    for (int round = 0; round < largest_retry_count; ++round) {
+        if (refused.empty() || members.size() == fitted_count || !refit(plane)) {
+            return;
         }
-        for (const int candidate : std::exchange(refused, {})) {
-            try_to_join(candidate);
+        const std::vector<int> tried = std::exchange(refused, {});
+        for (const int candidate : tried) {
+            try_to_join(candidate, plane);
         }
-        grow();
+        grow(plane);
     }
-    fit_jointly();
-    return std::move(members);
 }
 
-} // namespace
-
-std::vector<int> collect_plane(int first, fitted_plane& plane, double reach,
-                               const plane_candidates& candidates) {
-    return plane_growth(plane, reach, candidates).run(first);
+const std::vector<int>& plane_growth::run(int first, fitted_plane& plane) {
+    members.assign(1, first);
+    refused.clear();
+    visited = 0;
+    fitted_count = 1;
+    grow(plane);
+    retry(plane);
+    fit_jointly(plane);
+    return members;
 }
 
 } // namespace ox::internal::csg

@@ -157,25 +157,34 @@ void boundary_writer::write_part(const face_part& part, const planar_view& view)
     result.origins.push_right(part.origin);
 }
 
+/// Throws where `report` ended the work.
+void write_boundary(const arrangement_result& arranged, const scene& faces,
+                    const std::vector<face_triangle>& triangles, const working_grid& grid,
+                    const progress_report& report, boundary& result) {
+    exact::progress_poll poll(report);
+    poll.begin(0.0);
+    const result_pieces settled = settle_pieces(arranged, faces, triangles, grid, poll);
+    poll.begin(0.3);
+    std::vector<face_group> groups = group_faces(settled, faces, grid, poll);
+    straighten(groups, settled.points, grid, poll);
+    boundary_writer writer(settled, result);
+    for (std::size_t g = 0; g < groups.size(); ++g) {
+        writer.write(groups[g]);
+        poll.begin(0.5 + 0.5 * static_cast<double>(g + 1) / static_cast<double>(groups.size()));
+    }
+}
+
 } // namespace
 
 bool make_boundary(const arrangement_result& arranged, const scene& faces,
                    const std::vector<face_triangle>& triangles, const working_grid& grid,
                    const progress_report& report, boundary& result) {
-    const result_pieces settled = settle_pieces(arranged, faces, triangles, grid);
-    if (!report(0.3)) {
+    try {
+        write_boundary(arranged, faces, triangles, grid, report, result);
+        return true;
+    } catch (const exact::work_ended&) {
         return false;
     }
-    std::vector<face_group> groups = group_faces(settled, faces, grid);
-    straighten(groups, settled.points, grid);
-    boundary_writer writer(settled, result);
-    for (std::size_t g = 0; g < groups.size(); ++g) {
-        writer.write(groups[g]);
-        if (!report(0.5 + 0.5 * static_cast<double>(g + 1) / static_cast<double>(groups.size()))) {
-            return false;
-        }
-    }
-    return true;
 }
 
 } // namespace ox::internal::csg

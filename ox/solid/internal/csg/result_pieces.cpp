@@ -24,8 +24,8 @@ constexpr int division_rounds = 2;
 /// The points of an arrangement that its edges use, settled.
 class settled_points {
 public:
-    settled_points(const arrangement_result& arranged, const scene& faces,
-                   const working_grid& grid);
+    settled_points(const arrangement_result& arranged, const scene& faces, const working_grid& grid,
+                   exact::progress_poll& steps);
 
     std::vector<grid_point> points;
     std::vector<ox_3dvector> vertices;
@@ -36,13 +36,14 @@ private:
     void join_equal_floats(const working_grid& grid);
     void renumber();
 
+    exact::progress_poll& poll;
     std::vector<int> used;
     index_groups groups;
 };
 
 settled_points::settled_points(const arrangement_result& arranged, const scene& faces,
-                               const working_grid& grid)
-    : numbers(arranged.points.size(), -1), groups(arranged.points.size()) {
+                               const working_grid& grid, exact::progress_poll& steps)
+    : numbers(arranged.points.size(), -1), poll(steps), groups(arranged.points.size()) {
     for (const std::array<int, 2>& edge : arranged.edges) {
         used.insert(used.end(), edge.begin(), edge.end());
     }
@@ -63,6 +64,7 @@ settled_points::settled_points(const arrangement_result& arranged, const scene& 
 void settled_points::join_near(double reach) {
     point_index near(reach);
     for (const int i : used) {
+        poll.step();
         const grid_point& point = points[static_cast<std::size_t>(i)];
         near.visit_near(point, [&](int other, double) { groups.join(i, other); });
         near.add(point, i);
@@ -72,6 +74,7 @@ void settled_points::join_near(double reach) {
 void settled_points::join_equal_floats(const working_grid& grid) {
     point_index equal(0.0);
     for (const int i : used) {
+        poll.step();
         if (groups.find(i) == i) {
             grid_point& point = points[static_cast<std::size_t>(i)];
             point = grid.to_grid(vertices[static_cast<std::size_t>(i)]);
@@ -141,7 +144,7 @@ edge_register edges_of(const std::vector<result_piece>& pieces) {
 }
 
 /// Divides the edges of all pieces at the points beside them; false where there are none.
-bool divide_edges(result_pieces& result, double reach) {
+bool divide_edges(result_pieces& result, double reach, exact::progress_poll& poll) {
     edge_register edges = edges_of(result.pieces);
     const auto at = [&result](int i) -> const grid_point& {
         return result.points[static_cast<std::size_t>(i)];
@@ -156,6 +159,7 @@ bool divide_edges(result_pieces& result, double reach) {
     const box_tree tree(boxes);
     edge_division division(edges.size());
     for (int i = 0; i < static_cast<int>(result.points.size()); ++i) {
+        poll.step();
         grid_box place;
         place.include(at(i));
         tree.visit_meeting(place, [&](int e) {
@@ -171,6 +175,7 @@ bool divide_edges(result_pieces& result, double reach) {
     }
     division.sort(edges, result.points);
     for (result_piece& piece : result.pieces) {
+        poll.step();
         division.apply(edges, piece.boundary);
     }
     return true;
@@ -179,13 +184,15 @@ bool divide_edges(result_pieces& result, double reach) {
 } // namespace
 
 result_pieces settle_pieces(const arrangement_result& arranged, const scene& faces,
-                            const std::vector<face_triangle>& triangles, const working_grid& grid) {
-    settled_points settled(arranged, faces, grid);
+                            const std::vector<face_triangle>& triangles, const working_grid& grid,
+                            exact::progress_poll& poll) {
+    settled_points settled(arranged, faces, grid, poll);
     const double flatness = std::max(grid.get_tolerance() * flat_share, grid.get_float_spacing());
     result_pieces result;
     result.points = std::move(settled.points);
     result.vertices = std::move(settled.vertices);
     for (const boundary_piece& given : arranged.pieces) {
+        poll.step();
         const face_triangle& triangle = triangles[static_cast<std::size_t>(given.triangle)];
         result_piece piece;
         piece.boundary = renamed_boundary(arranged, given, settled.numbers);
@@ -196,7 +203,7 @@ result_pieces settle_pieces(const arrangement_result& arranged, const scene& fac
         result.pieces.push_back(std::move(piece));
     }
     for (int round = 0; round < division_rounds; ++round) {
-        if (!divide_edges(result, grid.get_tolerance() * settling_share)) {
+        if (!divide_edges(result, grid.get_tolerance() * settling_share, poll)) {
             break;
         }
     }

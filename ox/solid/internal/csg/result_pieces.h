@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include <ox/solid/internal/csg/exact/progress_poll.h>
 #include <ox/solid/internal/csg/overlay.h>
 #include <ox/solid/internal/csg/scene.h>
 
@@ -29,9 +30,10 @@ struct result_pieces {
 /// within `reach` steps of each other; the points of operands stay what they were given as. Edges
 /// are divided at points within `reach` beside them. Pieces without a boundary are left out: what
 /// goes through one index goes through all that it became one with, so the boundary of the result
-/// stays closed. O(n log n).
+/// stays closed. Counts a step of `poll` for each point, edge and piece. O(n log n).
 result_pieces settle_pieces(const arrangement_result& arranged, const scene& faces,
-                            const std::vector<face_triangle>& triangles, const working_grid& grid);
+                            const std::vector<face_triangle>& triangles, const working_grid& grid,
+                            exact::progress_poll& poll);
 
 } // namespace ox::internal::csg
 

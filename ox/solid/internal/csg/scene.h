@@ -32,6 +32,7 @@ struct scene_face {
     fitted_plane plane;      ///< as the operand was given
     double unevenness = 0.0; ///< how far its corners lie from that plane
     int cluster = 0;         ///< faces of one plane have the same number
+    bool is_apart = false;   ///< true where no face of another operand is within the tolerance
 };
 
 /// True if the corners of a face lie within `reach` of a plane. The first that does not ends it.
@@ -53,7 +54,8 @@ bool place_shells(const std::vector<shell>& shells, const working_grid& grid,
 
 /// Gives the faces of one plane the same number. The largest face not in a cluster yet begins one;
 /// faces whose boxes touch those of its members belong to it if all their corners lie within the
-/// tolerance of its plane, which is fitted to all of its members (see plane_growth.h).
+/// tolerance of its plane, which is fitted to all of its members (see plane_growth.h). Faces whose
+/// boxes meet those of their own operand only are marked as apart.
 /// False where `report` ended the work. O((n + k) log n).
 bool cluster_planes(scene& faces, const working_grid& grid, const progress_report& report);
 

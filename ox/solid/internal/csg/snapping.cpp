@@ -36,9 +36,13 @@ constexpr int shared_operand = -1;
 /// What is known of an edge in a round.
 struct edge_record {
     int operand;
+    bool is_named; // by a face
     bool is_fresh;
-    std::vector<int> clusters; // ascending
+    bool is_searched;          // may be divided in this round
+    std::vector<int> clusters; // of the faces of edges that are searched
 };
+
+const edge_record unnamed_edge = {shared_operand, false, false, false, {}};
 
 /// One point in common for two edges that pass each other.
 struct closest_places {
@@ -80,7 +84,8 @@ public:
     bool is_stopped() const { return stopped; }
 
 private:
-    void record_edges();
+    void record_edges(int round);
+    static void note_face(const scene_face& face, bool is_searched, edge_record& edge);
     void search(int round);
     void compare(int e, int f);
     void divide_at_end(int edge, int point, bool& touched);
@@ -115,7 +120,7 @@ edge_snapper::edge_snapper(scene& all, double reach, const progress_report& prog
 }
 
 bool edge_snapper::run_round(int round) {
-    record_edges();
+    record_edges(round);
     division = edge_division(edges.size());
     search(round);
     division.sort(edges, faces.points);
@@ -130,30 +135,39 @@ bool edge_snapper::run_round(int round) {
     return false;
 }
 
-/// Names every edge of every face anew, those of this round with new numbers.
-void edge_snapper::record_edges() {
+/// Names every edge of every face anew, those of this round with new numbers. At first only edges
+/// of different operands meet, so that those of faces apart from all other operands need no search.
+void edge_snapper::record_edges(int round) {
     const std::size_t known = static_cast<std::size_t>(edges.size());
     records.clear();
     for (const scene_face& face : faces.faces) {
+        const bool is_searched = round > 0 || !face.is_apart;
         for (const directed_edge& edge : face.boundary) {
             const auto number = static_cast<std::size_t>(edges.find_or_add(edge[0], edge[1]));
             if (number >= records.size()) {
-                records.resize(number + 1, {shared_operand, false, {}});
+                records.resize(number + 1, unnamed_edge);
             }
-            edge_record& found = records[number];
-            found.is_fresh = number >= known;
-            if (found.clusters.empty()) {
-                found.operand = face.operand;
-            } else if (found.operand != face.operand) {
-                found.operand = shared_operand;
-            }
-            if (std::find(found.clusters.begin(), found.clusters.end(), face.cluster) ==
-                found.clusters.end()) {
-                found.clusters.push_back(face.cluster);
-            }
+            records[number].is_fresh = number >= known;
+            note_face(face, is_searched, records[number]);
         }
     }
-    records.resize(static_cast<std::size_t>(edges.size()), {shared_operand, false, {}});
+    records.resize(static_cast<std::size_t>(edges.size()), unnamed_edge);
+}
+
+/// Adds what a face says of an edge.
+void edge_snapper::note_face(const scene_face& face, bool is_searched, edge_record& edge) {
+    if (!edge.is_named) {
+        edge.is_named = true;
+        edge.is_searched = is_searched;
+        edge.operand = face.operand;
+    } else {
+        edge.is_searched = edge.is_searched && is_searched;
+        edge.operand = edge.operand == face.operand ? face.operand : shared_operand;
+    }
+    if (edge.is_searched && std::find(edge.clusters.begin(), edge.clusters.end(), face.cluster) ==
+                                edge.clusters.end()) {
+        edge.clusters.push_back(face.cluster);
+    }
 }
 
 /// True if the edges may be of different operands.
@@ -175,7 +189,7 @@ int edge_snapper::common_cluster(int e, int f) const {
 void edge_snapper::search(int round) {
     std::vector<grid_box> boxes(records.size());
     for (std::size_t e = 0; e < records.size(); ++e) {
-        if (!records[e].clusters.empty()) {
+        if (records[e].is_named) {
             boxes[e].include(at(edges.ends(static_cast<int>(e))[0]));
             boxes[e].include(at(edges.ends(static_cast<int>(e))[1]));
             boxes[e].grow(tolerance);
@@ -183,12 +197,12 @@ void edge_snapper::search(int round) {
     }
     const box_tree tree(boxes);
     for (int e = 0; e < static_cast<int>(records.size()) && !stopped; ++e) {
-        if (record(e).clusters.empty() || !record(e).is_fresh) {
+        if (!record(e).is_searched || !record(e).is_fresh) {
             continue;
         }
         tree.visit_meeting(boxes[static_cast<std::size_t>(e)], [&](int f) {
             const bool is_own_turn = f != e && (!record(f).is_fresh || e < f);
-            if (is_own_turn && !record(f).clusters.empty() && (round > 0 || may_differ(e, f))) {
+            if (is_own_turn && record(f).is_searched && (round > 0 || may_differ(e, f))) {
                 compare(e, f);
             }
         });

@@ -20,7 +20,7 @@ constexpr double straight_spacings = 4.0;
 class path_straightener {
 public:
     path_straightener(const std::vector<face_group>& groups, const std::vector<grid_point>& given,
-                      double straightness);
+                      double straightness, exact::progress_poll& steps);
     void run();
     void apply(face_boundary& boundary) const;
 
@@ -31,6 +31,7 @@ private:
     int other_neighbour(int point, int from) const;
 
     const std::vector<grid_point>& points;
+    exact::progress_poll& poll;
     double reach;
     std::vector<directed_edge> edges; // both directions of each, sorted
     std::vector<std::size_t> first;   // the first edge that leaves each point
@@ -40,9 +41,10 @@ private:
 };
 
 path_straightener::path_straightener(const std::vector<face_group>& groups,
-                                     const std::vector<grid_point>& given, double straightness)
-    : points(given), reach(straightness), first(given.size(), 0), degree(given.size(), 0),
-      is_walked(given.size(), false), is_left_out(given.size(), false) {
+                                     const std::vector<grid_point>& given, double straightness,
+                                     exact::progress_poll& steps)
+    : points(given), poll(steps), reach(straightness), first(given.size(), 0),
+      degree(given.size(), 0), is_walked(given.size(), false), is_left_out(given.size(), false) {
     for (const face_group& group : groups) {
         for (const directed_edge& edge : group.boundary) {
             edges.push_back(edge);
@@ -65,6 +67,7 @@ int path_straightener::other_neighbour(int point, int from) const {
 
 void path_straightener::run() {
     for (const directed_edge& edge : edges) {
+        poll.step();
         if (!is_passed(edge[0]) && is_passed(edge[1]) &&
             !is_walked[static_cast<std::size_t>(edge[1])]) {
             follow(edge[0], edge[1]);
@@ -101,6 +104,7 @@ void path_straightener::simplify(const std::vector<int>& path) {
         std::size_t farthest = 0;
         double square = -1.0;
         for (std::size_t i = part[0] + 1; i < part[1]; ++i) {
+            poll.step();
             const std::array<double, 3> way = difference(at(part[0]), at(i));
             const nearest_place foot = find_foot(at(part[0]), at(part[1]), at(i));
             const bool is_beside = foot.parameter > 0.0 && foot.parameter < 1.0;
@@ -124,6 +128,7 @@ void path_straightener::simplify(const std::vector<int>& path) {
 void path_straightener::apply(face_boundary& boundary) const {
     face_boundary kept;
     for (const directed_edge& edge : boundary) {
+        poll.step();
         if (is_left_out[static_cast<std::size_t>(edge[0])]) {
             continue;
         }
@@ -144,13 +149,13 @@ void path_straightener::apply(face_boundary& boundary) const {
 } // namespace
 
 void straighten(std::vector<face_group>& groups, const std::vector<grid_point>& points,
-                const working_grid& grid) {
+                const working_grid& grid, exact::progress_poll& poll) {
     const double spacing = grid.get_float_spacing();
     const double reach =
         grid.get_tolerance() > 0.0
             ? std::min(grid.get_tolerance() * straight_share, straight_spacings * spacing)
             : spacing;
-    path_straightener straightener(groups, points, reach);
+    path_straightener straightener(groups, points, reach, poll);
     straightener.run();
     for (face_group& group : groups) {
         straightener.apply(group.boundary);

@@ -23,6 +23,7 @@ void boundary_writer::write_edges(int piece_index, bool is_turned, arrangement_r
     const piece& p = item(list.pieces, piece_index);
     const auto first = list.arcs.begin() + p.first_arc;
     for (auto arc = first; arc != first + p.arc_count; ++arc) {
+        poll.step();
         int& last = item(last_piece, edge_of(*arc));
         if (last == piece_index) {
             item(last_slit, edge_of(*arc)) = piece_index;
@@ -51,6 +52,7 @@ arrangement_result boundary_writer::write(const std::vector<bool>& is_side_selec
     arrangement_result result;
     result.points = complex.points.near_points();
     for (int i = 0; i < count_of(list.pieces); ++i) {
+        poll.step();
         const bool is_in_front = is_side_selected[2 * static_cast<std::size_t>(i)];
         const bool is_behind = is_side_selected[2 * static_cast<std::size_t>(i) + 1];
         if (item(coincidences.representative, i) == i && is_in_front != is_behind) {

@@ -6,6 +6,7 @@
 #include <ox/solid/internal/csg/exact/coincidences.h>
 #include <ox/solid/internal/csg/exact/facets.h>
 #include <ox/solid/internal/csg/exact/pieces.h>
+#include <ox/solid/internal/csg/exact/progress_poll.h>
 
 namespace ox::internal::csg::exact {
 
@@ -13,8 +14,8 @@ namespace ox::internal::csg::exact {
 class boundary_writer {
 public:
     boundary_writer(const facet_complex& owner, const piece_list& pieces,
-                    const coincidence_list& same)
-        : complex(owner), list(pieces), coincidences(same),
+                    const coincidence_list& same, progress_poll& steps)
+        : complex(owner), list(pieces), coincidences(same), poll(steps),
           last_piece(static_cast<std::size_t>(owner.edges.count()), -1),
           last_slit(static_cast<std::size_t>(owner.edges.count()), -1) {}
 
@@ -28,6 +29,7 @@ private:
     const facet_complex& complex;
     const piece_list& list;
     const coincidence_list& coincidences;
+    progress_poll& poll;
     /// For each edge the last piece that had it, and the last that had it on both sides.
     std::vector<int> last_piece;
     std::vector<int> last_slit;

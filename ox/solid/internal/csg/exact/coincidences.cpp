@@ -82,13 +82,14 @@ int boundary_matcher::match(int piece_index) {
 } // namespace
 
 coincidence_list find_coincidences(const facet_complex& complex, const contact_list& contacts,
-                                   const piece_list& list) {
+                                   const piece_list& list, progress_poll& poll) {
     coincidence_list result;
     const int piece_count = count_of(list.pieces);
     result.representative.resize(list.pieces.size());
     std::iota(result.representative.begin(), result.representative.end(), 0);
     boundary_matcher matcher(complex, list);
     for (int i = 0; i < piece_count; ++i) {
+        poll.step();
         const int facet_index = item(list.pieces, i).facet;
         if (!contacts.has_coincidence[static_cast<std::size_t>(facet_index)]) {
             continue;

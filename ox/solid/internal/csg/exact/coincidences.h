@@ -28,7 +28,7 @@ struct coincidence_list {
 
 /// Finds the pieces of the same boundary: facets that share an area divide it alike.
 coincidence_list find_coincidences(const facet_complex& complex, const contact_list& contacts,
-                                   const piece_list& list);
+                                   const piece_list& list, progress_poll& poll);
 
 } // namespace ox::internal::csg::exact
 

@@ -102,10 +102,10 @@ edge_fans join_wedges(const facet_complex& complex, const piece_list& list,
     edge_fans fans = collect(complex, list, coincidences);
     std::vector<placed_member> placed;
     for (int i = 0; i < complex.edges.count(); ++i) {
+        poll.step();
         const int first = item(fans.first_member, i);
         const int end = item(fans.first_member, i + 1);
         if (end - first > 2) {
-            poll.step();
             sort_fan(complex, list, complex.edges[i], fans.members.data() + first,
                      fans.members.data() + end, placed);
         }

@@ -61,6 +61,7 @@ void facet_divider::divide_sides() {
     list.first_of_side.reserve(static_cast<std::size_t>(side_count) + 1);
     list.side_edges.reserve(static_cast<std::size_t>(side_count) + contacts.side_points.size());
     for (int side = 0; side < side_count; ++side) {
+        poll.step();
         list.first_of_side.push_back(count_of(list.side_edges));
         const edge whole = complex.edges[side];
         int low = whole.low;

@@ -143,22 +143,28 @@ edge_register edges_of(const std::vector<result_piece>& pieces) {
     return edges;
 }
 
-/// Divides the edges of all pieces at the points beside them; false where there are none.
-bool divide_edges(result_pieces& result, double reach, exact::progress_poll& poll) {
-    edge_register edges = edges_of(result.pieces);
-    const auto at = [&result](int i) -> const grid_point& {
-        return result.points[static_cast<std::size_t>(i)];
-    };
+std::vector<grid_box> boxes_of(const edge_register& edges, const std::vector<grid_point>& points,
+                               double reach) {
     std::vector<grid_box> boxes(static_cast<std::size_t>(edges.size()));
     for (int e = 0; e < edges.size(); ++e) {
         grid_box& box = boxes[static_cast<std::size_t>(e)];
-        box.include(at(edges.ends(e)[0]));
-        box.include(at(edges.ends(e)[1]));
+        for (const int end : edges.ends(e)) {
+            box.include(points[static_cast<std::size_t>(end)]);
+        }
         box.grow(reach);
     }
-    const box_tree tree(boxes);
+    return boxes;
+}
+
+/// Finds the points beside edges.
+edge_division find_divisions(const edge_register& edges, const std::vector<grid_point>& points,
+                             double reach, exact::progress_poll& poll) {
+    const auto at = [&points](int i) -> const grid_point& {
+        return points[static_cast<std::size_t>(i)];
+    };
+    const box_tree tree(boxes_of(edges, points, reach));
     edge_division division(edges.size());
-    for (int i = 0; i < static_cast<int>(result.points.size()); ++i) {
+    for (int i = 0; i < static_cast<int>(points.size()); ++i) {
         poll.step();
         grid_box place;
         place.include(at(i));
@@ -170,6 +176,13 @@ bool divide_edges(result_pieces& result, double reach, exact::progress_poll& pol
             }
         });
     }
+    return division;
+}
+
+/// Divides the edges of all pieces at the points beside them; false where there are none.
+bool divide_edges(result_pieces& result, double reach, exact::progress_poll& poll) {
+    edge_register edges = edges_of(result.pieces);
+    edge_division division = find_divisions(edges, result.points, reach, poll);
     if (division.size() == 0) {
         return false;
     }

@@ -44,11 +44,17 @@ private:
 settled_points::settled_points(const arrangement_result& arranged, const scene& faces,
                                const working_grid& grid, exact::progress_poll& steps)
     : numbers(arranged.points.size(), -1), poll(steps), groups(arranged.points.size()) {
+    std::vector<bool> is_used(arranged.points.size(), false);
     for (const std::array<int, 2>& edge : arranged.edges) {
-        used.insert(used.end(), edge.begin(), edge.end());
+        is_used[static_cast<std::size_t>(edge[0])] = true;
+        is_used[static_cast<std::size_t>(edge[1])] = true;
     }
-    std::sort(used.begin(), used.end());
-    used.erase(std::unique(used.begin(), used.end()), used.end());
+    for (std::size_t i = 0; i < is_used.size(); ++i) {
+        if (is_used[i]) {
+            used.push_back(static_cast<int>(i));
+        }
+    }
+    points.reserve(arranged.points.size());
     for (const std::array<double, 3>& point : arranged.points) {
         points.push_back(working_grid::round(point));
     }
@@ -103,6 +109,7 @@ void settled_points::renumber() {
 face_boundary renamed_boundary(const arrangement_result& arranged, const boundary_piece& piece,
                                const std::vector<int>& numbers) {
     face_boundary boundary;
+    boundary.reserve(static_cast<std::size_t>(piece.edge_count));
     for (int e = piece.first_edge; e < piece.first_edge + piece.edge_count; ++e) {
         const std::array<int, 2>& edge = arranged.edges[static_cast<std::size_t>(e)];
         const directed_edge named = {numbers[static_cast<std::size_t>(edge[0])],
@@ -204,6 +211,7 @@ result_pieces settle_pieces(const arrangement_result& arranged, const scene& fac
     result_pieces result;
     result.points = std::move(settled.points);
     result.vertices = std::move(settled.vertices);
+    result.pieces.reserve(arranged.pieces.size());
     for (const boundary_piece& given : arranged.pieces) {
         poll.step();
         const face_triangle& triangle = triangles[static_cast<std::size_t>(given.triangle)];

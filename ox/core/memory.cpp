@@ -15,8 +15,6 @@
 
 namespace ox {
 
-using namespace internal;
-
 namespace {
 
 constexpr double megabytes_per_byte = 1.0 / 1048576.0;
@@ -52,7 +50,7 @@ void read_field(const char* line, const char* name, long long& bytes) {
 /// could show a peak below the current size.
 process_memory query_process_memory() {
     process_memory memory;
-    const open_file file = open_path("/proc/self/status", "r");
+    const internal::open_file file = internal::open_path("/proc/self/status", "r");
     if (file == nullptr) {
         return memory;
     }

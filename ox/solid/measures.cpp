@@ -5,7 +5,7 @@
 #include <ox/internal/vectors.h>
 #include <ox/internal/wide_vector.h>
 #include <ox/solid/internal/measures/open_edges.h>
-#include <ox/solid/internal/measures/stored_contours.h>
+#include <ox/solid/internal/stored_contours.h>
 #include <ox/solid/ox_solid.h>
 
 namespace ox {

@@ -37,7 +37,8 @@ ox_list<ox_polygon*> split_section(face_cache& cache, const ox_3dvector& point,
     }
     ox_list<ox_polygon*> pieces = section->split_to_polygons();
     if (std::find(pieces.begin(), pieces.end(), section.get()) != pieces.end()) {
-        section.release(); // a section of one piece is that piece: it is the caller's now
+        // A section of one piece is that piece: it is the caller's now.
+        static_cast<void>(section.release());
     }
     return pieces;
 }

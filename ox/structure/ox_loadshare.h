@@ -83,7 +83,8 @@ public:
     /// Computes the load of every beam by lines `step` apart, from the lowest point of the slab up.
     /// A step below 0.001 (0, negative, NaN) is 0.001; one of half the spacing of floats at the
     /// farthest line of the slab, or less, would not advance every line and is raised to it. The
-    /// load is exact to about one step of the slab's height. O(lines * (points + beams log beams)).
+    /// load is exact to about one step of the slab's height. O(n log n) for n points
+    /// and beams, and for each line O(k) for the k of them that it meets.
     void compute_weights(float step);
 
     /// The load of a beam after the last computation; -1 for an index that is out of range.

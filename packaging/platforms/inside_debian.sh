@@ -45,6 +45,8 @@ if [ "${OX_QUICK:-0}" = 0 ]; then
     preset=install
     cmake --preset install
 else
+    DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
+        libgtest-dev libgmock-dev python3 >/dev/null
     cmake --preset release -DOX_BUILD_TESTS=ON -DOX_BUILD_EXAMPLES=OFF
     cmake --build --preset release --target ox_result_hash
     preset=release

@@ -16,13 +16,15 @@ build_dependencies() {
     mkdir -p "$here/sources" "$OX_WINDOWS_PREFIX/include"
     fetch_source libpolyclipping
     build_dependency "$(echo "$here"/sources/libpolyclipping-*/cpp)" polyclipping
-    fetch_source libglu
+    fetch_source libglu --tar-only # Debian's changes are for its own build
+    tar -xf "$(echo "$here"/sources/libglu_*.orig.tar.*)" -C "$here/sources"
     build_tessellator "$(echo "$here"/sources/*glu-*/)"
     build_dependency /usr/src/googletest googletest
     cp -r /usr/include/utf8cpp "$OX_WINDOWS_PREFIX/include" # headers only
 }
 
-# `fetch_source NAME`: a Debian source package, unpacked, without a change to this machine's lists.
+# `fetch_source NAME OPTION...`: a Debian source package, unpacked unless an option says otherwise,
+# without a change to this machine's lists.
 fetch_source() {
     local lists=$here/lists
     mkdir -p "$lists/partial"
@@ -32,7 +34,7 @@ fetch_source() {
     local options=(-qq -o "Dir::Etc::SourceList=$here/sources.list" -o Dir::Etc::SourceParts=/dev/null
         -o "Dir::State::Lists=$lists")
     apt-get "${options[@]}" update
-    (cd "$here/sources" && apt-get "${options[@]}" source "$1")
+    (cd "$here/sources" && apt-get "${options[@]}" source "$@")
 }
 
 # The tessellator of GLU instead of the system's: `build_tessellator SOURCES`. It sorts points by random

@@ -31,7 +31,7 @@ class live_instance_guard : public ::testing::EmptyTestEventListener {
 
 /// Ends the process at once. MinGW's threads may keep one that ends by itself waiting for ever:
 /// when a team of OpenMP becomes smaller, its threads end one by one, and one that is stopped on
-/// the way has a lock of their runtime.
+/// the way seems to keep a lock of their runtime.
 int end(int status) {
 #ifdef _WIN32
     std::fflush(nullptr);

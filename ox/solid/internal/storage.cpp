@@ -7,6 +7,7 @@
 
 #include <ox/internal/contour_view.h>
 #include <ox/solid/internal/same_bits.h>
+#include <ox/solid/internal/stored_contours.h>
 
 namespace ox::internal {
 
@@ -181,20 +182,16 @@ std::unique_ptr<ox_polygon> storage_reader::read_face() {
 /// Reads the vertices of the next contour. False when one is missing or out of range.
 bool storage_reader::gather_contour() {
     contour.clear();
-    is_inconsistent = true;
-    for (std::int64_t left = std::abs(std::int64_t{storage.contour_sizes[next.size_index]});
-         left > 0; --left) {
-        if (next.index >= storage.contours.size()) {
-            return false;
-        }
+    const std::int64_t size = std::abs(std::int64_t{storage.contour_sizes[next.size_index]});
+    is_inconsistent = !is_consistent(storage.contours, storage.count_vertices(), next.index, size);
+    if (is_inconsistent) {
+        return false;
+    }
+    for (std::int64_t left = size; left > 0; --left) {
         const unsigned int index = storage.contours[next.index++];
-        if (index >= storage.count_vertices()) {
-            return false;
-        }
         contour.push_right(storage.vertices[static_cast<int>(index)]);
     }
     ++next.size_index;
-    is_inconsistent = false;
     return true;
 }
 

@@ -12,12 +12,18 @@ namespace {
 /// A power of two; at most half of the slots are taken.
 constexpr std::size_t first_slot_count = 64;
 
-/// Orders the edges between the same points next to each other.
-bool is_lower_edge(const directed_edge& a, const directed_edge& b) {
-    const auto key = [](const directed_edge& e) {
-        return std::make_pair(std::min(e[0], e[1]), std::max(e[0], e[1]));
-    };
-    return key(a) < key(b);
+/// A number for each directed edge, in the order of its lower point, its higher one, and its start:
+/// the lowest bit tells edges of opposite directions apart.
+std::uint64_t code_of(const directed_edge& edge) {
+    const auto low = static_cast<std::uint64_t>(std::min(edge[0], edge[1]));
+    const auto high = static_cast<std::uint64_t>(std::max(edge[0], edge[1]));
+    return (low << 32) | (high << 1) | (edge[0] > edge[1] ? 1u : 0u);
+}
+
+directed_edge edge_of(std::uint64_t code) {
+    const int low = static_cast<int>(code >> 32);
+    const int high = static_cast<int>((code & 0xffffffffu) >> 1);
+    return (code & 1) != 0 ? directed_edge{high, low} : directed_edge{low, high};
 }
 
 } // namespace
@@ -116,18 +122,21 @@ void edge_division::apply(edge_register& edges, face_boundary& face) const {
 }
 
 void cancel_opposites(face_boundary& boundary) {
-    std::sort(boundary.begin(), boundary.end(), [](const directed_edge& a, const directed_edge& b) {
-        return is_lower_edge(a, b) || (!is_lower_edge(b, a) && a < b);
-    });
-    face_boundary kept;
+    std::vector<std::uint64_t> codes;
+    codes.reserve(boundary.size());
     for (const directed_edge& edge : boundary) {
-        if (!kept.empty() && kept.back()[0] == edge[1] && kept.back()[1] == edge[0]) {
-            kept.pop_back();
+        codes.push_back(code_of(edge));
+    }
+    std::sort(codes.begin(), codes.end());
+    boundary.clear();
+    for (const std::uint64_t code : codes) {
+        const directed_edge edge = edge_of(code);
+        if (!boundary.empty() && boundary.back() == directed_edge{edge[1], edge[0]}) {
+            boundary.pop_back();
         } else {
-            kept.push_back(edge);
+            boundary.push_back(edge);
         }
     }
-    boundary = std::move(kept);
 }
 
 } // namespace ox::internal::csg

@@ -28,25 +28,40 @@ progress_report stage_report(const progress_report& report, double from, double 
     return [&report, from, to](double done) { return report(from + (to - from) * done); };
 }
 
-/// Reads the solids among the operands; half-spaces become shells without faces for now. False
-/// where `report` ended the work.
+/// Reads one operand and closes it; a half-space becomes a shell without faces for now. False where
+/// `report` ended the work.
+bool read_operand(const operand& given, int number, float tolerance, const working_grid& grid,
+                  const progress_report& report, shell& made,
+                  std::vector<ox_csg_problem>& problems) {
+    const std::size_t problem_count = problems.size();
+    if (given.is_half_space) {
+        check_half_space(given, number, problems);
+        return report(1.0);
+    }
+    made = read_shell(given, number, tolerance, grid, problems);
+    if (!report(0.3)) {
+        return false;
+    }
+    if (problems.size() == problem_count) {
+        weld(made, grid);
+        if (!report(0.6)) {
+            return false;
+        }
+        close_shell(made, number, grid, problems);
+    }
+    return report(1.0);
+}
+
+/// Reads the solids among the operands. False where `report` ended the work.
 bool read_shells(const std::vector<operand>& operands, float tolerance, const working_grid& grid,
                  const progress_report& report, std::vector<shell>& shells,
                  std::vector<ox_csg_problem>& problems) {
+    const double share = 1.0 / static_cast<double>(operands.size());
+    shells.resize(operands.size());
     for (std::size_t i = 0; i < operands.size(); ++i) {
-        const int number = static_cast<int>(i);
-        shells.emplace_back();
-        const std::size_t problem_count = problems.size();
-        if (operands[i].is_half_space) {
-            check_half_space(operands[i], number, problems);
-        } else {
-            shells.back() = read_shell(operands[i], number, tolerance, grid, problems);
-            if (problems.size() == problem_count) {
-                weld(shells.back(), grid);
-                close_shell(shells.back(), number, grid, problems);
-            }
-        }
-        if (!report(static_cast<double>(i + 1) / static_cast<double>(operands.size()))) {
+        const double done = static_cast<double>(i) * share;
+        if (!read_operand(operands[i], static_cast<int>(i), tolerance, grid,
+                          stage_report(report, done, done + share), shells[i], problems)) {
             return false;
         }
     }

@@ -6,6 +6,7 @@
 
 #include <ox/solid/internal/csg/edge_register.h>
 #include <ox/solid/internal/csg/plane_growth.h>
+#include <ox/solid/internal/csg/sorted_edges.h>
 
 namespace ox::internal::csg {
 
@@ -58,7 +59,8 @@ private:
     exact::progress_poll& poll;
     double common_reach;
     double own_reach;
-    std::vector<piece_edge> edges; // sorted
+    std::vector<piece_edge> edges;        // sorted
+    std::vector<std::size_t> first_edges; // that leave each point
     std::vector<bool> is_grouped;
     std::vector<bool> is_narrow; // pieces whose normal says nothing
     plane_growth growth;
@@ -79,18 +81,19 @@ group_search::group_search(const result_pieces& given, const scene& scene_faces,
         }
         is_narrow.push_back(is_thin(result.pieces[i], common_reach));
     }
-    std::sort(edges.begin(), edges.end());
+    first_edges = sort_by_start(edges, result.points.size(),
+                                [](const piece_edge& sorted) { return sorted.edge[0]; });
 }
 
 /// The pieces not in a group yet with an edge against one of the given piece's.
 void group_search::find_neighbours(int piece, std::vector<int>& found) const {
     poll.step();
     for (const directed_edge& edge : at(piece).boundary) {
-        const directed_edge opposite = {edge[1], edge[0]};
-        auto place = std::lower_bound(edges.begin(), edges.end(), piece_edge{opposite, 0});
-        for (; place != edges.end() && place->edge == opposite; ++place) {
-            if (!is_grouped[static_cast<std::size_t>(place->piece)]) {
-                found.push_back(place->piece);
+        const auto start = static_cast<std::size_t>(edge[1]);
+        for (std::size_t e = first_edges[start]; e < first_edges[start + 1]; ++e) {
+            if (edges[e].edge[1] == edge[0] &&
+                !is_grouped[static_cast<std::size_t>(edges[e].piece)]) {
+                found.push_back(edges[e].piece);
             }
         }
     }

@@ -28,6 +28,7 @@ void triangulate_cluster(const scene& all, const std::vector<int>& members,
         return all.faces[static_cast<std::size_t>(i)];
     };
     std::vector<const face_boundary*> boundaries;
+    boundaries.reserve(members.size());
     for (const int member : members) {
         boundaries.push_back(&face(member).boundary);
     }

@@ -38,6 +38,7 @@ triangle_side make_side(int from, int to, int triangle) {
 
 std::vector<triangle_side> sides_of(const triangle_list& triangles) {
     std::vector<triangle_side> sides;
+    sides.reserve(3 * triangles.size());
     for (std::size_t t = 0; t < triangles.size(); ++t) {
         const std::array<int, 3>& corners = triangles[t];
         for (std::size_t i = 0; i < 3; ++i) {
@@ -61,9 +62,16 @@ index_groups connect(const triangle_list& triangles, const std::vector<triangle_
     return connected;
 }
 
+/// Edges below which a boundary and triangles two fewer than its edges are one part: two parts
+/// have four triangles fewer, and only a hole, which takes three edges more, makes up for that.
+constexpr std::size_t fewest_divided_edges = 9;
+
 /// Divides a group by the triangles that hang together. Where the triangles do not tell (a cone),
 /// it stays as one.
 std::vector<face_part> divide_group(const face_boundary& boundary, triangle_list triangles) {
+    if (boundary.size() < fewest_divided_edges && triangles.size() + 2 == boundary.size()) {
+        return {{boundary, std::move(triangles), 0}};
+    }
     const std::vector<triangle_side> sides = sides_of(triangles);
     index_groups connected = connect(triangles, sides);
     std::vector<int> part_of(triangles.size(), -1);

@@ -44,11 +44,17 @@ private:
 settled_points::settled_points(const arrangement_result& arranged, const scene& faces,
                                const working_grid& grid, exact::progress_poll& steps)
     : numbers(arranged.points.size(), -1), poll(steps), groups(arranged.points.size()) {
+    std::vector<bool> is_used(arranged.points.size(), false);
     for (const std::array<int, 2>& edge : arranged.edges) {
-        used.insert(used.end(), edge.begin(), edge.end());
+        is_used[static_cast<std::size_t>(edge[0])] = true;
+        is_used[static_cast<std::size_t>(edge[1])] = true;
     }
-    std::sort(used.begin(), used.end());
-    used.erase(std::unique(used.begin(), used.end()), used.end());
+    for (std::size_t i = 0; i < is_used.size(); ++i) {
+        if (is_used[i]) {
+            used.push_back(static_cast<int>(i));
+        }
+    }
+    points.reserve(arranged.points.size());
     for (const std::array<double, 3>& point : arranged.points) {
         points.push_back(working_grid::round(point));
     }
@@ -103,6 +109,7 @@ void settled_points::renumber() {
 face_boundary renamed_boundary(const arrangement_result& arranged, const boundary_piece& piece,
                                const std::vector<int>& numbers) {
     face_boundary boundary;
+    boundary.reserve(static_cast<std::size_t>(piece.edge_count));
     for (int e = piece.first_edge; e < piece.first_edge + piece.edge_count; ++e) {
         const std::array<int, 2>& edge = arranged.edges[static_cast<std::size_t>(e)];
         const directed_edge named = {numbers[static_cast<std::size_t>(edge[0])],
@@ -143,22 +150,28 @@ edge_register edges_of(const std::vector<result_piece>& pieces) {
     return edges;
 }
 
-/// Divides the edges of all pieces at the points beside them; false where there are none.
-bool divide_edges(result_pieces& result, double reach, exact::progress_poll& poll) {
-    edge_register edges = edges_of(result.pieces);
-    const auto at = [&result](int i) -> const grid_point& {
-        return result.points[static_cast<std::size_t>(i)];
-    };
+std::vector<grid_box> boxes_of(const edge_register& edges, const std::vector<grid_point>& points,
+                               double reach) {
     std::vector<grid_box> boxes(static_cast<std::size_t>(edges.size()));
     for (int e = 0; e < edges.size(); ++e) {
         grid_box& box = boxes[static_cast<std::size_t>(e)];
-        box.include(at(edges.ends(e)[0]));
-        box.include(at(edges.ends(e)[1]));
+        for (const int end : edges.ends(e)) {
+            box.include(points[static_cast<std::size_t>(end)]);
+        }
         box.grow(reach);
     }
-    const box_tree tree(boxes);
+    return boxes;
+}
+
+/// Finds the points beside edges.
+edge_division find_divisions(const edge_register& edges, const std::vector<grid_point>& points,
+                             double reach, exact::progress_poll& poll) {
+    const auto at = [&points](int i) -> const grid_point& {
+        return points[static_cast<std::size_t>(i)];
+    };
+    const box_tree tree(boxes_of(edges, points, reach));
     edge_division division(edges.size());
-    for (int i = 0; i < static_cast<int>(result.points.size()); ++i) {
+    for (int i = 0; i < static_cast<int>(points.size()); ++i) {
         poll.step();
         grid_box place;
         place.include(at(i));
@@ -170,6 +183,13 @@ bool divide_edges(result_pieces& result, double reach, exact::progress_poll& pol
             }
         });
     }
+    return division;
+}
+
+/// Divides the edges of all pieces at the points beside them; false where there are none.
+bool divide_edges(result_pieces& result, double reach, exact::progress_poll& poll) {
+    edge_register edges = edges_of(result.pieces);
+    edge_division division = find_divisions(edges, result.points, reach, poll);
     if (division.size() == 0) {
         return false;
     }
@@ -191,6 +211,7 @@ result_pieces settle_pieces(const arrangement_result& arranged, const scene& fac
     result_pieces result;
     result.points = std::move(settled.points);
     result.vertices = std::move(settled.vertices);
+    result.pieces.reserve(arranged.pieces.size());
     for (const boundary_piece& given : arranged.pieces) {
         poll.step();
         const face_triangle& triangle = triangles[static_cast<std::size_t>(given.triangle)];

@@ -25,6 +25,7 @@ private:
     bool is_sooner(const directed_edge& arriving, int a, int b) const;
     int turn(const directed_edge& arriving, int to) const;
     double area_of(const point_ring& ring) const;
+    static bool has_repeats(point_ring walked);
     static void cut_at_repeats(const point_ring& walked, std::vector<point_ring>& rings);
 
     planar_point at(int point) const { return view.see(points[static_cast<std::size_t>(point)]); }
@@ -95,7 +96,17 @@ point_ring ring_tracer::walk(std::size_t first) {
     return walked;
 }
 
+/// True if a walk comes to some point twice.
+bool ring_tracer::has_repeats(point_ring walked) {
+    std::sort(walked.begin(), walked.end());
+    return std::adjacent_find(walked.begin(), walked.end()) != walked.end();
+}
+
 void ring_tracer::cut_at_repeats(const point_ring& walked, std::vector<point_ring>& rings) {
+    if (!has_repeats(walked)) {
+        rings.push_back(walked);
+        return;
+    }
     point_ring open;
     std::unordered_map<int, std::size_t> places;
     for (const int point : walked) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <tuple>
+#include <unordered_set>
 
 #include <ox/solid/internal/csg/point_index.h>
 
@@ -36,13 +37,11 @@ std::vector<vertex_match> find_matches(const shell& placed, const point_index& n
 /// The index in the scene of each point of a shell; points without a match are added.
 std::vector<int> place_points(const shell& placed, point_index& near, scene& all) {
     std::vector<int> places(placed.points.size(), -1);
-    std::vector<bool> is_taken(all.points.size(), false);
+    std::unordered_set<int> taken;
     for (const vertex_match& match : find_matches(placed, near)) {
-        const auto target = static_cast<std::size_t>(match.target);
         int& place = places[static_cast<std::size_t>(match.point)];
-        if (place < 0 && !is_taken[target]) {
+        if (place < 0 && taken.insert(match.target).second) {
             place = match.target;
-            is_taken[target] = true;
         }
     }
     for (std::size_t i = 0; i < places.size(); ++i) {
@@ -121,6 +120,11 @@ grid_box box_of_face(const scene& faces, const scene_face& face) {
 bool place_shells(const std::vector<shell>& shells, const working_grid& grid,
                   const progress_report& report, scene& all) {
     point_index near(grid.get_tolerance());
+    std::size_t face_count = 0;
+    for (const shell& placed : shells) {
+        face_count += placed.faces.size();
+    }
+    all.faces.reserve(face_count);
     for (std::size_t operand = 0; operand < shells.size(); ++operand) {
         const shell& placed = shells[operand];
         const std::vector<int> places = place_points(placed, near, all);
@@ -129,6 +133,7 @@ bool place_shells(const std::vector<shell>& shells, const working_grid& grid,
             face.operand = static_cast<int>(operand);
             face.plane = fit_plane(placed.points, given);
             face.unevenness = deviation_from(face.plane, placed.points, given);
+            face.boundary.reserve(given.size());
             for (const directed_edge& edge : given) {
                 face.boundary.push_back({places[static_cast<std::size_t>(edge[0])],
                                          places[static_cast<std::size_t>(edge[1])]});

@@ -1,9 +1,10 @@
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <cstdlib>
 
 #include <ox/internal/vectors.h>
 #include <ox/solid/internal/csg/shell.h>
+#include <ox/solid/internal/stored_contours.h>
 
 namespace ox::internal::csg {
 
@@ -13,40 +14,12 @@ namespace {
 /// half-spaces.
 constexpr double largest_tolerances = 1073741824.0; // 2^30
 
-using ring = std::vector<unsigned int>;
-
-/// The rings of each face, as far as the lists are consistent.
-std::vector<std::vector<ring>> read_rings(const operand& given) {
-    std::vector<std::vector<ring>> faces;
-    const std::int64_t vertex_count = std::max(given.vertices.size(), 0);
-    std::int64_t place = 0;
-    for (const int size : given.contour_sizes) {
-        const std::int64_t length = std::abs(std::int64_t{size});
-        if (place + length > given.contours.size()) {
-            break;
-        }
-        ring read;
-        for (std::int64_t i = 0; i < length; ++i, ++place) {
-            const unsigned int index = given.contours[static_cast<int>(place)];
-            if (index >= vertex_count) {
-                return faces;
-            }
-            read.push_back(index);
-        }
-        if (size > 0 || faces.empty()) {
-            faces.emplace_back();
-        }
-        faces.back().push_back(std::move(read));
-    }
-    return faces;
-}
-
 /// The nearest finite vertex of a ring from place `i` on in steps of `direction`, else the origin.
-ox_3dvector nearest_finite(const operand& given, const ring& vertices, std::size_t i,
-                           std::size_t direction) {
-    for (std::size_t n = 1; n < vertices.size(); ++n) {
-        const std::size_t place = (i + n * direction) % vertices.size();
-        const ox_3dvector& candidate = given.vertices[static_cast<int>(vertices[place])];
+ox_3dvector nearest_finite(const operand& given, const stored_contour& ring, std::int64_t i,
+                           std::int64_t direction) {
+    for (std::int64_t n = 1; n < ring.size; ++n) {
+        const std::int64_t place = (i + n * direction) % ring.size;
+        const ox_3dvector& candidate = given.vertices[static_cast<int>(ring.indices[place])];
         if (is_finite(candidate)) {
             return candidate;
         }
@@ -62,15 +35,15 @@ bool is_too_large(const ox_3dvector& v, float tolerance) {
 }
 
 /// Appends the first problem of a ring's coordinates; true where there is none.
-bool check_ring(const operand& given, const ring& vertices, int number, float tolerance,
+bool check_ring(const operand& given, const stored_contour& ring, int number, float tolerance,
                 std::vector<ox_csg_problem>& problems) {
-    for (std::size_t i = 0; i < vertices.size(); ++i) {
-        const ox_3dvector& v = given.vertices[static_cast<int>(vertices[i])];
+    for (int i = 0; i < ring.size; ++i) {
+        const ox_3dvector& v = given.vertices[static_cast<int>(ring.indices[i])];
         if (!is_finite(v)) {
-            const std::size_t backwards = vertices.size() - 1;
+            const int backwards = ring.size - 1;
             problems.push_back({number, ox_csg_problem::problem_not_finite,
-                                nearest_finite(given, vertices, i, backwards),
-                                nearest_finite(given, vertices, i, 1)});
+                                nearest_finite(given, ring, i, backwards),
+                                nearest_finite(given, ring, i, 1)});
             return false;
         }
         if (is_too_large(v, tolerance)) {
@@ -82,16 +55,15 @@ bool check_ring(const operand& given, const ring& vertices, int number, float to
 }
 
 /// Appends a ring with points of its own to a face.
-void append_ring(const operand& given, const ring& vertices, const working_grid& grid, shell& read,
-                 face_boundary& face) {
+void append_ring(const operand& given, const stored_contour& ring, const working_grid& grid,
+                 shell& read, face_boundary& face) {
     const int base = static_cast<int>(read.points.size());
-    const int count = static_cast<int>(vertices.size());
-    for (int i = 0; i < count; ++i) {
-        const ox_3dvector& v =
-            given.vertices[static_cast<int>(vertices[static_cast<std::size_t>(i)])];
+    face.reserve(face.size() + static_cast<std::size_t>(ring.size));
+    for (int i = 0; i < ring.size; ++i) {
+        const ox_3dvector& v = given.vertices[static_cast<int>(ring.indices[i])];
         read.points.push_back(grid.to_grid(v));
         read.vertices.push_back(v);
-        face.push_back({base + i, base + (i + 1) % count});
+        face.push_back({base + i, base + (i + 1) % ring.size});
     }
 }
 
@@ -100,15 +72,18 @@ void append_ring(const operand& given, const ring& vertices, const working_grid&
 shell read_shell(const operand& given, int number, float tolerance, const working_grid& grid,
                  std::vector<ox_csg_problem>& problems) {
     shell read;
-    for (const std::vector<ring>& rings : read_rings(given)) {
-        face_boundary face;
-        for (const ring& vertices : rings) {
-            if (check_ring(given, vertices, number, tolerance, problems)) {
-                append_ring(given, vertices, grid, read, face);
-            }
-        }
-        read.faces.push_back(std::move(face));
-    }
+    const auto index_count = static_cast<std::size_t>(std::max(given.contours.size(), 0));
+    read.points.reserve(index_count);
+    read.vertices.reserve(index_count);
+    visit_contours(given.contours, given.contour_sizes, given.vertices.size(),
+                   [&](const stored_contour& ring) {
+                       if (ring.opens_face) {
+                           read.faces.emplace_back();
+                       }
+                       if (check_ring(given, ring, number, tolerance, problems)) {
+                           append_ring(given, ring, grid, read, read.faces.back());
+                       }
+                   });
     return read;
 }
 

@@ -3,6 +3,7 @@
 
 #include <ox/solid/internal/csg/face_groups.h>
 #include <ox/solid/internal/csg/segment_distance.h>
+#include <ox/solid/internal/csg/sorted_edges.h>
 
 // A point that only two edges meet, whatever faces they belong to, may be left out without any face
 // losing its neighbour: all faces there run through it from the one edge to the other. Such points
@@ -51,7 +52,7 @@ path_straightener::path_straightener(const std::vector<face_group>& groups,
             edges.push_back({edge[1], edge[0]});
         }
     }
-    std::sort(edges.begin(), edges.end());
+    sort_by_start(edges, points.size(), [](const directed_edge& edge) { return edge[0]; });
     edges.erase(std::unique(edges.begin(), edges.end()), edges.end());
     for (std::size_t e = edges.size(); e-- > 0;) {
         const auto from = static_cast<std::size_t>(edges[e][0]);
@@ -127,6 +128,7 @@ void path_straightener::simplify(const std::vector<int>& path) {
 
 void path_straightener::apply(face_boundary& boundary) const {
     face_boundary kept;
+    kept.reserve(boundary.size());
     for (const directed_edge& edge : boundary) {
         poll.step();
         if (is_left_out[static_cast<std::size_t>(edge[0])]) {

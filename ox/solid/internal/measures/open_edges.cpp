@@ -11,8 +11,8 @@
 #include <ox/internal/vectors.h>
 #include <ox/internal/wide_vector.h>
 #include <ox/solid/internal/csg/box_tree.h>
-#include <ox/solid/internal/measures/stored_contours.h>
 #include <ox/solid/internal/measures/welded_points.h>
+#include <ox/solid/internal/stored_contours.h>
 
 namespace ox::internal {
 
@@ -38,6 +38,9 @@ edge_balance make_balance(int from, int to, int count) {
 
 void append_edges(const stored_contour& contour, const std::vector<int>& welded,
                   edge_balances& edges) {
+    if (contour.size == 0) {
+        return;
+    }
     int from = welded[contour.indices[contour.size - 1]];
     for (int i = 0; i < contour.size; ++i) {
         const int to = welded[contour.indices[i]];

@@ -5,7 +5,7 @@
 
 namespace ox::internal::csg::exact {
 
-/// Thrown where a report ended the work; never leaves the arrangement.
+/// Thrown where a report ended the work; never leaves the stage of the work that reports.
 struct work_ended {};
 
 /// Reports progress every few thousand steps of the work.

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ox/solid/internal/csg/exact/box_pairs.h>
+#include <ox/solid/internal/csg/exact/facets.h>
 #include <ox/solid/internal/csg/overlay.h>
 #include <ox/solid/internal/csg/shell.h>
 #include <ox/solid/internal/csg/slicing.h>
@@ -37,8 +39,8 @@ struct work {
     std::size_t pieces;
 };
 
-/// Counts the work of a body minus tools.
-work count_work(const ox_solid& body, const std::vector<ox_solid>& tools) {
+/// What is arranged for a body minus tools.
+arrangement_input make_input(const ox_solid& body, const std::vector<ox_solid>& tools) {
     arrangement_input input;
     std::vector<operand> operands;
     const auto add = [&](const ox_solid& solid, operation role) {
@@ -71,9 +73,34 @@ work count_work(const ox_solid& body, const std::vector<ox_solid>& tools) {
         input.triangles.push_back(
             {triangle.vertices, faces.faces[static_cast<std::size_t>(triangle.face)].operand});
     }
+    return input;
+}
+
+work count_work(const ox_solid& body, const std::vector<ox_solid>& tools) {
+    const arrangement_input input = make_input(body, tools);
     arrangement_result arranged;
     EXPECT_TRUE(arrange(input, keep_going, arranged));
-    return {triangles.size(), arranged.pieces.size()};
+    return {input.triangles.size(), arranged.pieces.size()};
+}
+
+/// The pairs of triangles whose boxes overlap: each of them is looked at.
+std::size_t count_overlapping_boxes(const arrangement_input& input) {
+    const progress_report report = keep_going;
+    exact::progress_poll poll(report);
+    poll.begin(0.0);
+    const exact::facet_complex complex(input, poll);
+    std::vector<exact::bounds> boxes;
+    for (const exact::facet& facet : complex.facets) {
+        boxes.push_back(exact::empty_bounds());
+        for (const int vertex : facet.vertices) {
+            const grid_point& p = input.points[static_cast<std::size_t>(vertex)];
+            complex.frame.enlarge(boxes.back(), {static_cast<double>(p.x), static_cast<double>(p.y),
+                                                 static_cast<double>(p.z)});
+        }
+    }
+    std::size_t count = 0;
+    exact::visit_overlapping_pairs(boxes, poll, [&count](int, int) { ++count; });
+    return count;
 }
 
 /// Openings of a wall along the x axis of a frame, from a sill to a lintel and between two depths.
@@ -134,18 +161,31 @@ TEST(CsgGrowth, RecessesInTheFrontOfAWallCostTheSameEachHoweverManyThereAre) {
     expect_linear([](int count) { return cut_wall(askew(), count, recessed_windows); });
 }
 
-TEST(CsgGrowth, PrismsThatCrossCostTheSameForEachSide) {
+/// Two prisms whose axes cross at a right angle.
+std::vector<ox_solid> crossing_prisms(int sides) {
     const frame lying = {ox_3dvector(0.0f, 0.6f, 0.8f), ox_3dvector(0.0f, -0.8f, 0.6f),
                          ox_3dvector(1.0f, 0.0f, 0.0f)};
-    const auto cross = [&lying](int sides) {
-        return count_work(
-            csg_test::column(frame(), ox_3dvector(), sides, 2.0, 8.0),
-            {csg_test::column(lying, ox_3dvector(0.0f, 0.13f, 0.29f), sides, 1.0, 8.0)});
+    return {csg_test::column(frame(), ox_3dvector(), sides, 2.0, 8.0),
+            csg_test::column(lying, ox_3dvector(0.0f, 0.13f, 0.29f), sides, 1.0, 8.0)};
+}
+
+TEST(CsgGrowth, PrismsThatCrossCostTheSameForEachSide) {
+    const auto cross = [](int sides) {
+        const std::vector<ox_solid> prisms = crossing_prisms(sides);
+        return count_work(prisms[0], {prisms[1]});
     };
     const work few = cross(100);
     const work many = cross(800);
     EXPECT_LT(many.triangles, 9u * few.triangles);
     EXPECT_LT(many.pieces, 9u * few.pieces);
+}
+
+TEST(CsgGrowth, BoxesAlongTheAxesOfPrismsOverlapAsOftenForEachSide) {
+    const auto count = [](int sides) {
+        const std::vector<ox_solid> prisms = crossing_prisms(sides);
+        return count_overlapping_boxes(make_input(prisms[0], {prisms[1]}));
+    };
+    EXPECT_LT(count(800), 12u * count(100));
 }
 
 TEST(CsgGrowth, APlaneIsSlicedWhereItIsLongAndHasManyPoints) {

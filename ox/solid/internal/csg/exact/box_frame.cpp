@@ -44,14 +44,17 @@ direction heaviest(const std::vector<plane>& planes, Weight weight_of) {
 
 } // namespace
 
-box_frame::box_frame(const std::vector<plane>& planes, const std::vector<grid_point>& points)
-    : axes(coordinate_axes) {
+box_frame::box_frame(const std::vector<grid_point>& points) : axes(coordinate_axes) {
     for (const grid_point& point : points) {
         margin = std::max({margin, std::fabs(static_cast<double>(point.x)),
                            std::fabs(static_cast<double>(point.y)),
                            std::fabs(static_cast<double>(point.z))});
     }
     margin *= relative_error;
+}
+
+box_frame::box_frame(const std::vector<plane>& planes, const std::vector<grid_point>& points)
+    : box_frame(points) {
     const direction largest = heaviest(planes, [](const direction& n) { return dot(n, n); });
     const direction standing = heaviest(planes, [&](const direction& n) {
         const direction across = cross(n, largest);

@@ -14,6 +14,9 @@ namespace ox::internal::csg::exact {
 /// along them. Boxes are a little larger than needed, so that rounding loses no contact.
 class box_frame {
 public:
+    /// The frame along the coordinates, for facets with the given points.
+    explicit box_frame(const std::vector<grid_point>& points);
+
     /// The frame for facets with the given planes and points.
     box_frame(const std::vector<plane>& planes, const std::vector<grid_point>& points);
 

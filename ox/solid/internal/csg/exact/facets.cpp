@@ -4,9 +4,41 @@
 
 namespace ox::internal::csg::exact {
 
+namespace {
+
+/// The part of the area of boxes along a building below which boxes along the coordinates are the
+/// better ones: round shapes have no directions, and what runs along the coordinates has slim boxes
+/// there.
+constexpr double plain_share = 0.3;
+
+} // namespace
+
 facet_complex::facet_complex(const arrangement_input& input, progress_poll& poll)
     : grid(input.points), points(input.points), facets(read_facets(input, poll)),
-      frame(points.planes, grid) {}
+      frame(points.planes, grid) {
+    const box_frame plain(grid);
+    if (size_of_boxes(plain) < plain_share * size_of_boxes(frame)) {
+        frame = plain;
+    }
+}
+
+/// The area of the boxes around all facets in a frame: the larger, the more of them overlap.
+double facet_complex::size_of_boxes(const box_frame& around) const {
+    double sum = 0.0;
+    for (const facet& f : facets) {
+        bounds box = empty_bounds();
+        for (const int vertex : f.vertices) {
+            const grid_point& p = item(grid, vertex);
+            around.enlarge(box, {static_cast<double>(p.x), static_cast<double>(p.y),
+                                 static_cast<double>(p.z)});
+        }
+        const double x = box.high[0] - box.low[0];
+        const double y = box.high[1] - box.low[1];
+        const double z = box.high[2] - box.low[2];
+        sum += x * y + y * z + z * x;
+    }
+    return sum;
+}
 
 /// Reads the triangles that have an area, and adds their planes and sides.
 std::vector<facet> facet_complex::read_facets(const arrangement_input& input, progress_poll& poll) {

@@ -80,6 +80,7 @@ struct facet_complex {
 private:
     std::vector<facet> read_facets(const arrangement_input& input, progress_poll& poll);
     int add_side(int from, int to);
+    double size_of_boxes(const box_frame& around) const;
 };
 
 /// True if the edge runs from the facet's vertex `side` to the next one upwards, from low to high.

@@ -29,16 +29,21 @@ ox::ox_solid wall_solid(const wall& w, double floor) {
     return solid;
 }
 
-/// What an opening takes out of its wall: a box that sticks out on both sides, and a door's also
-/// below the floor.
+/// What an opening takes out of its wall: its outline, swept through the wall so that it sticks out
+/// on both sides, and a door's also below the floor.
 ox::ox_solid cutter_solid(const opening& o, const wall& w, double floor) {
-    const double below = o.sill == 0 ? cutter_reach : 0;
-    const double bottom = floor + o.sill - below;
-    const plan_contour base = footprint(o, w);
-    const ox::ox_3dvector origin = at_height(base[0], bottom);
+    const wall_frame frame = frame_of(w);
+    const double reach = w.thickness / 2 + cutter_reach;
+    const plan_point start = moved(moved(w.from, frame.along, o.distance), frame.across, -reach);
+    ox::ox_list<ox::ox_3dvector> outline;
+    for (const plan_point& p : elevation(o, o.sill == 0 ? -cutter_reach : 0)) {
+        outline.push_right(at_height(moved(start, frame.along, p.x), floor + o.sill + p.y));
+    }
+    const ox::ox_3dvector across = at_height(frame.across, 0);
+    ox::ox_polygon base(at_height(start, floor), across);
+    base.add_contour(outline);
     ox::ox_solid solid;
-    solid.brick(origin, at_height(base[1], bottom) - origin, at_height(base[3], bottom) - origin,
-                at_height({}, o.height + below));
+    solid.extrusion(base, across * static_cast<float>(2 * reach));
     return solid;
 }
 

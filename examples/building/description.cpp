@@ -97,6 +97,18 @@ void parser::read_wall(line_reader& line) {
     result.walls.push_back(w);
 }
 
+opening_shape read_shape(line_reader& line) {
+    line.label("shape");
+    const std::string shape = line.word("shape of an opening");
+    if (shape == "arch") {
+        return opening_shape::arch;
+    }
+    if (shape == "round") {
+        return opening_shape::round;
+    }
+    line.fail("unknown shape " + quoted(shape));
+}
+
 void parser::read_opening(line_reader& line) {
     opening o;
     o.line = line.get_line();
@@ -107,6 +119,9 @@ void parser::read_opening(line_reader& line) {
     o.sill = line.labelled_number("sill");
     o.width = line.labelled_size("width");
     o.height = line.labelled_size("height");
+    if (!line.at_end()) {
+        o.shape = read_shape(line);
+    }
     result.openings.push_back(o);
 }
 

@@ -30,8 +30,14 @@ struct wall {
     int line = 0;
 };
 
-/// A rectangular hole through a wall. `distance` runs along the axis from the wall's `from`, and
-/// `sill` up from the floor: 0 makes a door.
+enum class opening_shape {
+    rectangle,
+    arch, ///< upright sides under half an ellipse, whose rise is half its width where it fits
+    round ///< an ellipse
+};
+
+/// A hole through a wall. `distance` runs along the axis from the wall's `from`, and `sill` up from
+/// the floor: 0 makes a door. `width` and `height` are those of the rectangle around its shape.
 struct opening {
     std::string name;
     std::size_t wall = 0;
@@ -39,6 +45,7 @@ struct opening {
     double sill = 0;
     double width = 0;
     double height = 0;
+    opening_shape shape = opening_shape::rectangle;
     int line = 0;
 };
 

@@ -1,5 +1,6 @@
 #include <examples/building/layout.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace building {
@@ -12,6 +13,25 @@ plan_contour rectangle(const wall_frame& frame, const plan_point& start, double 
     const plan_point end = moved(start, frame.along, length);
     return {moved(start, frame.across, -half_width), moved(end, frame.across, -half_width),
             moved(end, frame.across, half_width), moved(start, frame.across, half_width)};
+}
+
+constexpr double half_turn = 3.14159265358979323846;
+
+/// Straight pieces of half an ellipse.
+constexpr int pieces_of_half_turn = 16;
+
+/// Points of an ellipse with upright axes, counter-clockwise from its right end through `angle`,
+/// without the first one again where that is a whole turn.
+plan_contour arc(const plan_point& centre, double half_width, double half_height, double angle) {
+    const int pieces = static_cast<int>(std::lround(pieces_of_half_turn * angle / half_turn));
+    const int count = angle > half_turn ? pieces : pieces + 1;
+    plan_contour points;
+    for (int i = 0; i < count; ++i) {
+        const double turned = angle * i / pieces;
+        points.push_back(
+            {centre.x + half_width * std::cos(turned), centre.y + half_height * std::sin(turned)});
+    }
+    return points;
 }
 
 } // namespace
@@ -40,6 +60,22 @@ plan_contour footprint(const opening& o, const wall& w) {
     const wall_frame frame = frame_of(w);
     const plan_point start = moved(w.from, frame.along, o.distance);
     return rectangle(frame, start, o.width, w.thickness / 2 + cutter_reach);
+}
+
+plan_contour elevation(const opening& o, double foot) {
+    const double half_width = o.width / 2;
+    if (o.shape == opening_shape::round) {
+        return arc({half_width, o.height / 2}, half_width, o.height / 2, 2 * half_turn);
+    }
+    plan_contour outline = {{0, foot}, {o.width, foot}};
+    if (o.shape == opening_shape::rectangle) {
+        outline.insert(outline.end(), {{o.width, o.height}, {0, o.height}});
+        return outline;
+    }
+    const double rise = std::min(half_width, o.height / 2);
+    const plan_contour top = arc({half_width, o.height - rise}, half_width, rise, half_turn);
+    outline.insert(outline.end(), top.begin(), top.end());
+    return outline;
 }
 
 height_plane upper_side(const slope& s) {

@@ -41,6 +41,10 @@ plan_contour footprint(const wall& w);
 /// The rectangle in the plan of the solid that cuts `o` out of its wall `w`, counter-clockwise.
 plan_contour footprint(const opening& o, const wall& w);
 
+/// The outline of `o` as seen from the right of its wall, counter-clockwise: x along the wall, y up
+/// from the sill. Upright sides begin at the height `foot`. Curves are made of straight pieces.
+plan_contour elevation(const opening& o, double foot);
+
 /// The upper side of a slope.
 height_plane upper_side(const slope& s);
 

@@ -97,7 +97,7 @@ double walls_volume(const description& d, std::size_t storey) {
     for (const opening& o : d.openings) {
         const wall& w = d.walls[o.wall];
         if (w.storey == storey) {
-            sum -= o.width * o.height * w.thickness;
+            sum -= signed_area(elevation(o, 0)) * w.thickness;
         }
     }
     return sum;

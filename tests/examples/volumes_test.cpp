@@ -62,6 +62,28 @@ TEST(BuildingVolumes, OpeningIsCutThroughTheThickness) {
     EXPECT_NEAR(walls_volume(d, 0), 4 * 0.2 * 2 - 1.5 * 0.8 * 0.2, rounding);
 }
 
+/// What an opening of one metre by two takes out of a wall one metre thick.
+double volume_taken_by(opening_shape shape) {
+    description d = one_storey();
+    d.walls.push_back(make_wall({0, 0}, {4, 0}, 3));
+    d.walls.back().thickness = 1;
+    const double whole = walls_volume(d, 0);
+    opening o;
+    o.distance = 1;
+    o.width = 1;
+    o.height = 2;
+    o.shape = shape;
+    d.openings.push_back(o);
+    return whole - walls_volume(d, 0);
+}
+
+TEST(BuildingVolumes, ArchesAndRoundOpeningsTakeLittleLessThanTheirCurves) {
+    constexpr double pi = 3.14159265358979323846;
+    constexpr double share = 0.994; // of the area of an ellipse, in 32 straight pieces
+    EXPECT_NEAR(volume_taken_by(opening_shape::arch), 1.5 + share * pi / 8, 0.001);
+    EXPECT_NEAR(volume_taken_by(opening_shape::round), share * pi / 2, 0.001);
+}
+
 TEST(BuildingVolumes, GableWallEndsAtTheUndersideOfTheRoof) {
     description d = one_storey();
     d.walls.push_back(make_wall({0, 0}, {0, 8}, 10));

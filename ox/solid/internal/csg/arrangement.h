@@ -2,6 +2,7 @@
 #define OX_SOLID_INTERNAL_CSG_ARRANGEMENT_H
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <vector>
@@ -15,6 +16,11 @@ struct grid_point {
     std::int64_t y;
     std::int64_t z;
 };
+
+/// The coordinate of a grid point along an axis.
+inline std::int64_t coordinate(const grid_point& point, std::size_t axis) {
+    return axis == 0 ? point.x : (axis == 1 ? point.y : point.z);
+}
 
 /// A triangle of the boundary of an operand: indices into the points, counter-clockwise seen from
 /// outside. One without area is allowed.

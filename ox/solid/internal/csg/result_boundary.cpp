@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <utility>
 
+#include <ox/internal/disjoint_sets.h>
 #include <ox/solid/internal/csg/bounded_triangulation.h>
 #include <ox/solid/internal/csg/edge_register.h>
 #include <ox/solid/internal/csg/face_groups.h>
-#include <ox/solid/internal/csg/index_groups.h>
 #include <ox/solid/internal/csg/rings.h>
 
 // Every step keeps the chain of directed edges closed: points that become one, edges that are
@@ -52,8 +52,8 @@ std::vector<triangle_side> sides_of(const triangle_list& triangles) {
 /// For each triangle the first one that it hangs together with over sides. All triangles of a side
 /// belong together, also where a crumpled face has more than two: so each part is bounded by closed
 /// rings, because the other parts have none of its sides.
-index_groups connect(const triangle_list& triangles, const std::vector<triangle_side>& sides) {
-    index_groups connected(triangles.size());
+disjoint_sets connect(const triangle_list& triangles, const std::vector<triangle_side>& sides) {
+    disjoint_sets connected(static_cast<int>(triangles.size()));
     for (std::size_t i = 1; i < sides.size(); ++i) {
         if (sides[i].ends == sides[i - 1].ends) {
             connected.join(sides[i].triangle, sides[i - 1].triangle);
@@ -73,7 +73,7 @@ std::vector<face_part> divide_group(const face_boundary& boundary, triangle_list
         return {{boundary, std::move(triangles), 0}};
     }
     const std::vector<triangle_side> sides = sides_of(triangles);
-    index_groups connected = connect(triangles, sides);
+    disjoint_sets connected = connect(triangles, sides);
     std::vector<int> part_of(triangles.size(), -1);
     std::vector<face_part> parts;
     for (std::size_t t = 0; t < triangles.size(); ++t) {

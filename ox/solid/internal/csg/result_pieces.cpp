@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <ox/internal/disjoint_sets.h>
 #include <ox/solid/internal/csg/edge_register.h>
-#include <ox/solid/internal/csg/index_groups.h>
 #include <ox/solid/internal/csg/point_index.h>
 #include <ox/solid/internal/csg/segment_distance.h>
 
@@ -38,12 +38,13 @@ private:
 
     exact::progress_poll& poll;
     std::vector<int> used;
-    index_groups groups;
+    disjoint_sets groups;
 };
 
 settled_points::settled_points(const arrangement_result& arranged, const scene& faces,
                                const working_grid& grid, exact::progress_poll& steps)
-    : numbers(arranged.points.size(), -1), poll(steps), groups(arranged.points.size()) {
+    : numbers(arranged.points.size(), -1), poll(steps),
+      groups(static_cast<int>(arranged.points.size())) {
     std::vector<bool> is_used(arranged.points.size(), false);
     for (const std::array<int, 2>& edge : arranged.edges) {
         is_used[static_cast<std::size_t>(edge[0])] = true;

@@ -1,6 +1,7 @@
 #include <algorithm>
+#include <numeric>
 
-#include <ox/solid/internal/csg/index_groups.h>
+#include <ox/internal/disjoint_sets.h>
 #include <ox/solid/internal/csg/point_index.h>
 #include <ox/solid/internal/csg/shell.h>
 
@@ -16,7 +17,7 @@ bool is_lower(const grid_point& a, const grid_point& b) {
 }
 
 /// Puts equal points together; gives the lowest index of each place.
-std::vector<int> join_equal(const std::vector<grid_point>& points, index_groups& groups) {
+std::vector<int> join_equal(const std::vector<grid_point>& points, disjoint_sets& groups) {
     std::vector<int> order(points.size());
     std::iota(order.begin(), order.end(), 0);
     const auto at = [&points](int i) -> const grid_point& {
@@ -38,7 +39,7 @@ std::vector<int> join_equal(const std::vector<grid_point>& points, index_groups&
 }
 
 void join_near(const std::vector<grid_point>& points, const std::vector<int>& places,
-               double tolerance, index_groups& groups) {
+               double tolerance, disjoint_sets& groups) {
     point_index near(tolerance);
     for (const int index : places) {
         const grid_point& point = points[static_cast<std::size_t>(index)];
@@ -48,7 +49,7 @@ void join_near(const std::vector<grid_point>& points, const std::vector<int>& pl
 }
 
 /// Keeps one point of each group, in the order of the indices.
-void keep_one_of_each(shell& welded, index_groups& groups) {
+void keep_one_of_each(shell& welded, disjoint_sets& groups) {
     std::vector<int> renumbered(welded.points.size(), -1);
     std::size_t kept = 0;
     for (std::size_t i = 0; i < welded.points.size(); ++i) {
@@ -77,7 +78,7 @@ void keep_one_of_each(shell& welded, index_groups& groups) {
 } // namespace
 
 void weld(shell& welded, const working_grid& grid) {
-    index_groups groups(welded.points.size());
+    disjoint_sets groups(static_cast<int>(welded.points.size()));
     const std::vector<int> places = join_equal(welded.points, groups);
     if (grid.get_tolerance() > 0.0) {
         join_near(welded.points, places, grid.get_tolerance(), groups);

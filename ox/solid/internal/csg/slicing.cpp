@@ -35,10 +35,6 @@ struct ruler {
     std::int64_t spacing = 0; ///< steps, a power of two; 0 for none
 };
 
-std::int64_t coordinate(const grid_point& p, std::size_t axis) {
-    return axis == 0 ? p.x : (axis == 1 ? p.y : p.z);
-}
-
 /// The faces of one plane.
 struct plane_members {
     std::vector<const scene_face*> faces;

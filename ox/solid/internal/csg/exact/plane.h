@@ -26,11 +26,6 @@ struct plane {
     double near_offset;
 };
 
-/// The coordinate of a grid point along an axis.
-inline std::int64_t coordinate(const grid_point& point, int axis) {
-    return axis == 0 ? point.x : (axis == 1 ? point.y : point.z);
-}
-
 /// The plane of three points, which are counter-clockwise seen from its positive side. Its normal
 /// is zero where they lie in a line.
 plane plane_through(const grid_point& a, const grid_point& b, const grid_point& c);

@@ -36,7 +36,8 @@ std::uint64_t mixed(std::uint64_t word) {
 wide<2> height(const grid_point& point, const plane& p) {
     wide<2> sum = -p.offset;
     for (int axis = 0; axis < 3; ++axis) {
-        sum += resized<2>(scaled(item(p.normal, axis), coordinate(point, axis)));
+        sum += resized<2>(
+            scaled(item(p.normal, axis), coordinate(point, static_cast<std::size_t>(axis))));
     }
     return sum;
 }

@@ -35,9 +35,8 @@ std::uint64_t mixed(std::uint64_t word) {
 /// The offset of a point from a plane along its normal, times the normal's length.
 wide<2> height(const grid_point& point, const plane& p) {
     wide<2> sum = -p.offset;
-    for (int axis = 0; axis < 3; ++axis) {
-        sum += resized<2>(
-            scaled(item(p.normal, axis), coordinate(point, static_cast<std::size_t>(axis))));
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        sum += resized<2>(scaled(p.normal[axis], coordinate(point, axis)));
     }
     return sum;
 }
@@ -194,8 +193,8 @@ homogeneous_point point_table::line_crossing(const crossing& made_from) const {
     const wide<2> h = height(a, p);
     const wide<2> k = height(b, p);
     homogeneous_point point = {{}, resized<4>(k - h)};
-    for (int axis = 0; axis < 3; ++axis) {
-        item(point.numerator, axis) =
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        point.numerator[axis] =
             resized<5>(scaled(k, coordinate(a, axis)) - scaled(h, coordinate(b, axis)));
     }
     return point;

@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <tests/polygon/grid_regions.h>
+#include <tests/support/all_cases.h>
 #include <tests/support/dump.h>
 #include <tests/support/seed.h>
 
@@ -127,7 +128,7 @@ double expect_laws(combined_pair& pair) {
 TEST(OxPolygonLaws, AreasOfRandomPairsAddUpWithinTheRoundingOfTheirCrossings) {
     const std::uint64_t seed = support::seed(90);
     generator random(seed);
-    const int pairs = support::checks_everything() ? 1000000 : 20000;
+    const int pairs = support::all_or(1000000, 20000);
     double worst = 0.0;
     for (int i = 0; i < pairs && !HasFailure(); ++i) {
         combined_pair pair(random);

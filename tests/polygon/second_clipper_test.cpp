@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include <tests/polygon/grid_regions.h>
+#include <tests/support/all_cases.h>
 #include <tests/support/dump.h>
 #include <tests/support/seed.h>
 
@@ -109,7 +110,7 @@ void expect_area(ox_polygon& result, double judged, const char* name) {
 TEST(OxPolygonJudge, AreasOfRandomPairsAreThoseOfTheSecondClipper) {
     const std::uint64_t seed = support::seed(91);
     generator random(seed);
-    const int pairs = support::checks_everything() ? 100000 : 5000;
+    const int pairs = support::all_or(100000, 5000);
     int judged_pairs = 0;
     int drawn = 0;
     for (; judged_pairs < pairs && drawn < 4 * pairs && !HasFailure(); ++drawn) {

@@ -260,6 +260,15 @@ public:
     /// that runs through a hole gives an empty list. O(n log n).
     ox_list<ox_3dvector> intersect_by_plane(const ox_3dvector& point, const ox_3dvector& normal);
 
+    /// Tells whether the ray from `start` in `direction` (of any length but zero) meets the region,
+    /// from either side, and writes the point and its distance from `start` in lengths of
+    /// `direction`. A start in the plane is met at distance 0; of points on the outline some are
+    /// in, as `contains` says. False, both untouched, for a ray that misses the region, points away
+    /// or is parallel to the plane, and for numbers that are not finite. The plane is met in double
+    /// precision. The cost is that of `contains`.
+    bool intersect_by_ray(const ox_3dvector& start, const ox_3dvector& direction, ox_3dvector& hit,
+                          float& distance);
+
     /// Makes one new polygon per outer boundary, with the holes directly inside it; the caller
     /// deletes them. A hole keeps its parent's index in this polygon. With fewer than two outer
     /// boundaries the list holds this polygon itself, which must not be deleted. O(n).

@@ -106,6 +106,8 @@ public:
 
     /// Exchanges what both hold. O(1).
     ox_polygon& operator=(ox_polygon&& source) noexcept;
+
+    /// Exchanges what both hold. O(1).
     void swap(ox_polygon& other) noexcept;
 
     /// Frees everything the polygon holds.
@@ -113,9 +115,11 @@ public:
 
     // Building
 
-    /// Adds a closed contour (the last vertex is joined to the first); its direction does not
-    /// matter. The contour is merged by the next query, and projected on the plane then. An
-    /// empty list is ignored; see the class for other degenerate contours. O(n).
+    /// Adds a closed contour (the last vertex is joined to the first). The region is the same
+    /// whichever way it runs, but the first contour of a polygon without a plane fixes the normal:
+    /// it points to where that contour is seen to run counter-clockwise. The contour is merged by
+    /// the next query, and projected on the plane then. An empty list is ignored; see the class for
+    /// other degenerate contours. O(n).
     void add_contour(const ox_list<ox_3dvector>& vertices);
 
     /// Removes all contours and forgets the plane. A computed best centre stays in place.
@@ -202,8 +206,8 @@ public:
     /// so a contour vertex may occur several times.
     const ox_list<ox_3dvector>& get_tesselation_vertices();
 
-    /// Three indices into `get_tesselation_vertices()` per triangle; every triangle runs
-    /// counter-clockwise about the normal.
+    /// Three indices into `get_tesselation_vertices()` per triangle; every triangle that has an
+    /// area runs counter-clockwise about the normal.
     const ox_list<unsigned int>& get_tesselation_triangles();
 
     // Booleans and offset, in place

@@ -1,4 +1,4 @@
-#include "allocation_meter.h"
+#include <tests/support/allocation_meter.h>
 
 #include <atomic>
 #include <cstdlib>

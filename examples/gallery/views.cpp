@@ -257,7 +257,7 @@ void draw_survey(const folders& to, const std::string& path) {
 void draw_views(const folders& to, const std::string& house, const std::string& lodge,
                 const std::string& survey) {
     draw_building(house, to.gallery + "/house.png", -32);
-    draw_building(lodge, to.gallery + "/lodge.png", -4);
+    draw_building(lodge, to.gallery + "/lodge_view.png", -4);
     draw_solid_booleans(to);
     draw_wall(to);
     draw_inside_out(to);

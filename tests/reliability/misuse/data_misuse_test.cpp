@@ -21,6 +21,8 @@ TEST_F(Misuse, OfTriangleSets) {
         EXPECT_FALSE(set.read_binary_raw(path));
         EXPECT_FALSE(set.read_binary_stl(path));
         EXPECT_FALSE(set.write_binary_raw(path));
+        EXPECT_FALSE(set.write_binary_stl(path));
+        EXPECT_FALSE(set.write_obj(path));
     }
     for (const unsigned int n : {0u, 1u, 2147483647u, 2147483648u, 4294967295u}) {
         ox::ox_triangle_set set;
@@ -69,6 +71,11 @@ TEST_F(Misuse, OfMeshes) {
         }
     }
     assign_to_itself(mesh);
+    ox::ox_triangle_set set(1, 1);
+    set.get_triangles()[0] = set.get_triangles()[1] = set.get_triangles()[2] = 4294967295u;
+    mesh.add(set);
+    mesh.add(ox::ox_triangle_set());
+    mesh.build_half_edges();
     mesh.set_triangles(ox_list<unsigned int>(-1));
     mesh.build_half_edges();
     EXPECT_EQ(mesh.get_half_edges().size(), 0);
@@ -91,6 +98,7 @@ TEST_F(Misuse, OfLoadSharing) {
         for (const int n : ints) {
             slab.get_weight(n);
         }
+        slab.get_uncarried_weight();
         int width = -1;
         int height = -1;
         slab.get_image_log(width, height);

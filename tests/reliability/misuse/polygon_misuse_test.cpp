@@ -83,6 +83,8 @@ TEST_F(Misuse, OfPolygonsWithThemselves) {
 void place(ox_polygon& polygon, const ox_3dvector& v) {
     polygon.contains(v);
     polygon.intersect_by_plane(v, v);
+    ox_3dvector hit = v;
+    polygon.intersect_by_ray(hit, hit, hit, hit.x);
     const ox_polygon_pieces pieces(polygon, polygon.cut_by_plane(v, v, true));
     ox::ox_box box;
     polygon.may_intersect(box);

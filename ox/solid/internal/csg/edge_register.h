@@ -57,8 +57,11 @@ private:
 };
 
 /// Removes each directed edge together with one of the opposite direction, as often as there are
-/// both. O(n log n).
+/// both. What is left is in the order of its lower points. O(n log n).
 void cancel_opposites(face_boundary& boundary);
+
+/// The same for the many edges between `point_count` points. O(n) while points have few edges.
+void cancel_opposites(face_boundary& boundary, std::size_t point_count);
 
 } // namespace ox::internal::csg
 

@@ -20,6 +20,7 @@ constexpr double done_when_read = 0.05;
 constexpr double done_when_placed = 0.1;
 constexpr double done_when_clustered = 0.15;
 constexpr double done_when_snapped = 0.2;
+constexpr double done_when_sliced = 0.22;
 constexpr double done_when_cut = 0.3;
 constexpr double done_when_arranged = 0.8;
 
@@ -107,11 +108,9 @@ bool combine(const std::vector<operand>& operands, const std::vector<shell>& she
     if (!place_shells(shells, grid, stage_report(report, done_when_read, done_when_placed),
                       faces) ||
         !cluster_planes(faces, grid, stage_report(report, done_when_placed, done_when_clustered)) ||
-        !snap_edges(faces, grid, stage_report(report, done_when_clustered, done_when_snapped))) {
-        return false;
-    }
-    slice_long_planes(faces);
-    if (!triangulate_faces(faces, stage_report(report, done_when_snapped, done_when_cut),
+        !snap_edges(faces, grid, stage_report(report, done_when_clustered, done_when_snapped)) ||
+        !slice_long_planes(faces, stage_report(report, done_when_snapped, done_when_sliced)) ||
+        !triangulate_faces(faces, stage_report(report, done_when_sliced, done_when_cut),
                            triangles)) {
         return false;
     }

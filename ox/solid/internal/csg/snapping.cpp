@@ -85,8 +85,11 @@ public:
 
 private:
     void record_edges(int round);
+    void record_searched_faces(int round);
+    void leave_out_edges_of_apart_faces();
     static void note_face(const scene_face& face, bool is_searched, edge_record& edge);
     void search(int round);
+    std::vector<grid_box> boxes_of_searched(std::vector<int>& searched) const;
     void compare(int e, int f);
     void divide_at_end(int edge, int point, bool& touched);
     void join_passing(int e, int f);
@@ -110,14 +113,11 @@ private:
     std::vector<edge_record> records;
     edge_division division{0};
     point_index near;
+    int indexed = 0; // points that `near` knows
 };
 
 edge_snapper::edge_snapper(scene& all, double reach, const progress_report& progress)
-    : faces(all), tolerance(reach), report(progress), near(reach * crossing_reach) {
-    for (std::size_t i = 0; i < faces.points.size(); ++i) {
-        near.add(faces.points[i], static_cast<int>(i));
-    }
-}
+    : faces(all), tolerance(reach), report(progress), near(reach * crossing_reach) {}
 
 bool edge_snapper::run_round(int round) {
     record_edges(round);
@@ -135,23 +135,64 @@ bool edge_snapper::run_round(int round) {
     return false;
 }
 
-/// Names every edge of every face anew, those of this round with new numbers. At first only edges
-/// of different operands meet, so that those of faces apart from all other operands need no search.
+/// Names the edges anew, those of this round with new numbers. At first only edges of different
+/// operands meet, so that those of faces apart from all other operands need no names, nor a search.
 void edge_snapper::record_edges(int round) {
+    if (round == 1) {
+        for (const scene_face& face : faces.faces) {
+            for (const directed_edge& edge : face.boundary) {
+                if (face.is_apart) {
+                    edges.find_or_add(edge[0], edge[1]);
+                }
+            }
+        }
+    }
     const std::size_t known = static_cast<std::size_t>(edges.size());
-    records.clear();
+    records.assign(known, unnamed_edge);
+    record_searched_faces(round);
+    for (std::size_t number = known; number < records.size(); ++number) {
+        records[number].is_fresh = true;
+    }
+    if (round == 0) {
+        leave_out_edges_of_apart_faces();
+    }
+}
+
+void edge_snapper::record_searched_faces(int round) {
     for (const scene_face& face : faces.faces) {
-        const bool is_searched = round > 0 || !face.is_apart;
+        if (round == 0 && face.is_apart) {
+            continue;
+        }
         for (const directed_edge& edge : face.boundary) {
             const auto number = static_cast<std::size_t>(edges.find_or_add(edge[0], edge[1]));
             if (number >= records.size()) {
                 records.resize(number + 1, unnamed_edge);
             }
-            records[number].is_fresh = number >= known;
-            note_face(face, is_searched, records[number]);
+            note_face(face, true, records[number]);
         }
     }
-    records.resize(static_cast<std::size_t>(edges.size()), unnamed_edge);
+}
+
+/// An edge that a face apart has as well is not searched.
+void edge_snapper::leave_out_edges_of_apart_faces() {
+    std::vector<bool> is_end(faces.points.size(), false);
+    for (int e = 0; e < edges.size(); ++e) {
+        for (const int end : edges.ends(e)) {
+            is_end[static_cast<std::size_t>(end)] = true;
+        }
+    }
+    for (const scene_face& face : faces.faces) {
+        for (const directed_edge& edge : face.boundary) {
+            if (!face.is_apart || !is_end[static_cast<std::size_t>(edge[0])] ||
+                !is_end[static_cast<std::size_t>(edge[1])]) {
+                continue;
+            }
+            const int number = edges.find(edge[0], edge[1]);
+            if (number >= 0) {
+                note_face(face, false, records[static_cast<std::size_t>(number)]);
+            }
+        }
+    }
 }
 
 /// Adds what a face says of an edge.
@@ -186,26 +227,44 @@ int edge_snapper::common_cluster(int e, int f) const {
     return -1;
 }
 
-void edge_snapper::search(int round) {
-    std::vector<grid_box> boxes(records.size());
-    for (std::size_t e = 0; e < records.size(); ++e) {
-        if (records[e].is_named) {
-            boxes[e].include(at(edges.ends(static_cast<int>(e))[0]));
-            boxes[e].include(at(edges.ends(static_cast<int>(e))[1]));
-            boxes[e].grow(tolerance);
+/// The boxes of the edges that may be divided, whose numbers become `searched`.
+std::vector<grid_box> edge_snapper::boxes_of_searched(std::vector<int>& searched) const {
+    std::vector<grid_box> boxes;
+    for (int e = 0; e < static_cast<int>(records.size()); ++e) {
+        if (record(e).is_searched) {
+            searched.push_back(e);
+            boxes.emplace_back();
+            boxes.back().include(at(edges.ends(e)[0]));
+            boxes.back().include(at(edges.ends(e)[1]));
+            boxes.back().grow(tolerance);
         }
     }
+    return boxes;
+}
+
+/// Compares the fresh edges with those near them, in the order of their numbers.
+void edge_snapper::search(int round) {
+    std::vector<int> searched;
+    const std::vector<grid_box> boxes = boxes_of_searched(searched);
     const box_tree tree(boxes);
-    for (int e = 0; e < static_cast<int>(records.size()) && !stopped; ++e) {
-        if (!record(e).is_searched || !record(e).is_fresh) {
+    std::vector<int> met;
+    for (std::size_t i = 0; i < searched.size() && !stopped; ++i) {
+        const int e = searched[i];
+        if (!record(e).is_fresh) {
             continue;
         }
-        tree.visit_meeting(boxes[static_cast<std::size_t>(e)], [&](int f) {
+        met.clear();
+        tree.visit_meeting(boxes[i], [&](int box) {
+            const int f = searched[static_cast<std::size_t>(box)];
             const bool is_own_turn = f != e && (!record(f).is_fresh || e < f);
-            if (is_own_turn && record(f).is_searched && (round > 0 || may_differ(e, f))) {
-                compare(e, f);
+            if (is_own_turn && (round > 0 || may_differ(e, f))) {
+                met.push_back(f);
             }
         });
+        std::sort(met.begin(), met.end());
+        for (const int f : met) {
+            compare(e, f);
+        }
     }
 }
 
@@ -291,11 +350,13 @@ void edge_snapper::join_at(int e, int f, double parameter) {
     const directed_edge first = edges.ends(e);
     const directed_edge second = edges.ends(f);
     const grid_point place = point_between(at(first[0]), at(first[1]), parameter);
+    for (; indexed < static_cast<int>(faces.points.size()); ++indexed) {
+        near.add(at(indexed), indexed);
+    }
     int point = near.find_nearest(place);
     if (point < 0) {
         point = static_cast<int>(faces.points.size());
         faces.points.push_back(place);
-        near.add(place, point);
     }
     if (point != first[0] && point != first[1]) {
         division.add(e, point);
@@ -306,12 +367,12 @@ void edge_snapper::join_at(int e, int f, double parameter) {
 }
 
 void edge_snapper::apply() {
+    const auto is_divided = [this](const directed_edge& edge) {
+        const int number = edges.find(edge[0], edge[1]);
+        return number >= 0 && division.divides(number);
+    };
     for (scene_face& face : faces.faces) {
-        const bool is_divided =
-            std::any_of(face.boundary.begin(), face.boundary.end(), [this](const directed_edge& e) {
-                return division.divides(edges.find_or_add(e[0], e[1]));
-            });
-        if (is_divided) {
+        if (std::any_of(face.boundary.begin(), face.boundary.end(), is_divided)) {
             division.apply(edges, face.boundary);
         }
     }

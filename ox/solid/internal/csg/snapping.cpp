@@ -1,6 +1,7 @@
 #include <ox/solid/internal/csg/snapping.h>
 
 #include <algorithm>
+#include <numeric>
 
 #include <ox/solid/internal/csg/edge_register.h>
 #include <ox/solid/internal/csg/planar_view.h>
@@ -84,12 +85,14 @@ public:
     bool is_stopped() const { return stopped; }
 
 private:
-    void record_edges(int round);
-    void record_searched_faces(int round);
+    std::vector<int> name_edges();
+    void name_edges_of(const scene_face& face);
     void leave_out_edges_of_apart_faces();
+    void name_apart_faces_near(const box_tree& fresh);
     static void note_face(const scene_face& face, bool is_searched, edge_record& edge);
-    void search(int round);
-    std::vector<grid_box> boxes_of_searched(std::vector<int>& searched) const;
+    std::vector<grid_box> boxes_of(const std::vector<int>& chosen) const;
+    grid_box box_of(int edge) const;
+    void search(int round, const std::vector<int>& fresh, const box_tree& tree);
     void compare(int e, int f);
     void divide_at_end(int edge, int point, bool& touched);
     void join_passing(int e, int f);
@@ -120,9 +123,15 @@ edge_snapper::edge_snapper(scene& all, double reach, const progress_report& prog
     : faces(all), tolerance(reach), report(progress), near(reach * crossing_reach) {}
 
 bool edge_snapper::run_round(int round) {
-    record_edges(round);
+    const std::vector<int> fresh = name_edges();
+    const box_tree tree(boxes_of(fresh));
+    if (round == 0) {
+        leave_out_edges_of_apart_faces();
+    } else {
+        name_apart_faces_near(tree);
+    }
     division = edge_division(edges.size());
-    search(round);
+    search(round, fresh, tree);
     division.sort(edges, faces.points);
     if (round == 0) {
         budget = growth_limit * (static_cast<std::size_t>(edges.size()) + division.size());
@@ -135,45 +144,52 @@ bool edge_snapper::run_round(int round) {
     return false;
 }
 
-/// Names the edges anew, those of this round with new numbers. At first only edges of different
-/// operands meet, so that those of faces apart from all other operands need no names, nor a search.
-void edge_snapper::record_edges(int round) {
-    if (round == 1) {
-        for (const scene_face& face : faces.faces) {
-            for (const directed_edge& edge : face.boundary) {
-                if (face.is_apart) {
-                    edges.find_or_add(edge[0], edge[1]);
-                }
-            }
-        }
-    }
-    const std::size_t known = static_cast<std::size_t>(edges.size());
-    records.assign(known, unnamed_edge);
-    record_searched_faces(round);
-    for (std::size_t number = known; number < records.size(); ++number) {
-        records[number].is_fresh = true;
-    }
-    if (round == 0) {
-        leave_out_edges_of_apart_faces();
-    }
-}
-
-void edge_snapper::record_searched_faces(int round) {
+/// Names the edges anew, but for those of faces apart from all other operands; gives those that had
+/// no name before this round.
+std::vector<int> edge_snapper::name_edges() {
+    const int known = edges.size();
+    records.assign(static_cast<std::size_t>(known), unnamed_edge);
     for (const scene_face& face : faces.faces) {
-        if (round == 0 && face.is_apart) {
-            continue;
+        if (!face.is_apart) {
+            name_edges_of(face);
         }
-        for (const directed_edge& edge : face.boundary) {
-            const auto number = static_cast<std::size_t>(edges.find_or_add(edge[0], edge[1]));
-            if (number >= records.size()) {
-                records.resize(number + 1, unnamed_edge);
-            }
-            note_face(face, true, records[number]);
+    }
+    std::vector<int> fresh(static_cast<std::size_t>(edges.size() - known));
+    std::iota(fresh.begin(), fresh.end(), known);
+    for (const int number : fresh) {
+        records[static_cast<std::size_t>(number)].is_fresh = true;
+    }
+    return fresh;
+}
+
+void edge_snapper::name_edges_of(const scene_face& face) {
+    for (const directed_edge& edge : face.boundary) {
+        const auto number = static_cast<std::size_t>(edges.find_or_add(edge[0], edge[1]));
+        if (number >= records.size()) {
+            records.resize(number + 1, unnamed_edge);
         }
+        note_face(face, true, records[number]);
     }
 }
 
-/// An edge that a face apart has as well is not searched.
+std::vector<grid_box> edge_snapper::boxes_of(const std::vector<int>& chosen) const {
+    std::vector<grid_box> boxes;
+    boxes.reserve(chosen.size());
+    for (const int e : chosen) {
+        boxes.push_back(box_of(e));
+    }
+    return boxes;
+}
+
+grid_box edge_snapper::box_of(int edge) const {
+    grid_box box;
+    box.include(at(edges.ends(edge)[0]));
+    box.include(at(edges.ends(edge)[1]));
+    box.grow(tolerance);
+    return box;
+}
+
+/// At first only edges of different operands meet, so that what a face apart has is not searched.
 void edge_snapper::leave_out_edges_of_apart_faces() {
     std::vector<bool> is_end(faces.points.size(), false);
     for (int e = 0; e < edges.size(); ++e) {
@@ -190,6 +206,21 @@ void edge_snapper::leave_out_edges_of_apart_faces() {
             const int number = edges.find(edge[0], edge[1]);
             if (number >= 0) {
                 note_face(face, false, records[static_cast<std::size_t>(number)]);
+            }
+        }
+    }
+}
+
+/// Parts of divided edges may meet the faces apart that lie beside them.
+void edge_snapper::name_apart_faces_near(const box_tree& fresh) {
+    for (const scene_face& face : faces.faces) {
+        if (face.is_apart) {
+            grid_box box = box_of_face(faces, face);
+            box.grow(tolerance);
+            bool is_near = false;
+            fresh.visit_meeting(box, [&is_near](int) { is_near = true; });
+            if (is_near) {
+                name_edges_of(face);
             }
         }
     }
@@ -227,44 +258,24 @@ int edge_snapper::common_cluster(int e, int f) const {
     return -1;
 }
 
-/// The boxes of the edges that may be divided, whose numbers become `searched`.
-std::vector<grid_box> edge_snapper::boxes_of_searched(std::vector<int>& searched) const {
-    std::vector<grid_box> boxes;
-    for (int e = 0; e < static_cast<int>(records.size()); ++e) {
-        if (record(e).is_searched) {
-            searched.push_back(e);
-            boxes.emplace_back();
-            boxes.back().include(at(edges.ends(e)[0]));
-            boxes.back().include(at(edges.ends(e)[1]));
-            boxes.back().grow(tolerance);
-        }
-    }
-    return boxes;
-}
-
-/// Compares the fresh edges with those near them, in the order of their numbers.
-void edge_snapper::search(int round) {
-    std::vector<int> searched;
-    const std::vector<grid_box> boxes = boxes_of_searched(searched);
-    const box_tree tree(boxes);
-    std::vector<int> met;
-    for (std::size_t i = 0; i < searched.size() && !stopped; ++i) {
-        const int e = searched[i];
-        if (!record(e).is_fresh) {
+/// Compares the fresh edges with all those near them, in the order of their numbers.
+void edge_snapper::search(int round, const std::vector<int>& fresh, const box_tree& tree) {
+    std::vector<std::array<int, 2>> pairs;
+    for (int f = 0; f < static_cast<int>(records.size()); ++f) {
+        if (!record(f).is_searched) {
             continue;
         }
-        met.clear();
-        tree.visit_meeting(boxes[i], [&](int box) {
-            const int f = searched[static_cast<std::size_t>(box)];
+        tree.visit_meeting(box_of(f), [&](int place) {
+            const int e = fresh[static_cast<std::size_t>(place)];
             const bool is_own_turn = f != e && (!record(f).is_fresh || e < f);
-            if (is_own_turn && (round > 0 || may_differ(e, f))) {
-                met.push_back(f);
+            if (is_own_turn && record(e).is_searched && (round > 0 || may_differ(e, f))) {
+                pairs.push_back({e, f});
             }
         });
-        std::sort(met.begin(), met.end());
-        for (const int f : met) {
-            compare(e, f);
-        }
+    }
+    std::sort(pairs.begin(), pairs.end());
+    for (std::size_t i = 0; i < pairs.size() && !stopped; ++i) {
+        compare(pairs[i][0], pairs[i][1]);
     }
 }
 
@@ -374,6 +385,7 @@ void edge_snapper::apply() {
     for (scene_face& face : faces.faces) {
         if (std::any_of(face.boundary.begin(), face.boundary.end(), is_divided)) {
             division.apply(edges, face.boundary);
+            face.is_apart = false;
         }
     }
 }

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include <ox/solid/internal/csg/clear_faces.h>
 #include <ox/solid/internal/csg/half_space.h>
 #include <ox/solid/internal/csg/overlay.h>
 #include <ox/solid/internal/csg/result_boundary.h>
@@ -90,9 +91,11 @@ arrangement_input make_input(const std::vector<operand>& operands, const scene& 
                              const std::vector<face_triangle>& triangles) {
     arrangement_input input;
     input.points = faces.points;
-    for (const face_triangle& triangle : triangles) {
-        input.triangles.push_back(
-            {triangle.vertices, faces.faces[static_cast<std::size_t>(triangle.face)].operand});
+    const std::vector<bool> is_clear = find_clear_triangles(faces, triangles);
+    input.triangles.reserve(triangles.size());
+    for (std::size_t t = 0; t < triangles.size(); ++t) {
+        const scene_face& face = faces.faces[static_cast<std::size_t>(triangles[t].face)];
+        input.triangles.push_back({triangles[t].vertices, face.operand, is_clear[t]});
     }
     for (const operand& given : operands) {
         input.operations.push_back(given.role);

@@ -15,18 +15,6 @@ namespace {
 /// Clusters between two reports; one may have all faces.
 constexpr std::size_t report_interval = 16;
 
-/// The corners of a boundary that is one ring of three edges, in its direction; false for others.
-bool read_triangle(const face_boundary& boundary, std::array<int, 3>& corners) {
-    if (boundary.size() != 3) {
-        return false;
-    }
-    const bool is_in_order = boundary[0][1] == boundary[1][0];
-    const directed_edge& second = boundary[is_in_order ? 1 : 2];
-    const directed_edge& third = boundary[is_in_order ? 2 : 1];
-    corners = {boundary[0][0], second[0], third[0]};
-    return boundary[0][1] == second[0] && second[1] == third[0] && third[1] == boundary[0][0];
-}
-
 /// The faces of one plane.
 struct cluster_members {
     const int* first;

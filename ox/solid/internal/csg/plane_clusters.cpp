@@ -3,6 +3,7 @@
 #include <numeric>
 #include <vector>
 
+#include <ox/solid/internal/csg/clear_faces.h>
 #include <ox/solid/internal/csg/plane_growth.h>
 #include <ox/solid/internal/csg/scene.h>
 
@@ -57,6 +58,7 @@ cluster_search::cluster_search(scene& all, double reach)
         at(face).cluster = -1;
         at(face).is_apart = is_apart(face);
     }
+    mark_clear_faces(faces, neighbours);
 }
 
 /// True if no face of another operand has a box that meets the face's.

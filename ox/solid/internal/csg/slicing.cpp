@@ -241,7 +241,9 @@ bool plane_slicer::run_round() {
     division.sort(edges, faces.points);
     for (scene_face& face : faces.faces) {
         poll.step();
+        const std::size_t edge_count = face.boundary.size();
         division.apply(edges, face.boundary);
+        face.is_divided = face.is_divided || face.boundary.size() != edge_count;
     }
     return true;
 }

@@ -386,6 +386,7 @@ void edge_snapper::apply() {
         if (std::any_of(face.boundary.begin(), face.boundary.end(), is_divided)) {
             division.apply(edges, face.boundary);
             face.is_apart = false;
+            face.is_divided = true;
         }
     }
 }

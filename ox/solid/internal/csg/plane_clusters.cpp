@@ -29,6 +29,7 @@ private:
     void find_neighbours(int face, std::vector<int>& found) const override;
     double allowed_deviation(int face, const std::array<double, 3>& normal) const override;
     bool is_reversed(int face, const std::array<double, 3>& normal) const override;
+    bool may_become(const fitted_plane&) const override { return true; }
     void join(int face) override { at(face).cluster = growing; }
 
     void grow_from(int first);

@@ -113,7 +113,8 @@ void plane_growth::gather_boundary(const fitted_plane& plane) {
 /// Takes the plane of the boundary that was gathered where all of it lies in it; true where it did.
 bool plane_growth::fit(double allowed, fitted_plane& plane) const {
     const fitted_plane fitted = fit_corners(plane.normal, points, gathered);
-    if (fitted.area == 0.0 || !lies_within(fitted, points, gathered, allowed)) {
+    if (fitted.area == 0.0 || !lies_within(fitted, points, gathered, allowed) ||
+        !candidates.may_become(fitted)) {
         return false;
     }
     plane = fitted;

@@ -4,13 +4,14 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <string>
 
 #include <ox/core/ox_list.h>
 #include <ox/geometry/ox_3dvector.h>
 
 namespace fuzz {
 
-/// Turns a fuzzer's bytes into numbers and contours; zeros follow the last byte.
+/// Turns a fuzzer's bytes into numbers, texts and contours; zeros follow the last byte.
 class byte_reader {
 public:
     byte_reader(const std::uint8_t* bytes, std::size_t count) : next(bytes), left(count) {}
@@ -25,18 +26,21 @@ public:
         return *next++;
     }
 
+    /// A number from 0 on that is below `end`, which is at most 256.
+    int below(int end) { return byte() % end; }
+
     /// Mostly a small multiple of 1/4, so that points coincide; sometimes any bit pattern.
     float coordinate() {
         const std::uint8_t first = byte();
         if (first != 255) {
             return static_cast<float>(static_cast<int>(first) - 127) * 0.25f;
         }
-        std::uint8_t pattern[sizeof(float)];
-        for (std::uint8_t& part : pattern) {
-            part = byte();
+        std::uint32_t pattern = 0;
+        for (unsigned int i = 0; i < 4; ++i) {
+            pattern |= std::uint32_t{byte()} << (8 * i);
         }
         float value = 0.0f;
-        std::memcpy(&value, pattern, sizeof value);
+        std::memcpy(&value, &pattern, sizeof value);
         return value;
     }
 
@@ -58,6 +62,15 @@ public:
             points.push_right(ox::ox_3dvector(x, y, z));
         }
         return points;
+    }
+
+    /// Up to `longest` bytes, fewer than 256, as a text.
+    std::string text(int longest) {
+        std::string characters;
+        for (int i = below(longest + 1); i > 0; --i) {
+            characters += static_cast<char>(byte());
+        }
+        return characters;
     }
 
 private:

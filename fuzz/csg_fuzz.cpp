@@ -1,9 +1,8 @@
 // Combines solids that the bytes describe: bricks, turned bricks, prisms, damaged primary storages,
 // half-spaces and earlier results. Whatever goes in, a result is closed.
 
-#include <cstdlib>
-
 #include <fuzz/byte_reader.h>
+#include <fuzz/require.h>
 #include <ox/polygon/ox_polygon.h>
 #include <ox/solid/ox_csg.h>
 #include <ox/solid/ox_solid.h>
@@ -124,22 +123,16 @@ void apply_next(byte_reader& bytes, ox_csg& csg, ox_solid& last) {
     }
 }
 
-void require(bool is_true) {
-    if (!is_true) {
-        std::abort();
-    }
-}
-
 /// Every result is closed, and an operand that is used again without complaint.
 void check_result(ox_csg& csg, ox_solid& last) {
-    require(csg.compute() == (csg.get_nb_problems() == 0));
+    fuzz::require(csg.compute() == (csg.get_nb_problems() == 0));
     const ox_solid result = csg.get_solid();
-    require(result.get_open_edges(0.0f).size() == 0);
+    fuzz::require(result.get_open_edges(0.0f).size() == 0);
     int faces = 0;
     for (const int size : result.get_contour_sizes()) {
         faces += size > 0 ? 1 : 0;
     }
-    require(csg.get_origins().size() == faces);
+    fuzz::require(csg.get_origins().size() == faces);
     if (result.get_vertices().size() <= most_vertices) {
         last = result;
     }

@@ -34,9 +34,14 @@ void log_number(const char* format, std::uint64_t number) {
     log_line(format, static_cast<int>(static_cast<std::uint32_t>(number)));
 }
 
+/// Room for `record_count` records, or as many as are decoded at a time.
+std::vector<unsigned char> block_for(std::size_t record_count) {
+    return std::vector<unsigned char>(std::min(record_count, block_records) * record_bytes);
+}
+
 /// Reads `record_count` records into three vertices each; false at the first block cut short.
-bool read_corners(mesh_file& file, std::size_t record_count, ox_3dvector* vertices) {
-    std::vector<unsigned char> block(std::min(record_count, block_records) * record_bytes);
+bool read_corners(mesh_file& file, std::vector<unsigned char>& block, std::size_t record_count,
+                  ox_3dvector* vertices) {
     while (record_count > 0) {
         const std::size_t in_block = std::min(record_count, block_records);
         if (!file.read(block.data(), in_block * record_bytes)) {
@@ -90,8 +95,10 @@ bool ox_triangle_set::read_stl_records(mesh_file& file, unsigned int record_coun
         read_count = std::min<std::uint64_t>(record_count, bytes_held / record_bytes);
         return false;
     }
+    std::vector<unsigned char> block =
+        block_for(record_count); // may fail, while the set is as it was
     allocate_uninitialised(static_cast<unsigned int>(new_nb_vertices), record_count);
-    const bool complete = read_corners(file, record_count, vertices.get());
+    const bool complete = read_corners(file, block, record_count, vertices.get());
     read_count = (bytes_held - file.remaining()) / record_bytes;
     for (unsigned int i = 0; i < nb_vertices; ++i) {
         triangles[i] = i;

@@ -116,6 +116,11 @@ public:
     /// Adds a closed contour (the last vertex is joined to the first); its direction does not
     /// matter. The contour is merged by the next query, and projected on the plane then. An
     /// empty list is ignored; see the class for other degenerate contours. O(n).
+    ///
+    /// A polygon without a plane takes that of its first contour: the cross products of the sides
+    /// at all corners, added up. Reflex corners count against convex ones, so that an outline may
+    /// have no plane of its own and vanish, a star of four tips of 45 degrees for one, and an uneven
+    /// one gets a plane that leans. Make the polygon with its plane where you know it.
     void add_contour(const ox_list<ox_3dvector>& vertices);
 
     /// Removes all contours and forgets the plane. A computed best centre stays in place.

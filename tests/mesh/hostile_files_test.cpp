@@ -4,9 +4,8 @@
 #include <ox/core/ox_log.h>
 #include <ox/mesh/ox_mesh.h>
 #include <ox/mesh/ox_triangle_set.h>
+#include <tests/support/allocation_meter.h>
 #include <tests/support/generator.h>
-
-#include "allocation_meter.h"
 
 namespace {
 

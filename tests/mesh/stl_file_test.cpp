@@ -6,7 +6,7 @@
 #include <ox/mesh/ox_triangle_set.h>
 #include <thread>
 
-#include "allocation_meter.h"
+#include <tests/support/allocation_meter.h>
 
 #ifndef _WIN32
 #include <sys/stat.h>

@@ -5,7 +5,7 @@
 #include <ox/mesh/ox_triangle_set.h>
 #include <type_traits>
 
-#include "allocation_meter.h"
+#include <tests/support/allocation_meter.h>
 
 namespace {
 

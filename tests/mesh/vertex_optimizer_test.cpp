@@ -6,8 +6,8 @@
 #include <new>
 #include <type_traits>
 
-#include "allocation_meter.h"
 #include "mesh_support.h"
+#include <tests/support/allocation_meter.h>
 
 namespace {
 

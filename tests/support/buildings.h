@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <istream>
+#include <limits>
 #include <sstream>
 #include <string>
 #include <utility>
@@ -73,6 +74,46 @@ inline ox::ox_solid flattened_solid(const building& surveyed) {
             polygon.add_contour(ring);
         }
         solid.add_face(polygon);
+    }
+    return solid;
+}
+
+/// The point of the face's rings that is nearest to a vertex of its triangles.
+inline ox::ox_3dvector surveyed_point(const building::face& face, const ox::ox_3dvector& vertex) {
+    ox::ox_3dvector nearest = vertex;
+    float distance = std::numeric_limits<float>::max();
+    for (const building::ring& ring : face) {
+        for (const ox::ox_3dvector& corner : ring) {
+            const float apart = (corner - vertex).size();
+            if (apart < distance) {
+                distance = apart;
+                nearest = corner;
+            }
+        }
+    }
+    return nearest;
+}
+
+/// The building as a solid of triangles between the very points of its rings, each a face.
+inline ox::ox_solid triangulated_solid(const building& surveyed) {
+    ox::ox_solid solid;
+    for (const building::face& face : surveyed.faces) {
+        ox::ox_polygon polygon;
+        for (const building::ring& ring : face) {
+            polygon.add_contour(ring);
+        }
+        const ox::ox_list<ox::ox_3dvector>& vertices = polygon.get_tesselation_vertices();
+        const ox::ox_list<unsigned int>& triangles = polygon.get_tesselation_triangles();
+        for (int t = 0; t + 2 < triangles.size(); t += 3) {
+            building::ring corners;
+            for (int i = 0; i < 3; ++i) {
+                corners.push_right(
+                    surveyed_point(face, vertices[static_cast<int>(triangles[t + i])]));
+            }
+            ox::ox_polygon triangle;
+            triangle.add_contour(corners);
+            solid.add_face(triangle);
+        }
     }
     return solid;
 }

@@ -1,5 +1,6 @@
 #include <tests/support/failing_memory.h>
 
+#include <atomic>
 #include <cstddef>
 #include <cstdlib>
 #include <new>
@@ -18,6 +19,13 @@ bool counting = false;
 bool refused = false;
 bool keeps_failing = false;
 int left = 0;
+std::atomic<long> live_blocks = 0; // threads of a test allocate as well
+
+/// A block that is handed out, or null.
+void* counted(void* block) {
+    live_blocks += block != nullptr ? 1 : 0;
+    return block;
+}
 
 bool refuses_next() {
     if (!counting || (left > 0 && --left > 0) || (refused && !keeps_failing)) {
@@ -38,6 +46,10 @@ void start(int failing, bool for_good) {
     counting = true;
 }
 
+long count_live_blocks() {
+    return live_blocks;
+}
+
 bool stop() {
     counting = false;
     return refused;
@@ -52,17 +64,30 @@ extern "C" {
 void* __libc_malloc(std::size_t);
 void* __libc_calloc(std::size_t, std::size_t);
 void* __libc_realloc(void*, std::size_t);
+void __libc_free(void*);
 
 void* malloc(std::size_t bytes) {
-    return refuses_next() ? nullptr : __libc_malloc(bytes);
+    return refuses_next() ? nullptr : counted(__libc_malloc(bytes));
 }
 
 void* calloc(std::size_t count, std::size_t bytes) {
-    return refuses_next() ? nullptr : __libc_calloc(count, bytes);
+    return refuses_next() ? nullptr : counted(__libc_calloc(count, bytes));
 }
 
 void* realloc(void* block, std::size_t bytes) {
-    return refuses_next() ? nullptr : __libc_realloc(block, bytes);
+    if (refuses_next()) {
+        return nullptr;
+    }
+    void* const moved = __libc_realloc(block, bytes);
+    if (moved != nullptr || bytes == 0) {
+        live_blocks += (moved != nullptr ? 1 : 0) - (block != nullptr ? 1 : 0);
+    }
+    return moved;
+}
+
+void free(void* block) {
+    live_blocks -= block != nullptr ? 1 : 0;
+    __libc_free(block);
 }
 
 } // extern "C"
@@ -74,7 +99,7 @@ void* operator new(std::size_t bytes) {
     if (block == nullptr) {
         throw std::bad_alloc();
     }
-    return block;
+    return counted(block);
 }
 
 void* operator new[](std::size_t bytes) {
@@ -82,7 +107,7 @@ void* operator new[](std::size_t bytes) {
 }
 
 void* operator new(std::size_t bytes, const std::nothrow_t&) noexcept {
-    return refuses_next() ? nullptr : std::malloc(bytes);
+    return refuses_next() ? nullptr : counted(std::malloc(bytes));
 }
 
 void* operator new[](std::size_t bytes, const std::nothrow_t& tag) noexcept {
@@ -90,19 +115,20 @@ void* operator new[](std::size_t bytes, const std::nothrow_t& tag) noexcept {
 }
 
 void operator delete(void* block) noexcept {
+    live_blocks -= block != nullptr ? 1 : 0;
     std::free(block);
 }
 
 void operator delete(void* block, std::size_t) noexcept {
-    std::free(block);
+    operator delete(block);
 }
 
 void operator delete[](void* block) noexcept {
-    std::free(block);
+    operator delete(block);
 }
 
 void operator delete[](void* block, std::size_t) noexcept {
-    std::free(block);
+    operator delete(block);
 }
 
 #endif

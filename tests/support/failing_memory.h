@@ -11,6 +11,10 @@ namespace failing_memory {
 /// `for_good` every one from it on.
 void start(int failing, bool for_good);
 
+/// The blocks that were handed out and not taken back. A block counts wherever it was asked for by
+/// the functions that can fail here.
+long count_live_blocks();
+
 /// Lets no allocation fail any more. True if one was refused since `start`.
 bool stop();
 

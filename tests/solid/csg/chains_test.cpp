@@ -142,7 +142,8 @@ TEST(CsgChains, OneComputeOfAllOperandsGivesWhatAChainGives) {
         EXPECT_EQ(csg.get_origins().size(), support::count_faces(result));
         fewer_face_counts += support::count_faces(result) < model.count_faces() ? 1 : 0;
     }
-    std::cout << fewer_face_counts << " of " << chains << " results have fewer faces than on paper\n";
+    std::cout << fewer_face_counts << " of " << chains
+              << " results have fewer faces than on paper\n";
     EXPECT_LE(fewer_face_counts, chains / 500);
 }
 

@@ -27,8 +27,7 @@ arrangement_input make_input(const laid_scene& laid) {
     input.points = laid.faces.points;
     for (const face_triangle& triangle : laid.triangles) {
         input.triangles.push_back(
-            {triangle.vertices,
-             laid.faces.faces[static_cast<std::size_t>(triangle.face)].operand});
+            {triangle.vertices, laid.faces.faces[static_cast<std::size_t>(triangle.face)].operand});
     }
     return input;
 }
@@ -57,9 +56,8 @@ std::vector<bool> find_touched(const laid_scene& laid) {
         const exact::facet& facet = complex.facets[f];
         is_touched[static_cast<std::size_t>(facet.triangle)] =
             is_facet_touched[f] ||
-            std::any_of(facet.sides.begin(), facet.sides.end(), [&](int side) {
-                return is_side_touched[static_cast<std::size_t>(side)];
-            });
+            std::any_of(facet.sides.begin(), facet.sides.end(),
+                        [&](int side) { return is_side_touched[static_cast<std::size_t>(side)]; });
     }
     return is_touched;
 }
@@ -92,8 +90,8 @@ TEST(CsgClearFaces, AllTrianglesOfALoneSphereAreClear) {
 }
 
 TEST(CsgClearFaces, TrianglesThatCrossOthersOfTheirOwnOperandAreNotClear) {
-    const laid_scene laid({csg_test::in_one_storage(ball(ox_3dvector()),
-                                                    ball(ox_3dvector(1.9f, 1.3f, 0.8f)))});
+    const laid_scene laid(
+        {csg_test::in_one_storage(ball(ox_3dvector()), ball(ox_3dvector(1.9f, 1.3f, 0.8f)))});
     const std::size_t clear_count = expect_clear_ones_untouched(laid);
     EXPECT_GT(clear_count, laid.triangles.size() / 2);
     EXPECT_LT(clear_count, laid.triangles.size());
@@ -127,10 +125,9 @@ TEST(CsgClearFaces, NoClearTriangleOfRandomSolidsHasAContact) {
         SCOPED_TRACE(i);
         std::vector<ox_solid> solids;
         for (int k = 0; k < 3; ++k) {
-            solids.push_back(random.one_in(2)
-                                 ? csg_test::random_solid(random)
-                                 : csg_test::sphere(support::random_point(random, 2.0),
-                                                    random.between(3, 12), 1.5));
+            solids.push_back(random.one_in(2) ? csg_test::random_solid(random)
+                                              : csg_test::sphere(support::random_point(random, 2.0),
+                                                                 random.between(3, 12), 1.5));
         }
         if (random.one_in(3)) {
             solids[0] = csg_test::in_one_storage(solids[0], solids[1]);

@@ -18,9 +18,8 @@ using namespace ox::internal::csg;
 
 /// A wall whose foot is divided at the jambs of many doors, not sliced yet.
 scene wall_with_doors(int count) {
-    std::vector<ox_solid> solids = {
-        brick_in(frame(), ox_3dvector(),
-                 ox_3dvector(1.5f * static_cast<float>(count) + 1.5f, 0.3f, 3.0f))};
+    std::vector<ox_solid> solids = {brick_in(
+        frame(), ox_3dvector(), ox_3dvector(1.5f * static_cast<float>(count) + 1.5f, 0.3f, 3.0f))};
     for (int i = 0; i < count; ++i) {
         const float x = 1.5f * static_cast<float>(i) + 0.25f;
         solids.push_back(

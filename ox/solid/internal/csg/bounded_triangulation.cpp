@@ -25,8 +25,7 @@ struct viewed_points {
     std::vector<planar_point> places;
 
     viewed_points(const std::vector<grid_point>& points,
-                  const std::vector<const face_boundary*>& faces,
-                  const planar_view& view) {
+                  const std::vector<const face_boundary*>& faces, const planar_view& view) {
         for (const face_boundary* face : faces) {
             for (const directed_edge& edge : *face) {
                 names.insert(names.end(), edge.begin(), edge.end());

@@ -143,8 +143,8 @@ bool are_parted(const scene& faces, const std::array<int, 3>& corners, const sce
     return is_off_plane(points, corners, other.boundary) ||
            (is_triangle && is_off_plane(points, other_corners, face.boundary)) ||
            is_off_side(points, corners, other.boundary, planar_view(face.plane.normal)) ||
-           (is_triangle && is_off_side(points, other_corners, face.boundary,
-                                       planar_view(other.plane.normal)));
+           (is_triangle &&
+            is_off_side(points, other_corners, face.boundary, planar_view(other.plane.normal)));
 }
 
 /// The points of faces that are no longer the triangles that they were.
@@ -209,9 +209,8 @@ std::vector<bool> find_clear_triangles(const scene& faces,
         const scene_face& face = faces.faces[static_cast<std::size_t>(triangle.face)];
         bool is_untouched =
             face.is_clear &&
-            std::none_of(triangle.vertices.begin(), triangle.vertices.end(), [&](int point) {
-                return is_changed[static_cast<std::size_t>(point)];
-            });
+            std::none_of(triangle.vertices.begin(), triangle.vertices.end(),
+                         [&](int point) { return is_changed[static_cast<std::size_t>(point)]; });
         if (is_untouched) {
             bent.visit_meeting(box_of_face(faces, face),
                                [&is_untouched](int) { is_untouched = false; });

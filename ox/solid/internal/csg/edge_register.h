@@ -19,9 +19,7 @@ public:
     int find_or_add(int a, int b);
 
     /// The number of the edge between two points, -1 where it was not named.
-    int find(int a, int b) const {
-        return slots[slot_of({std::min(a, b), std::max(a, b)})];
-    }
+    int find(int a, int b) const { return slots[slot_of({std::min(a, b), std::max(a, b)})]; }
 
     /// The ends of an edge, the lower index first.
     const directed_edge& ends(int edge) const { return edges[static_cast<std::size_t>(edge)]; }

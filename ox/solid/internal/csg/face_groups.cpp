@@ -74,8 +74,7 @@ group_search::group_search(const result_pieces& given, const scene& scene_faces,
     : result(given), faces(scene_faces), poll(steps),
       common_reach((std::max)(grid.get_tolerance() * common_plane_share, grid.get_float_spacing())),
       own_reach((std::min)(own_plane_spacings * grid.get_float_spacing(), common_reach)),
-      face_reach(grid.get_tolerance() + common_reach),
-      is_grouped(given.pieces.size(), false),
+      face_reach(grid.get_tolerance() + common_reach), is_grouped(given.pieces.size(), false),
       growth(*this, given.points, common_reach, joint_fit_count) {
     for (std::size_t i = 0; i < result.pieces.size(); ++i) {
         poll.step();
@@ -135,13 +134,13 @@ double group_search::allowed_deviation(int piece, const std::array<double, 3>& n
     return operand_of(candidate) == operand_of(first) ? own_reach : common_reach;
 }
 
-/// True if the plane holds the whole face that the first piece is a part of. All pieces of that face
-/// join, and a narrow one that comes first lies in the planes of other faces as well.
+/// True if the plane holds the whole face that the first piece is a part of. All pieces of that
+/// face join, and a narrow one that comes first lies in the planes of other faces as well.
 bool group_search::may_become(const fitted_plane& plane) const {
     const result_piece& first = at(beginning);
     return !first.is_of_face ||
-           lies_within(plane, faces.points, faces.faces[static_cast<std::size_t>(first.face)].boundary,
-                       face_reach);
+           lies_within(plane, faces.points,
+                       faces.faces[static_cast<std::size_t>(first.face)].boundary, face_reach);
 }
 
 face_group group_search::grow_from(int first) {

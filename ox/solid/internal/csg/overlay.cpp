@@ -37,9 +37,7 @@ private:
     bool are_beside_each_other(const cluster_members& members, const planar_view& view);
     void overlay(const cluster_members& members, const std::array<double, 3>& normal);
 
-    const scene_face& face(int number) const {
-        return all.faces[static_cast<std::size_t>(number)];
-    }
+    const scene_face& face(int number) const { return all.faces[static_cast<std::size_t>(number)]; }
 
     const scene& all;
     std::vector<bool> is_whole; // faces that are triangles already
@@ -87,8 +85,7 @@ bool cluster_cutter::are_beside_each_other(const cluster_members& members,
         border.insert(border.end(), face(*member).boundary.begin(), face(*member).boundary.end());
     }
     cancel_opposites(border);
-    return (members.count() == 2 && border.size() == 4) ||
-           winds_once(all.points, border, view);
+    return (members.count() == 2 && border.size() == 4) || winds_once(all.points, border, view);
 }
 
 /// Lays the faces over each other; those that rounding does not let be cut together are cut alone.
@@ -129,10 +126,9 @@ bool triangulate_faces(const scene& faces, const progress_report& report,
                        std::vector<face_triangle>& triangles) {
     std::vector<int> order(faces.faces.size());
     std::iota(order.begin(), order.end(), 0);
-    const std::vector<std::size_t> first =
-        sort_by_start(order, order.size(), [&faces](int face) {
-            return faces.faces[static_cast<std::size_t>(face)].cluster;
-        });
+    const std::vector<std::size_t> first = sort_by_start(order, order.size(), [&faces](int face) {
+        return faces.faces[static_cast<std::size_t>(face)].cluster;
+    });
     cluster_cutter cutter(faces);
     for (std::size_t cluster = 0; cluster < order.size(); ++cluster) {
         if (first[cluster] < first[cluster + 1]) {

@@ -54,8 +54,8 @@ int third_corner(const face_boundary& boundary) {
 }
 
 /// True if no plane passes within `reach` of three corners of a boundary and of all of another one.
-/// Three ways of length L from one point whose ends lie within the reach of a plane span at most six
-/// reaches times the square of L; what is more than that leaves room for rounding.
+/// Three ways of length L from one point whose ends lie within the reach of a plane span at most
+/// six reaches times the square of L; what is more than that leaves room for rounding.
 bool is_far_from_common_planes(const std::vector<grid_point>& points, const face_boundary& first,
                                const face_boundary& other, double reach) {
     const auto at = [&points](int point) -> const grid_point& {
@@ -135,10 +135,9 @@ void plane_growth::fit_jointly(fitted_plane& plane) {
         const int candidate = refused.back();
         refused.pop_back();
         const double allowed = candidates.allowed_deviation(candidate, plane.normal);
-        if (allowed < 0.0 ||
-            is_far_from_common_planes(points, candidates.boundary_of(members.front()),
-                                      candidates.boundary_of(candidate),
-                                      std::min(allowed, reach))) {
+        if (allowed < 0.0 || is_far_from_common_planes(
+                                 points, candidates.boundary_of(members.front()),
+                                 candidates.boundary_of(candidate), std::min(allowed, reach))) {
             continue;
         }
         if (gathered_members != members.size()) {

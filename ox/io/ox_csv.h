@@ -113,8 +113,8 @@ public:
 
     /// The table as text: first all columns are filled up with empty cells to the same numbers of
     /// header and value cells, for good; then every row becomes a line, ended by `\n`. Empty when
-    /// the progress manager asks to stop, which it may after each of the V value lines r, when `min
-    /// + r * (max - min) / V` is reported. O(n) for n cells, empty ones included.
+    /// the progress manager asks to stop, which it may after each of the V value lines r, when
+    /// `min + r * (max - min) / V` is reported. O(n) for n cells, empty ones included.
     ///
     /// With `encoding_ansi`, a header cell that is not UTF-8 throws `std::range_error` ("bad
     /// conversion"). A table whose text does not fit the memory fails as an allocation does.

@@ -47,16 +47,16 @@ inline void require_sound(ox::ox_polygon& polygon) {
     require(!(polygon.get_area() < 0.0f));
 }
 
-/// Grows or shrinks a polygon, but not by long arcs nor by arcs at the corners of arcs, which take
+/// Grows or shrinks a polygon, but neither by long arcs nor once it has arcs, whose crossings take
 /// longer than an input may.
 inline void offset(byte_reader& bytes, ox::ox_polygon& polygon) {
     constexpr float longest_round = 4.0f;
     constexpr int most_vertices = 200;
     const float distance = bytes.coordinate();
     const int join = bytes.below(4);
-    const bool is_long = std::isfinite(distance) && std::fabs(distance) > longest_round;
-    if (join == ox::ox_polygon::join_round &&
-        (is_long || polygon.get_contour_vertices().size() > most_vertices)) {
+    const bool is_long = join == ox::ox_polygon::join_round && std::isfinite(distance) &&
+                         std::fabs(distance) > longest_round;
+    if (is_long || polygon.get_contour_vertices().size() > most_vertices) {
         return;
     }
     polygon.offset(distance, join);

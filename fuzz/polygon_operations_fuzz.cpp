@@ -1,7 +1,6 @@
 // Drives two polygons through the operations that the bytes name, in any order.
 
-#include <fuzz/byte_reader.h>
-#include <ox/polygon/ox_polygon.h>
+#include <fuzz/shapes.h>
 
 namespace {
 
@@ -26,16 +25,17 @@ void cut(byte_reader& bytes, ox_polygon& polygon) {
     delete_pieces(polygon.cut_by_plane(point, normal, true), polygon);
 }
 
-void offset(byte_reader& bytes, ox_polygon& polygon) {
-    const float distance = bytes.coordinate();
-    polygon.offset(distance, bytes.byte() % 4);
-}
-
 void transform(byte_reader& bytes, ox_polygon& polygon) {
     ox::ox_matrix matrix;
     matrix.translation(bytes.vector());
     matrix[bytes.byte() % 16u] = bytes.coordinate();
     polygon.matrix_transform(matrix);
+}
+
+/// The search takes seconds in a frame that a matrix has left askew.
+void find_center(ox_polygon polygon) {
+    polygon.set_normal(polygon.get_normal());
+    polygon.get_best_center();
 }
 
 void query(byte_reader& bytes, ox_polygon& polygon) {
@@ -58,7 +58,7 @@ void apply_next(byte_reader& bytes, ox_polygon& polygon, ox_polygon& other) {
         polygon.intersects(other);
         break;
     case 3:
-        offset(bytes, polygon);
+        fuzz::offset(bytes, polygon);
         break;
     case 4:
         cut(bytes, polygon);
@@ -82,7 +82,7 @@ void apply_next(byte_reader& bytes, ox_polygon& polygon, ox_polygon& other) {
         query(bytes, polygon);
         break;
     case 11:
-        polygon.get_best_center();
+        find_center(polygon);
         break;
     case 12:
         polygon.clear();

@@ -85,7 +85,8 @@ public:
 
     /// Reads the file `path` as `read_string` reads a text. False, and the table stays as it is,
     /// when the file cannot be opened or read, as a path with a NUL in it, or has more than
-    /// 2^31 - 1 bytes. A pipe is read until its last writer closes it.
+    /// 2^31 - 1 bytes. A pipe is read until its last writer closes it; a device that is no terminal
+    /// and gives more than 256 KiB has no end and cannot be read.
     bool read_file(const std::string& path);
 
     /// Replaces all columns by those of `text`; always true. O(n) for n bytes.

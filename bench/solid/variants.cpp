@@ -24,7 +24,6 @@ using outline_maker = outline (*)(long opening);
 
 constexpr double most_beside_twin = 3.0; ///< edge for edge
 constexpr double half_turn = csg_test::full_turn / 2.0;
-constexpr double rounding = 1e-3;
 
 double middle_of(long opening) {
     return static_cast<double>(opening_pitch) * (static_cast<double>(opening) + 0.5);

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include <ox/polygon/internal/clipping/contour_folds.h>
 #include <ox/polygon/internal/clipping/grid_lines.h>
@@ -216,7 +217,7 @@ bool are_sides_apart(const monotone_contour& contour) {
     if (p[low.left].X > p[low.right].X || p[high.left].X > p[high.right].X) {
         return false;
     }
-    const parted_levels parted = find_parted_levels(contour, low, high);
+    std::optional<parted_levels> parted; // most contours have room
     side_walk right(contour, true);
     side_walk left(contour, false);
     const cInt lowest = p[low.right].Y;
@@ -226,11 +227,15 @@ bool are_sides_apart(const monotone_contour& contour) {
         const cInt y = std::min(right.next().Y, left.next().Y);
         const double room = y == highest ? 0.0 : right.climb_to(y) - left.climb_to(y);
         const bool is_wide = y == highest ? is_wide_at(contour, high) : room >= side_clearance;
-        const bool is_parted =
-            (y < parted.up_to && room >= rounding_clearance) || (y == parted.up_to && is_wide) ||
-            (below > lowest && (below > parted.from || (below == parted.from && was_wide)));
-        if (!is_parted && !(was_wide && is_wide)) {
-            return false;
+        if (!(was_wide && is_wide)) {
+            parted = parted ? parted : find_parted_levels(contour, low, high);
+            const bool above_low_end = (y < parted->up_to && room >= rounding_clearance) ||
+                                       (y == parted->up_to && is_wide);
+            const bool below_high_end =
+                below > lowest && (below > parted->from || (below == parted->from && was_wide));
+            if (!above_low_end && !below_high_end) {
+                return false;
+            }
         }
         was_wide = is_wide;
         below = y;

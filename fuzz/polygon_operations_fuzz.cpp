@@ -38,6 +38,12 @@ void transform(byte_reader& bytes, ox_polygon& polygon) {
     polygon.matrix_transform(matrix);
 }
 
+/// The search takes seconds in a frame that a matrix has left askew.
+void find_center(ox_polygon polygon) {
+    polygon.set_normal(polygon.get_normal());
+    polygon.get_best_center();
+}
+
 void query(byte_reader& bytes, ox_polygon& polygon) {
     polygon.get_area();
     polygon.get_perimeter();
@@ -82,7 +88,7 @@ void apply_next(byte_reader& bytes, ox_polygon& polygon, ox_polygon& other) {
         query(bytes, polygon);
         break;
     case 11:
-        polygon.get_best_center();
+        find_center(polygon);
         break;
     case 12:
         polygon.clear();

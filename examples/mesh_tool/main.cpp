@@ -1,7 +1,6 @@
 #include <examples/mesh_tool/arguments.h>
 #include <examples/mesh_tool/drawing.h>
 #include <examples/mesh_tool/measures.h>
-#include <examples/mesh_tool/obj_file.h>
 #include <examples/mesh_tool/source.h>
 #include <examples/support/output_folder.h>
 #include <examples/support/pictures.h>
@@ -34,10 +33,10 @@ bool write_files(const arguments& wanted, ox::ox_triangle_set& mesh, progress& s
     const std::string name = name_of(wanted);
     ox_examples::output_folder folder(wanted.folder, name);
     steps.advance("writing");
-    if (!mesh.write_binary_raw(folder.add(name + ".raw").c_str())) {
-        throw std::runtime_error(wanted.folder + ": the raw file cannot be written");
+    if (!mesh.write_obj(folder.add(name + ".obj").c_str()) ||
+        !mesh.write_binary_raw(folder.add(name + ".raw").c_str())) {
+        throw std::runtime_error(wanted.folder + ": the mesh cannot be written");
     }
-    mesh_tool::write_obj(folder.add(name + ".obj"), mesh);
     steps.advance("drawing");
     ox_examples::pictures pictures(folder);
     pictures.add(name + ".png", [&] { return mesh_tool::draw_view(mesh, wanted.y_is_up); });

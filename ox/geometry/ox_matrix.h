@@ -153,6 +153,17 @@ OX_EXPORT bool operator==(const ox_matrix& a, const ox_matrix& b);
 /// True if an element differs, without a tolerance.
 OX_EXPORT bool operator!=(const ox_matrix& a, const ox_matrix& b);
 
+/// The product of two matrices, as `operator*=` makes it: a point is transformed by b first.
+inline ox_matrix operator*(ox_matrix a, const ox_matrix& b) {
+    return a *= b;
+}
+
+/// The image of the point p, as `transform_point` gives it. For a direction call
+/// `transform_vector`.
+inline ox_3dvector operator*(const ox_matrix& m, const ox_3dvector& p) {
+    return m.transform_point(p);
+}
+
 /// Writes m row by row as "[a b c d; e f g h; ...]": the columns of the text are the images of the
 /// axes and the translation.
 OX_EXPORT std::ostream& operator<<(std::ostream& out, const ox_matrix& m);

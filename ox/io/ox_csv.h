@@ -85,7 +85,8 @@ public:
 
     /// Reads the file `path` as `read_string` reads a text. False, and the table stays as it is,
     /// when the file cannot be opened or read, as a path with a NUL in it, or has more than
-    /// 2^31 - 1 bytes. A pipe is read until its last writer closes it.
+    /// 2^31 - 1 bytes. A pipe is read until its last writer closes it; a device that is no terminal
+    /// and gives more than 256 KiB has no end and cannot be read.
     bool read_file(const std::string& path);
 
     /// Replaces all columns by those of `text`; always true. O(n) for n bytes.
@@ -113,8 +114,8 @@ public:
 
     /// The table as text: first all columns are filled up with empty cells to the same numbers of
     /// header and value cells, for good; then every row becomes a line, ended by `\n`. Empty when
-    /// the progress manager asks to stop, which it may after each of the V value lines r, when `min
-    /// + r * (max - min) / V` is reported. O(n) for n cells, empty ones included.
+    /// the progress manager asks to stop, which it may after each of the V value lines r, when
+    /// `min + r * (max - min) / V` is reported. O(n) for n cells, empty ones included.
     ///
     /// With `encoding_ansi`, a header cell that is not UTF-8 throws `std::range_error` ("bad
     /// conversion"). A table whose text does not fit the memory fails as an allocation does.

@@ -5,6 +5,12 @@
 #include <system_error>
 #include <utility>
 
+#if defined(_WIN32)
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
 #include <ox/internal/open_path.h>
 #include <ox/io/internal/csv_detection.h>
 #include <ox/io/internal/ox_csv_state.h>
@@ -14,6 +20,14 @@ namespace ox {
 using namespace internal;
 
 namespace {
+
+bool is_terminal(std::FILE* file) {
+#if defined(_WIN32)
+    return _isatty(_fileno(file)) != 0;
+#else
+    return isatty(fileno(file)) != 0;
+#endif
+}
 
 /// Gives each column its header cells, which follow each other even where a line has none.
 void take_headers(std::vector<ox_csv_column>& columns, const cell_text& text,
@@ -58,8 +72,17 @@ void read_text(ox_csv_state& state, std::string text) {
     state.column_separator = choice.separator;
 }
 
-/// The longest file that is read: what never ends, such as some devices, must end somewhere.
+/// The longest file or stream that is read: what never ends must end somewhere.
 constexpr std::size_t most_file_bytes = 2147483647;
+
+/// The longest that a device may give, but for a terminal: those that are longer have no end.
+constexpr std::size_t most_device_bytes = std::size_t{256} << 10;
+
+std::size_t most_bytes_of(const std::string& path, std::FILE* file) {
+    std::error_code error;
+    const bool is_device = std::filesystem::is_character_file(path, error);
+    return is_device && !is_terminal(file) ? most_device_bytes : most_file_bytes;
+}
 
 bool is_known_too_long(const std::string& path) {
     std::error_code error;
@@ -73,10 +96,11 @@ bool read_whole_file(const std::string& path, std::string& text) {
     if (file == nullptr || is_known_too_long(path)) {
         return false;
     }
+    const std::size_t most_bytes = most_bytes_of(path, file.get());
     char block[65536];
     std::size_t length = 0;
     while ((length = std::fread(block, 1, sizeof block, file.get())) > 0) {
-        if (length > most_file_bytes - text.size()) {
+        if (length > most_bytes - text.size()) {
             return false;
         }
         text.append(block, length);

@@ -3,11 +3,13 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <new>
 #include <utility>
 
 #include <ox/mesh/internal/large_array.h>
 #include <ox/mesh/internal/side_index.h>
+#include <ox/mesh/ox_triangle_set.h>
 
 namespace ox {
 
@@ -83,6 +85,21 @@ bool link_opposites(half_edge_array& sides, std::uint32_t nb_vertices) {
     return closed;
 }
 
+/// A copy of `list` that can take `more` items without growing.
+template <typename T>
+ox_list<T> with_room(const ox_list<T>& list, std::size_t more) {
+    const std::size_t count = static_cast<std::size_t>(std::max(list.size(), 0)) + more;
+    if (count > static_cast<std::size_t>((std::numeric_limits<int>::max)())) {
+        throw std::bad_alloc();
+    }
+    ox_list<T> copy;
+    copy.reserve(static_cast<int>(count));
+    for (const T& item : list) {
+        copy.push_right(item);
+    }
+    return copy;
+}
+
 } // namespace
 
 ox_mesh::ox_mesh() : state(std::make_shared<ox_mesh_state>()) {}
@@ -99,6 +116,21 @@ void ox_mesh::set_vertices(const ox_list<ox_3dvector>& vertices) {
 
 void ox_mesh::set_triangles(const ox_list<unsigned int>& triangles) {
     state->triangles = triangles;
+}
+
+void ox_mesh::add(const ox_triangle_set& set) {
+    const unsigned int first = static_cast<unsigned int>(std::max(state->vertices.size(), 0));
+    const std::size_t index_count = std::size_t{3} * set.get_nb_triangles();
+    ox_list<ox_3dvector> vertices = with_room(state->vertices, set.get_nb_vertices());
+    ox_list<unsigned int> triangles = with_room(state->triangles, index_count);
+    for (unsigned int i = 0; i < set.get_nb_vertices(); ++i) {
+        vertices.push_right(set.get_vertices()[i]);
+    }
+    for (std::size_t i = 0; i < index_count; ++i) {
+        triangles.push_right(first + set.get_triangles()[i]);
+    }
+    state->vertices.swap(vertices);
+    state->triangles.swap(triangles);
 }
 
 const ox_list<ox_3dvector>& ox_mesh::get_vertices() const {

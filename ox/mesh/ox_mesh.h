@@ -10,6 +10,7 @@
 namespace ox {
 
 class ox_mesh_state;
+class ox_triangle_set;
 
 /// An indexed triangle mesh that can derive its half-edges: one for each side of a triangle, linked
 /// to the opposite one in the neighbouring triangle.
@@ -39,9 +40,13 @@ class ox_mesh_state;
 ///   const bool closed = mesh.is_closed();
 /// \endcode
 ///
-/// Closed is a statement about indices, not about places: a mesh that looks watertight is not
-/// closed where vertices of one place are still apart (see the octree cells of
-/// `ox_vertex_optimizer`), and triangles without area may close it where they only fold back.
+/// Closed is a statement about indices, not about places. A mesh that looks watertight is not
+/// closed where vertices of one place are still apart: those on either side of an octree cell of
+/// `ox_vertex_optimizer` or `ox_triangle_set::optimize`, whose borders lie at round coordinates,
+/// where walls in metres lie too. Nor is it where the corner of one triangle lies along the side of
+/// another. And triangles without area, as a tessellation makes them of openings with sills of one
+/// height, may close it where they only fold back. `ox_csg::get_triangles` gives indices that are
+/// closed.
 class OX_EXPORT ox_mesh {
 public:
     /// A side of a triangle, run through in the triangle's direction.
@@ -70,6 +75,12 @@ public:
 
     /// Replaces the vertex indices by a copy of `triangles`. O(n).
     void set_triangles(const ox_list<unsigned int>& triangles);
+
+    /// Appends the vertices and triangles of `set`, whose indices then count from the vertices that
+    /// were here before; nothing is welded, and the half-edges stay those of the last build. An
+    /// allocation that fails leaves the mesh as it was; so does, with one, a sum of more than
+    /// 2^31 - 1 vertices or indices. O(n) for all vertices and triangles.
+    void add(const ox_triangle_set& set);
 
     /// The vertices.
     const ox_list<ox_3dvector>& get_vertices() const;

@@ -117,6 +117,19 @@ public:
     /// writing file" is logged. A null path cannot be opened. O(n).
     bool write_binary_raw(const char* path);
 
+    /// Writes a binary STL file (see `read_binary_stl`): of each triangle its unit normal, AB x AC
+    /// made unit in single precision (zero without an area), and its corners; the set keeps its
+    /// shared vertices, the file has none. False when the file cannot be opened or written to its
+    /// end, and, without a file, for an index not below the vertex count, which is logged as
+    /// "invalid triangle index". A null path cannot be opened. O(n).
+    bool write_binary_stl(const char* path) const;
+
+    /// Writes a Wavefront OBJ file: a line `v x y z` for each vertex, with the nine digits that
+    /// give the same float back, then a line `f a b c` for each triangle, its indices counted
+    /// from 1. Numbers have decimal points in any locale; those that are not finite are written as
+    /// the C library does, and most readers refuse them. False as `write_binary_stl` says. O(n).
+    bool write_obj(const char* path) const;
+
     /// Welds the vertices that belong to triangles and drops all others. A corner joins the first
     /// welded vertex that is at most `position_tolerance` (model units) away on every axis, whose
     /// unit normal (that of the triangle ABC that made it, AB x AC made unit) differs by at most

@@ -1,6 +1,7 @@
 #include <ox/mesh/ox_triangle_set.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cstring>
 #include <limits>
@@ -32,6 +33,20 @@ static_assert(3 * sizeof(ox_3dvector) == corners_bytes, "corners are stored as t
 
 void log_number(const char* format, std::uint64_t number) {
     log_line(format, static_cast<int>(static_cast<std::uint32_t>(number)));
+}
+
+/// What a file begins with: no text that begins with "solid", by which readers tell text files.
+constexpr char header_text[header_bytes] = "binary STL";
+
+/// A record as files hold it: normal, corners, and no attributes.
+std::array<unsigned char, record_bytes> record_of(const ox_3dvector& a, const ox_3dvector& b,
+                                                  const ox_3dvector& c) {
+    ox_3dvector normal = ox_cross(b - a, c - a);
+    normal.normalize();
+    const ox_3dvector vectors[] = {normal, a, b, c};
+    std::array<unsigned char, record_bytes> record = {};
+    std::memcpy(record.data(), vectors, sizeof vectors);
+    return record;
 }
 
 /// Room for `record_count` records, or as many as are decoded at a time.
@@ -84,6 +99,22 @@ bool ox_triangle_set::read_binary_stl(const char* path) {
         return false;
     }
     return true;
+}
+
+bool ox_triangle_set::write_binary_stl(const char* path) const {
+    if (!has_valid_triangles()) {
+        return false;
+    }
+    mesh_file file(path, "wb");
+    bool written = file.is_open() && file.write(header_text, sizeof header_text) &&
+                   file.write(&nb_triangles, sizeof nb_triangles);
+    const unsigned int* corner = triangles.get();
+    for (unsigned int i = 0; written && i < nb_triangles; ++i, corner += 3) {
+        const auto record =
+            record_of(vertices[corner[0]], vertices[corner[1]], vertices[corner[2]]);
+        written = file.write(record.data(), record.size());
+    }
+    return written && file.finish_writing();
 }
 
 bool ox_triangle_set::read_stl_records(mesh_file& file, unsigned int record_count,

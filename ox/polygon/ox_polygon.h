@@ -106,6 +106,8 @@ public:
 
     /// Exchanges what both hold. O(1).
     ox_polygon& operator=(ox_polygon&& source) noexcept;
+
+    /// Exchanges what both hold. O(1).
     void swap(ox_polygon& other) noexcept;
 
     /// Frees everything the polygon holds.
@@ -113,14 +115,15 @@ public:
 
     // Building
 
-    /// Adds a closed contour (the last vertex is joined to the first); its direction does not
-    /// matter. The contour is merged by the next query, and projected on the plane then. An
-    /// empty list is ignored; see the class for other degenerate contours. O(n).
+    /// Adds a closed contour (the last vertex is joined to the first). The region is the same
+    /// whichever way it runs. The contour is merged by the next query, and projected on the plane
+    /// then. An empty list is ignored; see the class for other degenerate contours. O(n).
     ///
-    /// A polygon without a plane takes that of its first contour: the cross products of the sides
-    /// at all corners, added up. Reflex corners count against convex ones, so that an outline may
-    /// have no plane of its own and vanish, a star of four tips of 45 degrees for one, and an uneven
-    /// one gets a plane that leans. Make the polygon with its plane where you know it.
+    /// A polygon without a plane takes that of its first contour, whose normal points to where the
+    /// contour is seen to run counter-clockwise: the cross products of the sides at all corners,
+    /// added up. Reflex corners count against convex ones, so that an outline may have no plane of
+    /// its own and vanish, a star of four tips of 45 degrees for one, and an uneven one gets a
+    /// plane that leans. Make the polygon with its plane where you know it.
     void add_contour(const ox_list<ox_3dvector>& vertices);
 
     /// Removes all contours and forgets the plane. A computed best centre stays in place.
@@ -207,8 +210,8 @@ public:
     /// so a contour vertex may occur several times.
     const ox_list<ox_3dvector>& get_tesselation_vertices();
 
-    /// Three indices into `get_tesselation_vertices()` per triangle; every triangle runs
-    /// counter-clockwise about the normal.
+    /// Three indices into `get_tesselation_vertices()` per triangle; every triangle that has an
+    /// area runs counter-clockwise about the normal.
     const ox_list<unsigned int>& get_tesselation_triangles();
 
     // Booleans and offset, in place
@@ -264,6 +267,15 @@ public:
     /// given), for a plane that is not finite, and for crossings that do not alternate: a line
     /// that runs through a hole gives an empty list. O(n log n).
     ox_list<ox_3dvector> intersect_by_plane(const ox_3dvector& point, const ox_3dvector& normal);
+
+    /// Tells whether the ray from `start` in `direction` (of any length but zero) meets the region,
+    /// from either side, and writes the point and its distance from `start` in lengths of
+    /// `direction`. A start in the plane is met at distance 0; of points on the outline some are
+    /// in, as `contains` says. False, both untouched, for a ray that misses the region, points away
+    /// or is parallel to the plane, and for numbers that are not finite. The plane is met in double
+    /// precision. The cost is that of `contains`.
+    bool intersect_by_ray(const ox_3dvector& start, const ox_3dvector& direction, ox_3dvector& hit,
+                          float& distance);
 
     /// Makes one new polygon per outer boundary, with the holes directly inside it; the caller
     /// deletes them. A hole keeps its parent's index in this polygon. With fewer than two outer

@@ -27,10 +27,13 @@ public:
     ox_polygon_pieces(const ox_polygon& receiver, ox_list<ox_polygon*> returned)
         : spared(&receiver), pieces(std::move(returned)) {}
 
+    /// Takes the list of `other`, which owns nothing any more. O(1).
     ox_polygon_pieces(ox_polygon_pieces&& other) noexcept
         : spared(other.spared), pieces(std::move(other.pieces)) {
         other.pieces.clear();
     }
+
+    /// Exchanges what both own. O(1).
     ox_polygon_pieces& operator=(ox_polygon_pieces&& other) noexcept {
         std::swap(spared, other.spared);
         std::swap(pieces, other.pieces);
@@ -55,6 +58,7 @@ public:
 
     /// The polygons in their order, never null.
     ox_polygon* const* begin() const { return pieces.begin(); }
+    /// Behind the last polygon.
     ox_polygon* const* end() const { return pieces.end(); }
 
     /// True if nothing was cut: the only polygon is the receiver. O(1).

@@ -36,7 +36,11 @@ public:
 
     /// Copies share the frame and the contours. O(1).
     ox_polygon_projection(const ox_polygon_projection& other);
+
+    /// Shares the frame and the contours of `other`. O(1).
     ox_polygon_projection& operator=(const ox_polygon_projection& other);
+
+    /// Lets go of the frame and the contours, which go with their last owner.
     virtual ~ox_polygon_projection();
 
     /// The polygon that the frame was laid over, which is not owned; null if it was.
@@ -45,8 +49,10 @@ public:
     /// The world position of the frame's (0, 0).
     const ox_3dvector& get_origin() const;
 
-    /// The axes of the frame, of unit length: those of the polygon's own frame.
+    /// The first axis of the frame, of unit length: that of the polygon's own frame.
     const ox_3dvector& get_dx() const;
+
+    /// The second axis of the frame, of unit length: that of the polygon's own frame.
     const ox_3dvector& get_dy() const;
 
     /// The polygon's normal.
@@ -63,14 +69,20 @@ public:
 
     /// The world position of the point (u, v).
     ox_3dvector polygon_to_world(float u, float v) const;
+
+    /// The world position of the point q.
     ox_3dvector polygon_to_world(const ox_2dvector& q) const;
 
     /// The world direction of the vector (u, v).
     ox_3dvector polygon_vector_to_world(float u, float v) const;
+
+    /// The world direction of the vector q.
     ox_3dvector polygon_vector_to_world(const ox_2dvector& q) const;
 
     /// True if the point (u, v) lies inside the region, as `ox_polygon::contains` does. O(n).
     bool contains(float u, float v) const;
+
+    /// True if the point q lies inside the region, as `ox_polygon::contains` does. O(n).
     bool contains(const ox_2dvector& q) const;
 
     /// Finds the first contour edge that a ray hits, edges parallel to it left out. Writes the

@@ -3,8 +3,10 @@
 #include <ox/polygon/ox_polygon.h>
 
 #include <algorithm>
+#include <cmath>
 
 #include <ox/internal/contour_view.h>
+#include <ox/internal/wide_vector.h>
 #include <ox/polygon/internal/answer_counts.h>
 #include <ox/polygon/internal/ox_polygon_data.h>
 #include <ox/polygon/internal/plane_coordinates.h>
@@ -83,6 +85,27 @@ bool ox_polygon::contains(const ox_3dvector& p) {
     }
     ++answers_of(answered_by::containment_index);
     return index->contains(plane_coordinates(*data, p));
+}
+
+bool ox_polygon::intersect_by_ray(const ox_3dvector& start, const ox_3dvector& direction,
+                                  ox_3dvector& hit, float& distance) {
+    data->compute_contours();
+    const wide_vector normal = to_wide(data->normal);
+    const wide_vector way = to_wide(direction);
+    const double steps = dot(to_wide(data->point) - to_wide(start), normal) / dot(way, normal);
+    if (!std::isfinite(steps) || steps < 0.0) {
+        return false;
+    }
+    const wide_vector place =
+        to_wide(start) + wide_vector{steps * way.x, steps * way.y, steps * way.z};
+    const ox_3dvector candidate(static_cast<float>(place.x), static_cast<float>(place.y),
+                                static_cast<float>(place.z));
+    if (!contains(candidate)) {
+        return false;
+    }
+    hit = candidate;
+    distance = static_cast<float>(steps);
+    return true;
 }
 
 bool ox_polygon::may_intersect(const ox_box& box) {

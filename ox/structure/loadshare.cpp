@@ -84,6 +84,10 @@ float ox_loadshare::get_weight(int index) {
     return state->beams[index].weight * state->slab_weight;
 }
 
+float ox_loadshare::get_uncarried_weight() const {
+    return static_cast<float>(state->uncarried_area * static_cast<double>(state->slab_weight));
+}
+
 void ox_loadshare::produce_log(bool enabled) {
     state->log = enabled;
 }

@@ -19,7 +19,8 @@ struct ox_loadshare_state;
 /// the stretch to half the distance to its neighbours. Lengths are in model units, weights in units
 /// of area times the slab's weight per area.
 ///
-/// Load that no beam crosses on a line, and beams parallel to the lines, are left out.
+/// Stretches that no beam crosses on their line are given to none: `get_uncarried_weight` tells how
+/// much they weigh. Beams parallel to the lines carry nothing.
 ///
 /// Degenerate input:
 /// - a contour with a point that is not finite, in the frame, or without points: dropped;
@@ -89,6 +90,12 @@ public:
 
     /// The load of a beam after the last computation; -1 for an index that is out of range.
     float get_weight(int index);
+
+    /// The load that the last computation gave to no beam, 0 before the first: that of the
+    /// stretches of slab that no beam crosses on their line. With the weights of all beams it makes
+    /// the weight of the lines that were looked at, which is the slab's, to about one step of its
+    /// height. Lines on which the outline is crossed an odd number of times are in neither.
+    float get_uncarried_weight() const;
 
     /// Sets whether `compute_weights` writes every line with its stretches to the log.
     void produce_log(bool enabled);

@@ -113,6 +113,7 @@ private:
                 continue;
             }
             while (x > spans[span + 1]) {
+                leave(left, spans[span + 1]);
                 span += 2;
                 if (span == spans.size()) {
                     return;
@@ -124,6 +125,16 @@ private:
             give(crossings[i], y, left, right);
             left = right;
         }
+        leave(left, spans[span + 1]);
+        for (span += 2; span < spans.size(); span += 2) {
+            leave(spans[span], spans[span + 1]);
+        }
+    }
+
+    /// Counts a stretch that no beam takes.
+    void leave(float left, float right) {
+        load.uncarried_area +=
+            (static_cast<double>(right) - static_cast<double>(left)) * static_cast<double>(step);
     }
 
     void give(const beam_crossing& crossing, float y, float left, float right) {
@@ -173,6 +184,7 @@ void ox_loadshare::compute_weights(float step) {
     for (oxp_beam& beam : state->beams) {
         beam.weight = 0.0f;
     }
+    state->uncarried_area = 0.0;
     state->image.clear();
     if (state->bounds.is_empty() || !is_finite(state->bounds)) {
         return;

@@ -374,3 +374,20 @@ TEST(OxMatrix, HostileValuesTravelThroughEveryOperation) {
         m.transform_vector(hostile);
     });
 }
+
+TEST(OxMatrix, ProductWithAPointIsItsImage) {
+    ox_matrix m;
+    m.translate(ox_3dvector(1, 2, 3));
+    m.rotate(2, half_pi);
+    const ox_3dvector p(4, 5, 6);
+    EXPECT_EQ(m * p, m.transform_point(p));
+}
+
+TEST(OxMatrix, ProductOfTwoAppliesTheRightOneFirst) {
+    ox_matrix turn;
+    turn.rotation(0, half_pi);
+    const ox_matrix m = counting_matrix();
+    ox_matrix expected = m;
+    expected *= turn;
+    EXPECT_TRUE(same_bits(m * turn, expected));
+}

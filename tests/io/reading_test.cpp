@@ -8,7 +8,6 @@
 
 #if !defined(_WIN32)
 #include <sys/stat.h>
-#include <unistd.h>
 #endif
 
 #include <tests/support/log_capture.h>
@@ -196,11 +195,9 @@ TEST(CsvReading, APipeIsReadUntilItsWriterClosesIt) {
     EXPECT_EQ(column_of(table, 1), (cells{"b", "2"}));
 }
 
-/// Needs as much memory as the longest text and its copy while it grows.
 TEST(CsvReading, ADeviceWithoutEndIsRefused) {
-    const long pages = sysconf(_SC_AVPHYS_PAGES);
-    if (pages < (8L << 30) / sysconf(_SC_PAGESIZE) || !std::filesystem::exists("/dev/zero")) {
-        GTEST_SKIP() << "this machine has less than 8 GiB of memory free, or no endless device";
+    if (!std::filesystem::exists("/dev/zero")) {
+        GTEST_SKIP() << "this system has no endless device";
     }
     ox::ox_csv table = read("c;d;e\n");
     EXPECT_FALSE(table.read_file("/dev/zero"));

@@ -187,4 +187,33 @@ TEST(OxMesh, OppositesEqualThoseOfThePlainVersionOnThousandsOfRandomMeshes) {
     }
 }
 
+TEST(HalfEdges, AddedSetsKeepTheirTrianglesBehindThoseOfTheMesh) {
+    ox::ox_mesh mesh;
+    mesh.add(mesh_support::set_of(mesh_support::cube()));
+    mesh.add(mesh_support::set_of(mesh_support::cube()));
+    ASSERT_EQ(mesh.get_vertices().size(), 16);
+    ASSERT_EQ(mesh.get_triangles().size(), 72);
+    for (int i = 0; i < 36; ++i) {
+        EXPECT_EQ(mesh.get_triangles()[36 + i], mesh.get_triangles()[i] + 8u);
+    }
+    EXPECT_EQ(mesh.get_vertices()[15], mesh_support::cube().vertices[7]);
+}
+
+TEST(HalfEdges, AddedSetsCountFromTheNextBuildOn) {
+    ox::ox_mesh mesh;
+    mesh.build_half_edges();
+    mesh.add(mesh_support::set_of(mesh_support::cube()));
+    EXPECT_EQ(mesh.get_half_edges().size(), 0);
+    mesh.build_half_edges();
+    EXPECT_EQ(mesh.get_half_edges().size(), 36);
+    EXPECT_TRUE(mesh.is_closed());
+}
+
+TEST(HalfEdges, AnEmptySetAddsNothing) {
+    ox::ox_mesh mesh;
+    mesh.add(ox::ox_triangle_set());
+    EXPECT_EQ(mesh.get_vertices().size(), 0);
+    EXPECT_EQ(mesh.get_triangles().size(), 0);
+}
+
 } // namespace

@@ -1,5 +1,6 @@
 #include "mesh_support.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -14,9 +15,12 @@
 
 namespace {
 
+using mesh_support::bytes_of;
 using mesh_support::cube;
 using mesh_support::height_field;
 using mesh_support::log_capture;
+using mesh_support::read_file;
+using mesh_support::set_of;
 using mesh_support::stl_bytes;
 using mesh_support::temporary_file;
 using ox::ox_triangle_set;
@@ -172,6 +176,58 @@ TEST(StlFile, LinkToAFileIsRead) {
     expect_corners_of(cube(), set);
 }
 
+#endif
+
+TEST(StlFile, WhatIsWrittenIsReadBackAsCornersOfTheSameTriangles) {
+    const temporary_file file("");
+    EXPECT_TRUE(set_of(cube()).write_binary_stl(file.path.c_str()));
+    ox_triangle_set read;
+    EXPECT_TRUE(read.read_binary_stl(file.path.c_str()));
+    expect_corners_of(cube(), read);
+}
+
+TEST(StlFile, WritesUnitNormalsAndNoAttributesBehindAHeaderThatIsNotTakenForText) {
+    const temporary_file file("");
+    ox_triangle_set set(3, 1);
+    set.get_vertices()[1] = ox::ox_3dvector(2, 0, 0);
+    set.get_vertices()[2] = ox::ox_3dvector(0, 3, 0);
+    for (unsigned int i = 0; i < 3; ++i) {
+        set.get_triangles()[i] = i;
+    }
+    EXPECT_TRUE(set.write_binary_stl(file.path.c_str()));
+    const std::string bytes = read_file(file.path);
+    ASSERT_EQ(bytes.size(), 134u);
+    EXPECT_NE(bytes.substr(0, 5), "solid");
+    EXPECT_EQ(bytes.substr(80, 4), bytes_of(1u));
+    EXPECT_EQ(bytes.substr(84, 12), bytes_of(ox::ox_3dvector(0, 0, 1)));
+    EXPECT_EQ(bytes.substr(132), std::string(2, '\0'));
+}
+
+TEST(StlFile, TriangleWithoutAreaIsWrittenWithoutNormal) {
+    const temporary_file file("");
+    ox_triangle_set set(1, 1);
+    std::fill_n(set.get_triangles(), 3, 0u);
+    EXPECT_TRUE(set.write_binary_stl(file.path.c_str()));
+    EXPECT_EQ(read_file(file.path).substr(84), std::string(50, '\0'));
+}
+
+TEST(StlFile, NothingIsWrittenForAnInvalidIndexOrANullPath) {
+    const log_capture log;
+    const temporary_file file("as it was");
+    ox_triangle_set set = set_of(cube());
+    EXPECT_FALSE(set.write_binary_stl(nullptr));
+    set.get_triangles()[5] = 8;
+    EXPECT_FALSE(set.write_binary_stl(file.path.c_str()));
+    EXPECT_EQ(read_file(file.path), "as it was");
+    EXPECT_THAT(log.lines(), ElementsAre("invalid triangle index"));
+}
+
+#ifdef __linux__
+TEST(StlFile, WritingToAFullDeviceFailsAndKeepsTheSet) {
+    const ox_triangle_set set = set_of(cube());
+    EXPECT_FALSE(set.write_binary_stl("/dev/full"));
+    EXPECT_EQ(set.get_nb_triangles(), 12u);
+}
 #endif
 
 } // namespace

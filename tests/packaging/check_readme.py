@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Fails when the README shows another program than the one that is compiled, leaves out a
-public header, or links to a file that does not exist.
+public header, or when a page links to a file that does not exist.
 
 usage: check_readme.py PROJECT_FOLDER PUBLIC_HEADER...
 """
@@ -18,10 +18,11 @@ def faults_of(root, headers):
     for header in headers:
         if pathlib.Path(header).name not in readme and not header.endswith("ox_export.h"):
             yield f"the README does not list {header}"
-    for page in root.glob("*.md"):
-        for target in re.findall(r"\]\((?!https?:)([^)#]+)\)", page.read_text()):
-            if not (root / target).exists():
-                yield f"{page.name} links to {target}, which does not exist"
+    for page in [*root.glob("*.md"), *root.glob("docs/**/*.md"), *root.glob("examples/**/*.md")]:
+        text = re.sub(r"^```.*?^```", "", page.read_text(), flags=re.M | re.S)
+        for target in re.findall(r"\]\((?!https?:)([^)#]+)\)", text):
+            if not (page.parent / target).exists():
+                yield f"{page.relative_to(root)} links to {target}, which does not exist"
 
 
 if __name__ == "__main__":

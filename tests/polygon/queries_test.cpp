@@ -282,6 +282,51 @@ void change(generator& random, ox_polygon& polygon) {
     }
 }
 
+TEST(PolygonRay, MeetsARegionFromEitherSideAndTellsWhere) {
+    ox_polygon face = rectangle_polygon(0, 0, 4, 2);
+    ox_3dvector hit;
+    float distance = 0.0f;
+    EXPECT_TRUE(face.intersect_by_ray({1, 1, 5}, {0, 0, -2}, hit, distance));
+    EXPECT_EQ(hit, ox_3dvector(1, 1, 0));
+    EXPECT_EQ(distance, 2.5f);
+    EXPECT_TRUE(face.intersect_by_ray({0, 1, -1}, {1, 0, 1}, hit, distance));
+    EXPECT_EQ(hit, ox_3dvector(1, 1, 0));
+    EXPECT_EQ(distance, 1.0f);
+}
+
+TEST(PolygonRay, MissesHolesAndWhatLiesOutsideOrBehind) {
+    ox_polygon face = rectangle_polygon(0, 0, 4, 4);
+    face.add_contour(rectangle(1, 1, 3, 3));
+    ox_3dvector hit(7, 7, 7);
+    float distance = -1.0f;
+    EXPECT_FALSE(face.intersect_by_ray({2, 2, 5}, {0, 0, -1}, hit, distance));
+    EXPECT_FALSE(face.intersect_by_ray({9, 2, 5}, {0, 0, -1}, hit, distance));
+    EXPECT_FALSE(face.intersect_by_ray({0.5f, 2, 5}, {0, 0, 1}, hit, distance));
+    EXPECT_EQ(hit, ox_3dvector(7, 7, 7));
+    EXPECT_EQ(distance, -1.0f);
+}
+
+TEST(PolygonRay, StartInThePlaneIsMetAtOnce) {
+    ox_polygon face = rectangle_polygon(0, 0, 4, 4);
+    ox_3dvector hit;
+    float distance = -1.0f;
+    EXPECT_TRUE(face.intersect_by_ray({1, 1, 0}, {0, 0, 1}, hit, distance));
+    EXPECT_EQ(distance, 0.0f);
+}
+
+TEST(PolygonRay, ParallelRaysEmptyPolygonsAndNumbersThatAreNotFiniteMeetNothing) {
+    ox_polygon face = rectangle_polygon(0, 0, 4, 4);
+    ox_polygon empty;
+    ox_3dvector hit;
+    float distance = 0.0f;
+    EXPECT_FALSE(face.intersect_by_ray({1, 1, 1}, {1, 0, 0}, hit, distance));
+    EXPECT_FALSE(face.intersect_by_ray({1, 1, 0}, {1, 0, 0}, hit, distance));
+    EXPECT_FALSE(face.intersect_by_ray({1, 1, 1}, {0, 0, 0}, hit, distance));
+    EXPECT_FALSE(face.intersect_by_ray({1, 1, not_a_number}, {0, 0, -1}, hit, distance));
+    EXPECT_FALSE(face.intersect_by_ray({1, 1, 1}, {infinity, 0, -1}, hit, distance));
+    EXPECT_FALSE(empty.intersect_by_ray({1, 1, 1}, {0, 0, -1}, hit, distance));
+}
+
 } // namespace
 
 TEST(OxPolygonContains, EqualsThePlainCountWhenAskedAgainAndAgain) {

@@ -378,4 +378,50 @@ TEST(OxLoadshare, LoadsOfRandomSlabsSumToTheirAreaTimesTheWeight) {
     }
 }
 
+TEST(OxLoadshare, StretchesAndLinesWithoutABeamAreTheLoadThatNoBeamCarries) {
+    ox_loadshare slab = slab_of(rectangle(0, 0, 10, 4));
+    slab.add_slab_contour(rectangle(20, 0, 22, 4)); // beside, without a beam
+    vertical_beam(slab, 5, 0, 1);
+    slab.set_slab_weight(3);
+    EXPECT_EQ(slab.get_uncarried_weight(), 0.0f);
+    slab.compute_weights(0.01f);
+    EXPECT_NEAR(slab.get_weight(0), 3 * 10, 0.4);
+    EXPECT_NEAR(slab.get_uncarried_weight(), 3 * (2 * 4 + 10 * 3), 0.8);
+}
+
+TEST(OxLoadshare, NothingIsUncarriedWhereABeamCrossesEveryStretch) {
+    ox_loadshare slab = slab_of(rectangle(0, 0, 10, 4));
+    vertical_beam(slab, 2, -1, 5);
+    vertical_beam(slab, 8, -1, 5);
+    slab.compute_weights(0.01f);
+    EXPECT_EQ(slab.get_uncarried_weight(), 0.0f);
+    slab.clear_beams();
+    slab.compute_weights(0.01f);
+    EXPECT_NEAR(slab.get_uncarried_weight(), 40, 0.2);
+    slab.clear_slab_contours();
+    slab.compute_weights(0.01f);
+    EXPECT_EQ(slab.get_uncarried_weight(), 0.0f);
+}
+
+TEST(OxLoadshare, CarriedAndUncarriedLoadsMakeTheWeightOfRandomSlabs) {
+    support::generator random(10);
+    constexpr float step = 0.01f;
+    for (int round = 0; round < 200; ++round) {
+        ox_list<ox_3dvector> outline;
+        const double area = random_slab(random, outline);
+        ox_loadshare slab = slab_of(outline);
+        const int beams = random.between(0, 6);
+        for (int beam = 0; beam < beams; ++beam) {
+            slab.add_beam(ox_3dvector(random.grid(0, 10), random.grid(-5, 5), 0),
+                          ox_3dvector(random.grid(0, 10), random.grid(6, 20), 0));
+        }
+        slab.compute_weights(step);
+        double sum = static_cast<double>(slab.get_uncarried_weight());
+        for (int beam = 0; beam < beams; ++beam) {
+            sum += static_cast<double>(slab.get_weight(beam));
+        }
+        ASSERT_NEAR(sum, area, 10 * 1.5 * static_cast<double>(step) + 0.002 * area);
+    }
+}
+
 } // namespace

@@ -1,9 +1,14 @@
 #include <tests/support/failing_memory.h>
 
 #include <atomic>
+#include <cerrno>
 #include <cstddef>
 #include <cstdlib>
 #include <new>
+
+#if defined(__GLIBC__)
+#include <malloc.h>
+#endif
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 #define TESTS_HAVE_SANITIZER
@@ -20,10 +25,33 @@ bool refused = false;
 bool keeps_failing = false;
 int left = 0;
 std::atomic<long> live_blocks = 0; // threads of a test allocate as well
+std::atomic<long> live_bytes = 0;
+
+#if defined(__GLIBC__)
+long size_of(void* block) {
+    return static_cast<long>(malloc_usable_size(block));
+}
+#else
+long size_of(void*) {
+    return 0;
+}
+#endif
 
 /// A block that is handed out, or null.
 void* counted(void* block) {
-    live_blocks += block != nullptr ? 1 : 0;
+    if (block != nullptr) {
+        ++live_blocks;
+        live_bytes += size_of(block);
+    }
+    return block;
+}
+
+/// A block that is taken back, or null.
+void* discounted(void* block) {
+    if (block != nullptr) {
+        --live_blocks;
+        live_bytes -= size_of(block);
+    }
     return block;
 }
 
@@ -50,6 +78,10 @@ long count_live_blocks() {
     return live_blocks;
 }
 
+long count_live_bytes() {
+    return live_bytes;
+}
+
 bool stop() {
     counting = false;
     return refused;
@@ -64,6 +96,7 @@ extern "C" {
 void* __libc_malloc(std::size_t);
 void* __libc_calloc(std::size_t, std::size_t);
 void* __libc_realloc(void*, std::size_t);
+void* __libc_memalign(std::size_t, std::size_t);
 void __libc_free(void*);
 
 void* malloc(std::size_t bytes) {
@@ -78,16 +111,31 @@ void* realloc(void* block, std::size_t bytes) {
     if (refuses_next()) {
         return nullptr;
     }
+    discounted(block);
     void* const moved = __libc_realloc(block, bytes);
-    if (moved != nullptr || bytes == 0) {
-        live_blocks += (moved != nullptr ? 1 : 0) - (block != nullptr ? 1 : 0);
-    }
+    counted(moved == nullptr && bytes > 0 ? block : moved); // what cannot grow stays
     return moved;
 }
 
+void* memalign(std::size_t alignment, std::size_t bytes) {
+    return refuses_next() ? nullptr : counted(__libc_memalign(alignment, bytes));
+}
+
+void* aligned_alloc(std::size_t alignment, std::size_t bytes) {
+    return memalign(alignment, bytes);
+}
+
+int posix_memalign(void** block, std::size_t alignment, std::size_t bytes) {
+    void* const made = memalign(alignment, bytes);
+    if (made == nullptr) {
+        return ENOMEM;
+    }
+    *block = made;
+    return 0;
+}
+
 void free(void* block) {
-    live_blocks -= block != nullptr ? 1 : 0;
-    __libc_free(block);
+    __libc_free(discounted(block));
 }
 
 } // extern "C"
@@ -115,8 +163,7 @@ void* operator new[](std::size_t bytes, const std::nothrow_t& tag) noexcept {
 }
 
 void operator delete(void* block) noexcept {
-    live_blocks -= block != nullptr ? 1 : 0;
-    std::free(block);
+    std::free(discounted(block));
 }
 
 void operator delete(void* block, std::size_t) noexcept {

@@ -15,6 +15,9 @@ void start(int failing, bool for_good);
 /// the functions that can fail here.
 long count_live_blocks();
 
+/// The bytes of these blocks.
+long count_live_bytes();
+
 /// Lets no allocation fail any more. True if one was refused since `start`.
 bool stop();
 

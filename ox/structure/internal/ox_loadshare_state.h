@@ -24,7 +24,8 @@ struct ox_loadshare_state {
     ox_3dvector normal = ox_3dvector(0.0f, 0.0f, 1.0f);
     float slab_weight = 1.0f;
     ox_list<oxp_beam> beams;
-    ox_box bounds; ///< of the contours
+    ox_box bounds;               ///< of the contours
+    double uncarried_area = 0.0; ///< of the stretches that no beam took
     bool log = false;
     bool paint = false;
     internal::share_image image;

@@ -1,7 +1,6 @@
 // Drives two polygons through the operations that the bytes name, in any order.
 
-#include <fuzz/byte_reader.h>
-#include <ox/polygon/ox_polygon.h>
+#include <fuzz/shapes.h>
 
 namespace {
 
@@ -24,11 +23,6 @@ void cut(byte_reader& bytes, ox_polygon& polygon) {
     const ox_3dvector normal = bytes.vector();
     polygon.intersect_by_plane(point, normal);
     delete_pieces(polygon.cut_by_plane(point, normal, true), polygon);
-}
-
-void offset(byte_reader& bytes, ox_polygon& polygon) {
-    const float distance = bytes.coordinate();
-    polygon.offset(distance, bytes.byte() % 4);
 }
 
 void transform(byte_reader& bytes, ox_polygon& polygon) {
@@ -64,7 +58,7 @@ void apply_next(byte_reader& bytes, ox_polygon& polygon, ox_polygon& other) {
         polygon.intersects(other);
         break;
     case 3:
-        offset(bytes, polygon);
+        fuzz::offset(bytes, polygon);
         break;
     case 4:
         cut(bytes, polygon);

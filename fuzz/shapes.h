@@ -1,6 +1,8 @@
 #ifndef OX_FUZZ_SHAPES_H
 #define OX_FUZZ_SHAPES_H
 
+#include <cmath>
+
 #include <fuzz/byte_reader.h>
 #include <fuzz/require.h>
 #include <ox/mesh/ox_triangle_set.h>
@@ -43,6 +45,21 @@ inline void require_sound(ox::ox_polygon& polygon) {
         require(index < corners);
     }
     require(!(polygon.get_area() < 0.0f));
+}
+
+/// Grows or shrinks a polygon, but neither by long arcs nor once it has arcs, whose crossings take
+/// longer than an input may.
+inline void offset(byte_reader& bytes, ox::ox_polygon& polygon) {
+    constexpr float longest_round = 4.0f;
+    constexpr int most_vertices = 200;
+    const float distance = bytes.coordinate();
+    const int join = bytes.below(4);
+    const bool is_long = join == ox::ox_polygon::join_round && std::isfinite(distance) &&
+                         std::fabs(distance) > longest_round;
+    if (is_long || polygon.get_contour_vertices().size() > most_vertices) {
+        return;
+    }
+    polygon.offset(distance, join);
 }
 
 /// A brick: upright and square, or of any three sides.

@@ -30,6 +30,10 @@ constexpr float grid_end = 4611686018427387904.0f;
 /// apart. The clipping library rounds a side to the next unit, half a unit away at most.
 constexpr double side_clearance = 3.0;
 
+/// Grid units: a side that passes a corner farther away than half a unit is rounded to another
+/// place; a fiftieth is left for what the library's doubles lose.
+constexpr double rounding_clearance = 0.52;
+
 /// Difference of the slopes (x over y) of two sides that meet in a vertex. The library computes
 /// the sides in doubles, to 2^-20 units within the coordinates below; a unit away from their common
 /// vertex the sides differ by more.

@@ -40,6 +40,32 @@ TEST(OxPolygonAnswers, SingleContourThatClimbsAndFallsOnceIsMergedWithoutTheLibr
               1u);
 }
 
+TEST(OxPolygonAnswers, SideThatFallsBackByOneLevelIsMergedWithoutTheLibrary) {
+    EXPECT_EQ(answers_during(answered_by::single_contour,
+                             [] {
+                                 ox_polygon polygon(ox_3dvector(), ox_3dvector(0, 0, 1));
+                                 polygon.add_contour(contour(
+                                     {ox_3dvector(0.5f, 0, 0), ox_3dvector(1.0f, 0.6f, 0),
+                                      ox_3dvector(0.9999f, 0.5999f, 0), ox_3dvector(1.01f, 0.9f, 0),
+                                      ox_3dvector(0.5f, 1.2f, 0), ox_3dvector(0, 0.6f, 0)}));
+                                 EXPECT_EQ(polygon.get_contour_vertices().size(), 6);
+                             }),
+              1u);
+}
+
+TEST(OxPolygonAnswers, TopAndBottomOfOneUnitAreMergedWithoutTheLibrary) {
+    EXPECT_EQ(answers_during(answered_by::single_contour,
+                             [] {
+                                 ox_polygon polygon(ox_3dvector(), ox_3dvector(0, 0, 1));
+                                 polygon.add_contour(contour(
+                                     {ox_3dvector(0.5f, 0, 0), ox_3dvector(0.5001f, 0, 0),
+                                      ox_3dvector(1.0f, 0.6f, 0), ox_3dvector(0.5001f, 1.2f, 0),
+                                      ox_3dvector(0.5f, 1.2f, 0), ox_3dvector(0, 0.6f, 0)}));
+                                 EXPECT_EQ(polygon.get_contour_vertices().size(), 6);
+                             }),
+              1u);
+}
+
 TEST(OxPolygonAnswers, WallWithSeparateOpeningsIsMergedWithoutTheLibrary) {
     EXPECT_EQ(answers_during(answered_by::separate_contours,
                              [] {

@@ -66,7 +66,7 @@ arrangement_input make_input(const ox_solid& body, const std::vector<ox_solid>& 
     place_shells(shells, grid, keep_going, faces);
     cluster_planes(faces, grid, keep_going);
     snap_edges(faces, grid, keep_going);
-    slice_long_planes(faces);
+    slice_long_planes(faces, keep_going);
     triangulate_faces(faces, keep_going, triangles);
     input.points = faces.points;
     for (const face_triangle& triangle : triangles) {

@@ -10,9 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <ox/solid/internal/csg/bounded_triangulation.h>
-#include <ox/solid/internal/csg/overlay.h>
-#include <ox/solid/internal/csg/snapping.h>
-#include <ox/solid/ox_solid.h>
+#include <tests/solid/csg/laid_scene.h>
 #include <tests/support/random_shapes.h>
 
 namespace {
@@ -21,20 +19,6 @@ using ox::ox_3dvector;
 using ox::ox_solid;
 using namespace ox::internal::csg;
 
-constexpr float tolerance = 0.001f;
-
-bool keep_going(double) {
-    return true;
-}
-
-operand operand_of(const ox_solid& solid) {
-    operand given;
-    given.vertices = solid.get_vertices();
-    given.contours = solid.get_contours();
-    given.contour_sizes = solid.get_contour_sizes();
-    return given;
-}
-
 ox_solid brick(float x, float y, float z, float dx, float dy, float dz) {
     ox_solid solid;
     solid.brick(ox_3dvector(x, y, z), dx, dy, dz);
@@ -42,29 +26,8 @@ ox_solid brick(float x, float y, float z, float dx, float dy, float dz) {
 }
 
 /// The scene of some solids, and its triangles.
-struct overlaid {
-    scene faces;
-    std::vector<face_triangle> triangles;
-
-    explicit overlaid(const std::vector<ox_solid>& solids) {
-        std::vector<operand> operands;
-        for (const ox_solid& solid : solids) {
-            operands.push_back(operand_of(solid));
-        }
-        const working_grid grid(operands, tolerance);
-        std::vector<shell> shells;
-        std::vector<ox::ox_csg_problem> problems;
-        for (const operand& given : operands) {
-            shells.push_back(read_shell(given, 0, tolerance, grid, problems));
-            weld(shells.back(), grid);
-            close_shell(shells.back(), 0, grid, problems);
-        }
-        EXPECT_TRUE(problems.empty());
-        EXPECT_TRUE(place_shells(shells, grid, keep_going, faces));
-        EXPECT_TRUE(cluster_planes(faces, grid, keep_going));
-        EXPECT_TRUE(snap_edges(faces, grid, keep_going));
-        EXPECT_TRUE(triangulate_faces(faces, keep_going, triangles));
-    }
+struct overlaid : csg_test::laid_scene {
+    using laid_scene::laid_scene;
 
     /// The triangles of an operand without their direction.
     std::set<std::array<int, 3>> triangles_of(int number) const {

@@ -64,7 +64,7 @@ void unite_single_contour(ox_polygon_data& polygon, const grid_path& path) {
         combine_crossing_contours(polygon, ClipperLib::ctUnion, subjects, grid_contours());
         return;
     }
-    contour_lists made(contour.size, std::move(polygon.pending_vertices),
+    contour_lists made(contour.corner_count(), std::move(polygon.pending_vertices),
                        std::move(polygon.pending_sizes));
     made.append(polygon, contour, false, -1);
     made.move_to(polygon);

@@ -24,12 +24,13 @@ void contour_lists::begin_contour(std::size_t size, bool hole, int parent) {
 
 void contour_lists::append(const plane_frame& plane, const monotone_contour& contour, bool hole,
                            int parent) {
-    const std::size_t last = contour.size - 1;
-    begin_contour(contour.size, hole, parent);
+    const ClipperLib::IntPoint* corners = contour.corners();
+    const std::size_t last = contour.corner_count() - 1;
+    begin_contour(last + 1, hole, parent);
     for (std::size_t i = 0; i < last; ++i) {
-        append(plane, contour.points[hole ? last - 1 - i : i]);
+        append(plane, corners[hole ? last - 1 - i : i]);
     }
-    append(plane, contour.points[last]);
+    append(plane, corners[last]);
 }
 
 void contour_lists::move_to(ox_polygon_data& polygon) {

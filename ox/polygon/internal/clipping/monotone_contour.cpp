@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include <ox/polygon/internal/clipping/contour_folds.h>
+#include <ox/polygon/internal/clipping/grid_lines.h>
 #include <ox/polygon/internal/tolerances.h>
 
 namespace ox::internal {
@@ -15,15 +17,6 @@ namespace {
 
 using ClipperLib::cInt;
 using ClipperLib::IntPoint;
-
-IntPoint difference(const IntPoint& a, const IntPoint& b) {
-    return IntPoint(a.X - b.X, a.Y - b.Y);
-}
-
-/// Twice the signed area that turning from `a` to `b` spans.
-cInt turn(const IntPoint& a, const IntPoint& b) {
-    return a.X * b.Y - a.Y * b.X;
-}
 
 cInt largest_coordinate(const IntPoint* points, std::size_t size) {
     const grid_box box = bounds_of(points, size);
@@ -66,14 +59,17 @@ bool is_lower_or_right_of(const IntPoint& a, const IntPoint& b) {
     return a.Y != b.Y ? a.Y < b.Y : a.X > b.X;
 }
 
-/// Counter-clockwise, the lowest vertex last.
-void put_lowest_last(IntPoint* points, std::size_t size) {
+/// Counter-clockwise, the lowest vertex last. True if the contour is turned round for that.
+bool put_lowest_last(IntPoint* points, std::size_t size) {
     IntPoint* lowest = std::min_element(points, points + size, is_lower_or_right_of);
     std::rotate(points, lowest + 1, points + size);
     const IntPoint& last = points[size - 1];
-    if (turn(difference(last, points[size - 2]), difference(points[0], last)) < 0) {
+    const bool clockwise =
+        turn(difference(last, points[size - 2]), difference(points[0], last)) < 0;
+    if (clockwise) {
         std::reverse(points, points + size - 1);
     }
+    return clockwise;
 }
 
 /// True if the contour climbs once and falls once; finds the highest vertices.
@@ -97,10 +93,7 @@ bool find_highest(monotone_contour& contour) {
     return true;
 }
 
-double x_at(const IntPoint& a, const IntPoint& b, cInt y) {
-    const double part = static_cast<double>(y - a.Y) / static_cast<double>(b.Y - a.Y);
-    return static_cast<double>(a.X) + static_cast<double>(b.X - a.X) * part;
-}
+// Sides that keep apart
 
 /// One side of a contour, walked upwards from its lowest vertex.
 class side_walk {
@@ -141,24 +134,6 @@ private:
     std::size_t at;
 };
 
-/// True if the sides are apart at every level with a vertex, the ends excepted: then they are in
-/// between.
-bool are_sides_apart(const monotone_contour& contour) {
-    const cInt highest = contour.highest();
-    side_walk right(contour, true);
-    side_walk left(contour, false);
-    while (true) {
-        const cInt y = std::min(right.next().Y, left.next().Y);
-        if (y == highest) {
-            return true;
-        }
-        const double room = right.climb_to(y) - left.climb_to(y);
-        if (room < side_clearance) {
-            return false;
-        }
-    }
-}
-
 /// True if two sides leave the end of a contour, a flat edge or a single vertex, without doubt
 /// about which of them is the right one at the next level.
 bool is_wide_at_end(const IntPoint& right_end, const IntPoint& right_next, const IntPoint& left_end,
@@ -173,14 +148,94 @@ bool is_wide_at_end(const IntPoint& right_end, const IntPoint& right_next, const
            smallest_slope_difference * height_product;
 }
 
-bool are_ends_wide(const monotone_contour& contour) {
-    const IntPoint* p = contour.points;
+/// The corners of an end of a contour and, from there on, of its sides.
+struct contour_end {
+    std::size_t right;
+    std::size_t left;
+    std::size_t right_step; ///< modulo the size, away from the end
+    std::size_t left_step;
+};
+
+contour_end low_end(const monotone_contour& contour) {
     const std::size_t last = contour.size - 1;
-    const std::size_t low_left = p[last - 1].Y == p[last].Y ? last - 1 : last;
-    const std::size_t below_right = contour.high_right == 0 ? last : contour.high_right - 1;
-    return is_wide_at_end(p[last], p[0], p[low_left], p[low_left - 1]) &&
-           is_wide_at_end(p[contour.high_right], p[below_right], p[contour.high_left],
-                          p[contour.high_left + 1]);
+    const bool flat = contour.points[last - 1].Y == contour.points[last].Y;
+    return {last, flat ? last - 1 : last, 1, last};
+}
+
+contour_end high_end(const monotone_contour& contour) {
+    return {contour.high_right, contour.high_left, contour.size - 1, 1};
+}
+
+bool is_wide_at(const monotone_contour& contour, const contour_end& end) {
+    const IntPoint* p = contour.points;
+    const std::size_t n = contour.size;
+    return is_wide_at_end(p[end.right], p[(end.right + end.right_step) % n], p[end.left],
+                          p[(end.left + end.left_step) % n]);
+}
+
+/// The level, on the way from one end of a side to the other, up to which (or down to which) no
+/// edge is level, and none leads beyond the x of the first end, towards the other side.
+cInt parted_until(const monotone_contour& contour, std::size_t at, std::size_t other_end,
+                  std::size_t step, bool to_right) {
+    const IntPoint* p = contour.points;
+    const cInt x = p[at].X;
+    while (at != other_end) {
+        const std::size_t next = (at + step) % contour.size;
+        if (p[next].Y == p[at].Y || (to_right ? p[next].X < x : p[next].X > x)) {
+            break;
+        }
+        at = next;
+    }
+    return p[at].Y;
+}
+
+/// The levels as far as which the sides lead apart from the x of an end.
+struct parted_levels {
+    cInt up_to; ///< from the low end
+    cInt from;  ///< down from the high end
+};
+
+parted_levels find_parted_levels(const monotone_contour& contour, const contour_end& low,
+                                 const contour_end& high) {
+    return {std::min(parted_until(contour, low.right, high.right, low.right_step, true),
+                     parted_until(contour, low.left, high.left, low.left_step, false)),
+            std::max(parted_until(contour, high.right, low.right, high.right_step, true),
+                     parted_until(contour, high.left, low.left, high.left_step, false))};
+}
+
+/// True if the sides are apart at every level, the ends excepted. There are two ways to be sure of
+/// it from one level with a vertex to the next: the room on both, or that the sides lead apart from
+/// the x of one of the ends, for the library rounds the place of an edge on a level, but never
+/// beyond those of its vertices. The second one ends where the sides have room: on a level edge the
+/// library looks at all that touches it. And on the way to the low end the sides must not be
+/// rounded to the same place: from there to the same vertex, they would be joined.
+bool are_sides_apart(const monotone_contour& contour) {
+    const contour_end low = low_end(contour);
+    const contour_end high = high_end(contour);
+    const IntPoint* p = contour.points;
+    if (p[low.left].X > p[low.right].X || p[high.left].X > p[high.right].X) {
+        return false;
+    }
+    const parted_levels parted = find_parted_levels(contour, low, high);
+    side_walk right(contour, true);
+    side_walk left(contour, false);
+    const cInt lowest = p[low.right].Y;
+    const cInt highest = contour.highest();
+    bool was_wide = is_wide_at(contour, low);
+    for (cInt below = lowest; below != highest;) {
+        const cInt y = std::min(right.next().Y, left.next().Y);
+        const double room = y == highest ? 0.0 : right.climb_to(y) - left.climb_to(y);
+        const bool is_wide = y == highest ? is_wide_at(contour, high) : room >= side_clearance;
+        const bool is_parted =
+            (y < parted.up_to && room >= rounding_clearance) || (y == parted.up_to && is_wide) ||
+            (below > lowest && (below > parted.from || (below == parted.from && was_wide)));
+        if (!is_parted && !(was_wide && is_wide)) {
+            return false;
+        }
+        was_wide = is_wide;
+        below = y;
+    }
+    return true;
 }
 
 /// The library takes the direction of a contour from an area summed in doubles.
@@ -218,11 +273,19 @@ bool read_monotone_contour(IntPoint* points, std::size_t size, monotone_contour&
     if (!drop_all_but_corners(points, size)) {
         return false;
     }
-    put_lowest_last(points, size);
+    const IntPoint first = points[0];
+    const bool was_clockwise = put_lowest_last(points, size);
     contour.points = points;
     contour.size = size;
-    return find_highest(contour) && are_ends_wide(contour) && are_sides_apart(contour) &&
-           is_area_certain(contour, largest);
+    if (!find_highest(contour)) {
+        contour.with_folds.assign(points, points + size);
+        contour.size = leave_out_folds(contour.with_folds, points);
+        if (contour.size == 0 || !find_highest(contour)) {
+            return false;
+        }
+        contour.entries = list_entries(contour.with_folds, first, was_clockwise, contour.highest());
+    }
+    return are_sides_apart(contour) && is_area_certain(contour, largest);
 }
 
 bool monotone_contour::surrounds(const grid_box& box) const {

@@ -2,6 +2,7 @@
 #define OX_POLYGON_INTERNAL_CLIPPING_MONOTONE_CONTOUR_H
 
 #include <cstddef>
+#include <vector>
 
 #include <clipper.hpp>
 
@@ -25,15 +26,27 @@ grid_box bounds_of(const ClipperLib::IntPoint* points, std::size_t size);
 /// the order: `points` run counter-clockwise and end with the lowest vertex, of two with the right
 /// one. As a hole, the contour runs the other way round and ends with that same vertex.
 ///
+/// A side may fall back by one level, in a fold, as where a corner was rounded twice and the second
+/// time a unit lower: the library hands out its two corners where they are. `points` have the inner
+/// one only.
+///
 /// The points belong to the caller.
 struct monotone_contour {
     const ClipperLib::IntPoint* points = nullptr;
     std::size_t size = 0;
+    std::vector<ClipperLib::IntPoint> with_folds; ///< all corners in that order; empty: `points`
+    std::vector<ClipperLib::cInt> entries;        ///< of the sweep; empty: the highest level
     std::size_t high_right = 0; ///< index of the highest vertex, of two the right one
     std::size_t high_left = 0;  ///< index of the highest vertex, of two the left one
 
     /// The highest level: tips of spikes do not count.
     ClipperLib::cInt highest() const { return points[high_right].Y; }
+
+    /// All corners: those that the library would hand out.
+    const ClipperLib::IntPoint* corners() const {
+        return with_folds.empty() ? points : with_folds.data();
+    }
+    std::size_t corner_count() const { return with_folds.empty() ? size : with_folds.size(); }
 
     /// True if the box lies inside, clear of both sides at every level. O(log size) plus the
     /// vertices at the levels of the box.

@@ -191,17 +191,28 @@ std::vector<bool> place_contours(separate_contour_list& contours,
 
 /// The contours that the library's sweep keeps, as it reaches them: from the highest level down. It
 /// sorts them by level alone, so the sort must be the one that it uses, given the same
-/// sequence: then contours of one level come out in the same order, too.
+/// sequence, entries into folds included: then contours of one level come out in the same order,
+/// too.
 std::vector<int> kept_in_sweep_order(const separate_contour_list& contours,
                                      const std::vector<bool>& kept) {
-    std::vector<contour_level> levels =
-        levels_of(contours, [](const separate_contour& c) { return c.shape.highest(); });
+    std::vector<contour_level> levels;
+    levels.reserve(contours.size());
+    for (const separate_contour& contour : contours) {
+        const int index = static_cast<int>(&contour - contours.data());
+        const cInt highest = contour.shape.highest();
+        if (contour.shape.entries.empty()) {
+            levels.emplace_back(highest, index);
+        }
+        for (const cInt level : contour.shape.entries) {
+            levels.emplace_back(level, level == highest ? index : none);
+        }
+    }
     std::sort(levels.begin(), levels.end(),
               [](const contour_level& a, const contour_level& b) { return b.first < a.first; });
     std::vector<int> order;
-    order.reserve(levels.size());
+    order.reserve(contours.size());
     for (const contour_level& level : levels) {
-        if (kept[static_cast<std::size_t>(level.second)]) {
+        if (level.second != none && kept[static_cast<std::size_t>(level.second)]) {
             order.push_back(level.second);
         }
     }
@@ -269,7 +280,7 @@ bool combine_separate_contours(const plane_frame& plane, ClipperLib::ClipType op
     link_contours(contours, order, top);
     std::size_t vertices = 0;
     for (const int index : order) {
-        vertices += contours[static_cast<std::size_t>(index)].shape.size;
+        vertices += contours[static_cast<std::size_t>(index)].shape.corner_count();
     }
     lists = contour_lists(order.size(), vertices);
     write_contours(plane, contours, top, lists);

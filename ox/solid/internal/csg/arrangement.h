@@ -27,6 +27,8 @@ inline std::int64_t coordinate(const grid_point& point, std::size_t axis) {
 struct operand_triangle {
     std::array<int, 3> vertices;
     int operand;
+    /// True where it is known to meet others only in the corners and sides that they share.
+    bool is_clear = false;
 };
 
 /// What an operand does to what stands so far.

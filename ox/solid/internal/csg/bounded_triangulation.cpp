@@ -25,8 +25,7 @@ struct viewed_points {
     std::vector<planar_point> places;
 
     viewed_points(const std::vector<grid_point>& points,
-                  const std::vector<const face_boundary*>& faces,
-                  const std::array<double, 3>& normal) {
+                  const std::vector<const face_boundary*>& faces, const planar_view& view) {
         for (const face_boundary* face : faces) {
             for (const directed_edge& edge : *face) {
                 names.insert(names.end(), edge.begin(), edge.end());
@@ -34,7 +33,6 @@ struct viewed_points {
         }
         std::sort(names.begin(), names.end());
         names.erase(std::unique(names.begin(), names.end()), names.end());
-        const planar_view view(normal);
         for (const int name : names) {
             places.push_back(view.see(points[static_cast<std::size_t>(name)]));
         }
@@ -100,7 +98,7 @@ std::vector<triangle_list> triangulate_any(const std::vector<grid_point>& points
                                            const std::vector<const face_boundary*>& faces,
                                            const std::array<double, 3>& normal,
                                            std::vector<bool>& fits) {
-    const viewed_points viewed(points, faces, normal);
+    const viewed_points viewed(points, faces, planar_view(normal));
     std::vector<region_edge> edges;
     for (std::size_t f = 0; f < faces.size(); ++f) {
         for (const directed_edge& edge : *faces[f]) {
@@ -158,6 +156,21 @@ bool is_boundary_of(const face_boundary& boundary, const triangle_list& triangle
     }
     cancel_opposites(difference);
     return difference.empty();
+}
+
+bool winds_once(const std::vector<grid_point>& points, const face_boundary& border,
+                const planar_view& view) {
+    const viewed_points viewed(points, {&border}, view);
+    std::vector<region_edge> edges;
+    for (const directed_edge& edge : border) {
+        edges.push_back({viewed.number_of(edge[0]), viewed.number_of(edge[1]), 0});
+    }
+    std::vector<covered_triangle> covered;
+    return triangulate_regions(viewed.places, edges, covered) && !covered.empty() &&
+           std::all_of(covered.begin(), covered.end(), [&](const covered_triangle& triangle) {
+               return triangle.winding == covered.front().winding &&
+                      std::abs(triangle.winding) == 1;
+           });
 }
 
 std::vector<triangle_list> triangulate_together(const std::vector<grid_point>& points,

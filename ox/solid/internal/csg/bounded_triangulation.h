@@ -4,6 +4,7 @@
 #include <array>
 #include <vector>
 
+#include <ox/solid/internal/csg/planar_view.h>
 #include <ox/solid/internal/csg/scene.h>
 
 namespace ox::internal::csg {
@@ -23,6 +24,11 @@ std::vector<triangle_list> triangulate_together(const std::vector<grid_point>& p
 /// over its edges, which has the right boundary always. O(n log n).
 triangle_list triangulate_alone(const std::vector<grid_point>& points, const face_boundary& face,
                                 const std::array<double, 3>& normal);
+
+/// True if the border of a region, seen along an axis, winds once around every place that it winds
+/// around at all, always the same way. O(n log n).
+bool winds_once(const std::vector<grid_point>& points, const face_boundary& border,
+                const planar_view& view);
 
 /// True if the triangles have exactly the given boundary.
 bool is_boundary_of(const face_boundary& boundary, const triangle_list& triangles);

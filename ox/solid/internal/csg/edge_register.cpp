@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <ox/solid/internal/csg/segment_distance.h>
+#include <ox/solid/internal/csg/sorted_edges.h>
 
 namespace ox::internal::csg {
 
@@ -11,6 +12,9 @@ namespace {
 
 /// A power of two; at most half of the slots are taken.
 constexpr std::size_t first_slot_count = 64;
+
+/// Edges of most faces: so many are sorted in place.
+constexpr std::size_t usual_count = 32;
 
 /// A number for each directed edge, in the order of its lower point, its higher one, and its start:
 /// the lowest bit tells edges of opposite directions apart.
@@ -24,6 +28,19 @@ directed_edge edge_of(std::uint64_t code) {
     const int low = static_cast<int>(code >> 32);
     const int high = static_cast<int>((code & 0xffffffffu) >> 1);
     return (code & 1) != 0 ? directed_edge{high, low} : directed_edge{low, high};
+}
+
+/// Makes a boundary of the edges of sorted codes, without those that meet an opposite one.
+void keep_unmet(const std::uint64_t* codes, const std::uint64_t* end, face_boundary& boundary) {
+    boundary.clear();
+    for (; codes != end; ++codes) {
+        const directed_edge edge = edge_of(*codes);
+        if (!boundary.empty() && boundary.back() == directed_edge{edge[1], edge[0]}) {
+            boundary.pop_back();
+        } else {
+            boundary.push_back(edge);
+        }
+    }
 }
 
 } // namespace
@@ -122,21 +139,25 @@ void edge_division::apply(edge_register& edges, face_boundary& face) const {
 }
 
 void cancel_opposites(face_boundary& boundary) {
-    std::vector<std::uint64_t> codes;
-    codes.reserve(boundary.size());
-    for (const directed_edge& edge : boundary) {
-        codes.push_back(code_of(edge));
+    if (boundary.size() > usual_count) {
+        std::vector<std::uint64_t> codes(boundary.size());
+        std::transform(boundary.begin(), boundary.end(), codes.begin(), code_of);
+        std::sort(codes.begin(), codes.end());
+        keep_unmet(codes.data(), codes.data() + codes.size(), boundary);
+    } else {
+        std::array<std::uint64_t, usual_count> codes;
+        std::uint64_t* const end =
+            std::transform(boundary.begin(), boundary.end(), codes.data(), code_of);
+        std::sort(codes.data(), end);
+        keep_unmet(codes.data(), end, boundary);
     }
-    std::sort(codes.begin(), codes.end());
-    boundary.clear();
-    for (const std::uint64_t code : codes) {
-        const directed_edge edge = edge_of(code);
-        if (!boundary.empty() && boundary.back() == directed_edge{edge[1], edge[0]}) {
-            boundary.pop_back();
-        } else {
-            boundary.push_back(edge);
-        }
-    }
+}
+
+void cancel_opposites(face_boundary& boundary, std::size_t point_count) {
+    std::vector<std::uint64_t> codes(boundary.size());
+    std::transform(boundary.begin(), boundary.end(), codes.begin(), code_of);
+    sort_by_start(codes, point_count, [](std::uint64_t code) { return code >> 32; });
+    keep_unmet(codes.data(), codes.data() + codes.size(), boundary);
 }
 
 } // namespace ox::internal::csg

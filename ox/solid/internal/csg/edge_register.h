@@ -1,6 +1,7 @@
 #ifndef OX_SOLID_INTERNAL_CSG_EDGE_REGISTER_H
 #define OX_SOLID_INTERNAL_CSG_EDGE_REGISTER_H
 
+#include <algorithm>
 #include <cstdint>
 #include <vector>
 
@@ -16,6 +17,9 @@ public:
 
     /// The number of the edge between two points, which is new where it was not named before.
     int find_or_add(int a, int b);
+
+    /// The number of the edge between two points, -1 where it was not named.
+    int find(int a, int b) const { return slots[slot_of({std::min(a, b), std::max(a, b)})]; }
 
     /// The ends of an edge, the lower index first.
     const directed_edge& ends(int edge) const { return edges[static_cast<std::size_t>(edge)]; }
@@ -57,8 +61,11 @@ private:
 };
 
 /// Removes each directed edge together with one of the opposite direction, as often as there are
-/// both. O(n log n).
+/// both. What is left is in the order of its lower points. O(n log n).
 void cancel_opposites(face_boundary& boundary);
+
+/// The same for the many edges between `point_count` points. O(n) while points have few edges.
+void cancel_opposites(face_boundary& boundary, std::size_t point_count);
 
 } // namespace ox::internal::csg
 

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include <ox/solid/internal/csg/clear_faces.h>
 #include <ox/solid/internal/csg/half_space.h>
 #include <ox/solid/internal/csg/overlay.h>
 #include <ox/solid/internal/csg/result_boundary.h>
@@ -20,6 +21,7 @@ constexpr double done_when_read = 0.05;
 constexpr double done_when_placed = 0.1;
 constexpr double done_when_clustered = 0.15;
 constexpr double done_when_snapped = 0.2;
+constexpr double done_when_sliced = 0.22;
 constexpr double done_when_cut = 0.3;
 constexpr double done_when_arranged = 0.8;
 
@@ -89,9 +91,11 @@ arrangement_input make_input(const std::vector<operand>& operands, const scene& 
                              const std::vector<face_triangle>& triangles) {
     arrangement_input input;
     input.points = faces.points;
-    for (const face_triangle& triangle : triangles) {
-        input.triangles.push_back(
-            {triangle.vertices, faces.faces[static_cast<std::size_t>(triangle.face)].operand});
+    const std::vector<bool> is_clear = find_clear_triangles(faces, triangles);
+    input.triangles.reserve(triangles.size());
+    for (std::size_t t = 0; t < triangles.size(); ++t) {
+        const scene_face& face = faces.faces[static_cast<std::size_t>(triangles[t].face)];
+        input.triangles.push_back({triangles[t].vertices, face.operand, is_clear[t]});
     }
     for (const operand& given : operands) {
         input.operations.push_back(given.role);
@@ -107,11 +111,9 @@ bool combine(const std::vector<operand>& operands, const std::vector<shell>& she
     if (!place_shells(shells, grid, stage_report(report, done_when_read, done_when_placed),
                       faces) ||
         !cluster_planes(faces, grid, stage_report(report, done_when_placed, done_when_clustered)) ||
-        !snap_edges(faces, grid, stage_report(report, done_when_clustered, done_when_snapped))) {
-        return false;
-    }
-    slice_long_planes(faces);
-    if (!triangulate_faces(faces, stage_report(report, done_when_snapped, done_when_cut),
+        !snap_edges(faces, grid, stage_report(report, done_when_clustered, done_when_snapped)) ||
+        !slice_long_planes(faces, stage_report(report, done_when_snapped, done_when_sliced)) ||
+        !triangulate_faces(faces, stage_report(report, done_when_sliced, done_when_cut),
                            triangles)) {
         return false;
     }

@@ -45,6 +45,7 @@ private:
     void find_neighbours(int piece, std::vector<int>& found) const override;
     double allowed_deviation(int piece, const std::array<double, 3>& normal) const override;
     bool is_reversed(int, const std::array<double, 3>&) const override { return false; }
+    bool may_become(const fitted_plane& plane) const override;
     void join(int piece) override { is_grouped[static_cast<std::size_t>(piece)] = true; }
 
     face_group grow_from(int first);
@@ -59,6 +60,7 @@ private:
     exact::progress_poll& poll;
     double common_reach;
     double own_reach;
+    double face_reach; // what snapping moves the corners of a face by, and what it is uneven by
     std::vector<piece_edge> edges;        // sorted
     std::vector<std::size_t> first_edges; // that leave each point
     std::vector<bool> is_grouped;
@@ -72,7 +74,7 @@ group_search::group_search(const result_pieces& given, const scene& scene_faces,
     : result(given), faces(scene_faces), poll(steps),
       common_reach((std::max)(grid.get_tolerance() * common_plane_share, grid.get_float_spacing())),
       own_reach((std::min)(own_plane_spacings * grid.get_float_spacing(), common_reach)),
-      is_grouped(given.pieces.size(), false),
+      face_reach(grid.get_tolerance() + common_reach), is_grouped(given.pieces.size(), false),
       growth(*this, given.points, common_reach, joint_fit_count) {
     for (std::size_t i = 0; i < result.pieces.size(); ++i) {
         poll.step();
@@ -130,6 +132,15 @@ double group_search::allowed_deviation(int piece, const std::array<double, 3>& n
         return faces.faces[static_cast<std::size_t>(p.face)].operand;
     };
     return operand_of(candidate) == operand_of(first) ? own_reach : common_reach;
+}
+
+/// True if the plane holds the whole face that the first piece is a part of. All pieces of that
+/// face join, and a narrow one that comes first lies in the planes of other faces as well.
+bool group_search::may_become(const fitted_plane& plane) const {
+    const result_piece& first = at(beginning);
+    return !first.is_of_face ||
+           lies_within(plane, faces.points,
+                       faces.faces[static_cast<std::size_t>(first.face)].boundary, face_reach);
 }
 
 face_group group_search::grow_from(int first) {

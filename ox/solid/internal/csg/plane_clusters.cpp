@@ -3,6 +3,7 @@
 #include <numeric>
 #include <vector>
 
+#include <ox/solid/internal/csg/clear_faces.h>
 #include <ox/solid/internal/csg/plane_growth.h>
 #include <ox/solid/internal/csg/scene.h>
 
@@ -28,6 +29,7 @@ private:
     void find_neighbours(int face, std::vector<int>& found) const override;
     double allowed_deviation(int face, const std::array<double, 3>& normal) const override;
     bool is_reversed(int face, const std::array<double, 3>& normal) const override;
+    bool may_become(const fitted_plane&) const override { return true; }
     void join(int face) override { at(face).cluster = growing; }
 
     void grow_from(int first);
@@ -57,6 +59,7 @@ cluster_search::cluster_search(scene& all, double reach)
         at(face).cluster = -1;
         at(face).is_apart = is_apart(face);
     }
+    mark_clear_faces(faces, neighbours);
 }
 
 /// True if no face of another operand has a box that meets the face's.

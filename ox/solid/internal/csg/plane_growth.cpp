@@ -46,6 +46,32 @@ fitted_plane fit_corners(const std::array<double, 3>& normal, const std::vector<
     return fitted;
 }
 
+/// A corner of the second edge of a boundary that the first one does not have.
+int third_corner(const face_boundary& boundary) {
+    const directed_edge& first = boundary[0];
+    const directed_edge& second = boundary[1];
+    return second[0] == first[0] || second[0] == first[1] ? second[1] : second[0];
+}
+
+/// True if no plane passes within `reach` of three corners of a boundary and of all of another one.
+/// Three ways of length L from one point whose ends lie within the reach of a plane span at most
+/// six reaches times the square of L; what is more than that leaves room for rounding.
+bool is_far_from_common_planes(const std::vector<grid_point>& points, const face_boundary& first,
+                               const face_boundary& other, double reach) {
+    const auto at = [&points](int point) -> const grid_point& {
+        return points[static_cast<std::size_t>(point)];
+    };
+    const grid_point& origin = at(first[0][0]);
+    const std::array<double, 3> u = difference(origin, at(first[0][1]));
+    const std::array<double, 3> v = difference(origin, at(third_corner(first)));
+    const std::array<double, 3> normal = cross(u, v);
+    const double extent = std::max(dot(u, u), dot(v, v));
+    return std::any_of(other.begin(), other.end(), [&](const directed_edge& edge) {
+        const std::array<double, 3> way = difference(origin, at(edge[0]));
+        return std::fabs(dot(normal, way)) > 8.0 * reach * std::max(extent, dot(way, way));
+    });
+}
+
 } // namespace
 
 void plane_growth::try_to_join(int candidate, const fitted_plane& plane) {
@@ -87,7 +113,8 @@ void plane_growth::gather_boundary(const fitted_plane& plane) {
 /// Takes the plane of the boundary that was gathered where all of it lies in it; true where it did.
 bool plane_growth::fit(double allowed, fitted_plane& plane) const {
     const fitted_plane fitted = fit_corners(plane.normal, points, gathered);
-    if (fitted.area == 0.0 || !lies_within(fitted, points, gathered, allowed)) {
+    if (fitted.area == 0.0 || !lies_within(fitted, points, gathered, allowed) ||
+        !candidates.may_become(fitted)) {
         return false;
     }
     plane = fitted;
@@ -108,7 +135,9 @@ void plane_growth::fit_jointly(fitted_plane& plane) {
         const int candidate = refused.back();
         refused.pop_back();
         const double allowed = candidates.allowed_deviation(candidate, plane.normal);
-        if (allowed < 0.0) {
+        if (allowed < 0.0 || is_far_from_common_planes(
+                                 points, candidates.boundary_of(members.front()),
+                                 candidates.boundary_of(candidate), std::min(allowed, reach))) {
             continue;
         }
         if (gathered_members != members.size()) {

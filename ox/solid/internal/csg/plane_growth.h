@@ -22,6 +22,9 @@ public:
     /// True if a candidate faces against `normal`.
     virtual bool is_reversed(int candidate, const std::array<double, 3>& normal) const = 0;
 
+    /// True if the plane of those that have joined may become this one.
+    virtual bool may_become(const fitted_plane& plane) const = 0;
+
     /// Told of each one that joins.
     virtual void join(int candidate) = 0;
 

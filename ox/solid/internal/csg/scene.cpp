@@ -109,6 +109,17 @@ bool lies_within(const fitted_plane& plane, const std::vector<grid_point>& point
     });
 }
 
+bool read_triangle(const face_boundary& boundary, std::array<int, 3>& corners) {
+    if (boundary.size() != 3) {
+        return false;
+    }
+    const bool is_in_order = boundary[0][1] == boundary[1][0];
+    const directed_edge& second = boundary[is_in_order ? 1 : 2];
+    const directed_edge& third = boundary[is_in_order ? 2 : 1];
+    corners = {boundary[0][0], second[0], third[0]};
+    return boundary[0][1] == second[0] && second[1] == third[0] && third[1] == boundary[0][0];
+}
+
 grid_box box_of_face(const scene& faces, const scene_face& face) {
     grid_box box;
     for (const directed_edge& edge : face.boundary) {

@@ -33,11 +33,16 @@ struct scene_face {
     double unevenness = 0.0; ///< how far its corners lie from that plane
     int cluster = 0;         ///< faces of one plane have the same number
     bool is_apart = false;   ///< true where no face of another operand is within the tolerance
+    bool is_clear = false;   ///< true for a triangle that meets others only in what they share
+    bool is_divided = false; ///< true where edges were divided since
 };
 
 /// True if the corners of a face lie within `reach` of a plane. The first that does not ends it.
 bool lies_within(const fitted_plane& plane, const std::vector<grid_point>& points,
                  const face_boundary& boundary, double reach);
+
+/// The corners of a boundary that is one ring of three edges, in its direction; false for others.
+bool read_triangle(const face_boundary& boundary, std::array<int, 3>& corners);
 
 /// The shells of all operands, with shared points.
 struct scene {
@@ -55,7 +60,7 @@ bool place_shells(const std::vector<shell>& shells, const working_grid& grid,
 /// Gives the faces of one plane the same number. The largest face not in a cluster yet begins one;
 /// faces whose boxes touch those of its members belong to it if all their corners lie within the
 /// tolerance of its plane, which is fitted to all of its members (see plane_growth.h). Faces whose
-/// boxes meet those of their own operand only are marked as apart.
+/// boxes meet those of their own operand only are marked as apart, and clear ones among them.
 /// False where `report` ended the work. O((n + k) log n).
 bool cluster_planes(scene& faces, const working_grid& grid, const progress_report& report);
 

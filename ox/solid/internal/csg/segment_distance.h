@@ -39,6 +39,36 @@ inline grid_point point_between(const grid_point& a, const grid_point& b, double
                                 static_cast<double>(a.z) + parameter * along[2]});
 }
 
+/// Where two segments are nearest to each other, by parameters along them.
+struct closest_places {
+    double first;
+    double second;
+    double square_distance;
+};
+
+/// The nearest places of the lines through two segments; parameters of -1 where they are parallel.
+inline closest_places find_closest(const grid_point& a, const grid_point& b, const grid_point& c,
+                                   const grid_point& d) {
+    const std::array<double, 3> u = difference(a, b);
+    const std::array<double, 3> v = difference(c, d);
+    const std::array<double, 3> w = difference(c, a);
+    const double uu = dot(u, u);
+    const double uv = dot(u, v);
+    const double vv = dot(v, v);
+    const double uw = dot(u, w);
+    const double vw = dot(v, w);
+    const std::array<double, 3> normal = cross(u, v);
+    const double determinant = dot(normal, normal);
+    if (!(determinant > 0.0)) {
+        return {-1.0, -1.0, 0.0};
+    }
+    const double s = (uv * vw - vv * uw) / determinant;
+    const double t = (uu * vw - uv * uw) / determinant;
+    const std::array<double, 3> between = {w[0] + s * u[0] - t * v[0], w[1] + s * u[1] - t * v[1],
+                                           w[2] + s * u[2] - t * v[2]};
+    return {s, t, dot(between, between)};
+}
+
 } // namespace ox::internal::csg
 
 #endif

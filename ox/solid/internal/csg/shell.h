@@ -26,7 +26,7 @@ struct shell {
 };
 
 /// Reads the faces of a solid: those that its primary storage begins up to the first index out of
-/// range or the end of the indices. Each ring has points of its own at first. Problems for
+/// range or the end of the indices. Points are in the order in which rings name them. Problems for
 /// coordinates that are not finite, or farther than 2^30 tolerances away, are appended to
 /// `problems`; the shell is then of no use. O(n).
 shell read_shell(const operand& given, int number, float tolerance, const working_grid& grid,

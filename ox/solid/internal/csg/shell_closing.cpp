@@ -16,10 +16,11 @@ namespace {
 
 face_boundary find_open_edges(const shell& checked) {
     face_boundary all;
+    all.reserve(6 * checked.points.size());
     for (const face_boundary& face : checked.faces) {
         all.insert(all.end(), face.begin(), face.end());
     }
-    cancel_opposites(all);
+    cancel_opposites(all, checked.points.size());
     return all;
 }
 

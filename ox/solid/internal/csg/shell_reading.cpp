@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <utility>
 
 #include <ox/internal/vectors.h>
 #include <ox/solid/internal/csg/shell.h>
@@ -54,16 +55,51 @@ bool check_ring(const operand& given, const stored_contour& ring, int number, fl
     return true;
 }
 
-/// Appends a ring with points of its own to a face.
-void append_ring(const operand& given, const stored_contour& ring, const working_grid& grid,
-                 shell& read, face_boundary& face) {
-    const int base = static_cast<int>(read.points.size());
-    face.reserve(face.size() + static_cast<std::size_t>(ring.size));
-    for (int i = 0; i < ring.size; ++i) {
-        const ox_3dvector& v = given.vertices[static_cast<int>(ring.indices[i])];
+/// Puts the vertices that the rings of a solid name on the grid, each once.
+class shell_reader {
+public:
+    shell_reader(const operand& read_operand, const working_grid& working)
+        : given(read_operand), grid(working),
+          numbers(static_cast<std::size_t>(std::max(given.vertices.size(), 0)), -1) {
+        read.points.reserve(numbers.size());
+        read.vertices.reserve(numbers.size());
+        read.faces.reserve(static_cast<std::size_t>(std::max(given.contour_sizes.size(), 0)));
+    }
+
+    void open_face() { read.faces.emplace_back(); }
+    void append_ring(const stored_contour& ring);
+
+    shell read;
+
+private:
+    int number_of(unsigned int vertex);
+
+    const operand& given;
+    const working_grid& grid;
+    std::vector<int> numbers; // of the point of each vertex, -1 where no ring has named it
+};
+
+int shell_reader::number_of(unsigned int vertex) {
+    int& number = numbers[vertex];
+    if (number < 0) {
+        const ox_3dvector& v = given.vertices[static_cast<int>(vertex)];
+        number = static_cast<int>(read.points.size());
         read.points.push_back(grid.to_grid(v));
         read.vertices.push_back(v);
-        face.push_back({base + i, base + (i + 1) % ring.size});
+    }
+    return number;
+}
+
+/// Appends a ring to the face opened last.
+void shell_reader::append_ring(const stored_contour& ring) {
+    face_boundary& face = read.faces.back();
+    face.reserve(face.size() + static_cast<std::size_t>(ring.size));
+    const int first = ring.size > 0 ? number_of(ring.indices[0]) : -1;
+    int from = first;
+    for (int i = 1; i <= ring.size; ++i) {
+        const int to = i < ring.size ? number_of(ring.indices[i]) : first;
+        face.push_back({from, to});
+        from = to;
     }
 }
 
@@ -71,20 +107,17 @@ void append_ring(const operand& given, const stored_contour& ring, const working
 
 shell read_shell(const operand& given, int number, float tolerance, const working_grid& grid,
                  std::vector<ox_csg_problem>& problems) {
-    shell read;
-    const auto index_count = static_cast<std::size_t>(std::max(given.contours.size(), 0));
-    read.points.reserve(index_count);
-    read.vertices.reserve(index_count);
+    shell_reader reader(given, grid);
     visit_contours(given.contours, given.contour_sizes, given.vertices.size(),
                    [&](const stored_contour& ring) {
                        if (ring.opens_face) {
-                           read.faces.emplace_back();
+                           reader.open_face();
                        }
                        if (check_ring(given, ring, number, tolerance, problems)) {
-                           append_ring(given, ring, grid, read, read.faces.back());
+                           reader.append_ring(ring);
                        }
                    });
-    return read;
+    return std::move(reader.read);
 }
 
 } // namespace ox::internal::csg

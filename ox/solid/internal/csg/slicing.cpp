@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <map>
 
 #include <ox/solid/internal/csg/edge_register.h>
+#include <ox/solid/internal/csg/exact/progress_poll.h>
 #include <ox/solid/internal/csg/point_index.h>
 #include <ox/solid/internal/csg/segment_distance.h>
 
@@ -40,7 +42,6 @@ struct plane_members {
     std::vector<const scene_face*> faces;
     grid_box box;
     double largest_area = 0.0; ///< of a face, twice
-    std::size_t corner_count = 0;
 };
 
 /// The axis along which a box is longest.
@@ -99,12 +100,13 @@ ruler make_ruler(const plane_members& plane, const std::vector<grid_point>& poin
 
 class plane_slicer {
 public:
-    explicit plane_slicer(scene& all) : faces(all) {}
+    plane_slicer(scene& all, exact::progress_poll& steps) : faces(all), poll(steps) {}
 
     /// True where edges were divided.
     bool run_round();
 
 private:
+    std::map<int, plane_members> gather_planes();
     bool make_rulers();
     void index_points();
     bool is_long(const directed_edge& edge, const ruler& marks) const;
@@ -118,6 +120,7 @@ private:
     }
 
     scene& faces;
+    exact::progress_poll& poll;
     std::vector<ruler> rulers; ///< of the planes, by the number of the cluster
     edge_register edges;
     edge_division division{0};
@@ -128,28 +131,42 @@ private:
 /// Makes all points known by their places.
 void plane_slicer::index_points() {
     for (; indexed < static_cast<int>(faces.points.size()); ++indexed) {
+        poll.step();
         places.add(at(indexed), indexed);
     }
 }
 
-/// False where no plane has a ruler.
-bool plane_slicer::make_rulers() {
-    std::vector<plane_members> planes(faces.faces.size());
+/// The planes with corners enough for slices, by the numbers of their clusters.
+std::map<int, plane_members> plane_slicer::gather_planes() {
+    std::vector<std::size_t> corner_counts(faces.faces.size(), 0);
     for (const scene_face& face : faces.faces) {
-        plane_members& plane = planes[static_cast<std::size_t>(face.cluster)];
+        corner_counts[static_cast<std::size_t>(face.cluster)] += face.boundary.size();
+    }
+    std::map<int, plane_members> planes;
+    for (const scene_face& face : faces.faces) {
+        poll.step();
+        if (corner_counts[static_cast<std::size_t>(face.cluster)] <= fewest_corners) {
+            continue;
+        }
+        plane_members& plane = planes[face.cluster];
         plane.faces.push_back(&face);
         plane.largest_area = std::max(plane.largest_area, face.plane.area);
-        plane.corner_count += face.boundary.size();
         for (const directed_edge& edge : face.boundary) {
             plane.box.include(at(edge[0]));
         }
     }
-    rulers.clear();
+    return planes;
+}
+
+/// False where no plane has a ruler.
+bool plane_slicer::make_rulers() {
+    rulers.assign(faces.faces.size(), ruler());
     bool is_any_long = false;
-    for (const plane_members& plane : planes) {
-        rulers.push_back(plane.corner_count > fewest_corners ? make_ruler(plane, faces.points)
-                                                             : ruler());
-        is_any_long = is_any_long || rulers.back().spacing > 0;
+    for (const auto& [cluster, plane] : gather_planes()) {
+        poll.step();
+        ruler& made = rulers[static_cast<std::size_t>(cluster)];
+        made = make_ruler(plane, faces.points);
+        is_any_long = is_any_long || made.spacing > 0;
     }
     return is_any_long;
 }
@@ -170,6 +187,7 @@ void plane_slicer::divide(const directed_edge& edge, const ruler& marks) {
     std::int64_t mark = std::min(from, to) + margin;
     mark -= mark % marks.spacing; // may be one mark too low
     for (; mark < last; mark += marks.spacing) {
+        poll.step();
         if (mark > std::min(from, to) + margin) {
             const int point = point_at(edge, marks.axis, mark);
             if (point != edge[0] && point != edge[1]) {
@@ -202,6 +220,7 @@ bool plane_slicer::run_round() {
     index_points();
     edges = edge_register();
     for (const scene_face& face : faces.faces) {
+        poll.step();
         for (const directed_edge& edge : face.boundary) {
             if (is_long(edge, ruler_of(face))) {
                 edges.find_or_add(edge[0], edge[1]);
@@ -221,16 +240,27 @@ bool plane_slicer::run_round() {
     }
     division.sort(edges, faces.points);
     for (scene_face& face : faces.faces) {
+        poll.step();
+        const std::size_t edge_count = face.boundary.size();
         division.apply(edges, face.boundary);
+        face.is_divided = face.is_divided || face.boundary.size() != edge_count;
     }
     return true;
 }
 
 } // namespace
 
-void slice_long_planes(scene& faces) {
-    plane_slicer slicer(faces);
-    for (int round = 0; round < largest_round_count && slicer.run_round(); ++round) {
+bool slice_long_planes(scene& faces, const progress_report& report) {
+    try {
+        exact::progress_poll poll(report);
+        poll.begin(0.0);
+        plane_slicer slicer(faces, poll);
+        for (int round = 0; round < largest_round_count && slicer.run_round(); ++round) {
+            poll.begin(static_cast<double>(round + 1) / largest_round_count);
+        }
+        return true;
+    } catch (const exact::work_ended&) {
+        return false;
     }
 }
 

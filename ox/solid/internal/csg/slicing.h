@@ -10,8 +10,8 @@ namespace ox::internal::csg {
 /// would end in the two corners of the top, and whatever crosses the wall would cross most of them.
 /// The places are those where a coordinate is a multiple of a power of two, so that planes that
 /// meet in an edge agree on them. At most half as many points are added as there are.
-/// Faces must have the numbers of their clusters. O(n log n).
-void slice_long_planes(scene& faces);
+/// Faces must have the numbers of their clusters. False where `report` ended the work. O(n log n).
+bool slice_long_planes(scene& faces, const progress_report& report);
 
 } // namespace ox::internal::csg
 

@@ -1,6 +1,7 @@
 #include <ox/solid/internal/csg/snapping.h>
 
 #include <algorithm>
+#include <numeric>
 
 #include <ox/solid/internal/csg/edge_register.h>
 #include <ox/solid/internal/csg/planar_view.h>
@@ -44,36 +45,6 @@ struct edge_record {
 
 const edge_record unnamed_edge = {shared_operand, false, false, false, {}};
 
-/// One point in common for two edges that pass each other.
-struct closest_places {
-    double first;
-    double second;
-    double square_distance;
-};
-
-/// The nearest places of the lines through two segments; parameters of -1 where they are parallel.
-closest_places find_closest(const grid_point& a, const grid_point& b, const grid_point& c,
-                            const grid_point& d) {
-    const std::array<double, 3> u = difference(a, b);
-    const std::array<double, 3> v = difference(c, d);
-    const std::array<double, 3> w = difference(c, a);
-    const double uu = dot(u, u);
-    const double uv = dot(u, v);
-    const double vv = dot(v, v);
-    const double uw = dot(u, w);
-    const double vw = dot(v, w);
-    const std::array<double, 3> normal = cross(u, v);
-    const double determinant = dot(normal, normal);
-    if (!(determinant > 0.0)) {
-        return {-1.0, -1.0, 0.0};
-    }
-    const double s = (uv * vw - vv * uw) / determinant;
-    const double t = (uu * vw - uv * uw) / determinant;
-    const std::array<double, 3> between = {w[0] + s * u[0] - t * v[0], w[1] + s * u[1] - t * v[1],
-                                           w[2] + s * u[2] - t * v[2]};
-    return {s, t, dot(between, between)};
-}
-
 class edge_snapper {
 public:
     edge_snapper(scene& all, double reach, const progress_report& progress);
@@ -84,9 +55,14 @@ public:
     bool is_stopped() const { return stopped; }
 
 private:
-    void record_edges(int round);
+    std::vector<int> name_edges();
+    void name_edges_of(const scene_face& face);
+    void leave_out_edges_of_apart_faces();
+    void name_apart_faces_near(const box_tree& fresh);
     static void note_face(const scene_face& face, bool is_searched, edge_record& edge);
-    void search(int round);
+    std::vector<grid_box> boxes_of(const std::vector<int>& chosen) const;
+    grid_box box_of(int edge) const;
+    void search(int round, const std::vector<int>& fresh, const box_tree& tree);
     void compare(int e, int f);
     void divide_at_end(int edge, int point, bool& touched);
     void join_passing(int e, int f);
@@ -110,19 +86,22 @@ private:
     std::vector<edge_record> records;
     edge_division division{0};
     point_index near;
+    int indexed = 0; // points that `near` knows
 };
 
 edge_snapper::edge_snapper(scene& all, double reach, const progress_report& progress)
-    : faces(all), tolerance(reach), report(progress), near(reach * crossing_reach) {
-    for (std::size_t i = 0; i < faces.points.size(); ++i) {
-        near.add(faces.points[i], static_cast<int>(i));
-    }
-}
+    : faces(all), tolerance(reach), report(progress), near(reach * crossing_reach) {}
 
 bool edge_snapper::run_round(int round) {
-    record_edges(round);
+    const std::vector<int> fresh = name_edges();
+    const box_tree tree(boxes_of(fresh));
+    if (round == 0) {
+        leave_out_edges_of_apart_faces();
+    } else {
+        name_apart_faces_near(tree);
+    }
     division = edge_division(edges.size());
-    search(round);
+    search(round, fresh, tree);
     division.sort(edges, faces.points);
     if (round == 0) {
         budget = growth_limit * (static_cast<std::size_t>(edges.size()) + division.size());
@@ -135,23 +114,86 @@ bool edge_snapper::run_round(int round) {
     return false;
 }
 
-/// Names every edge of every face anew, those of this round with new numbers. At first only edges
-/// of different operands meet, so that those of faces apart from all other operands need no search.
-void edge_snapper::record_edges(int round) {
-    const std::size_t known = static_cast<std::size_t>(edges.size());
-    records.clear();
+/// Names the edges anew, but for those of faces apart from all other operands; gives those that had
+/// no name before this round.
+std::vector<int> edge_snapper::name_edges() {
+    const int known = edges.size();
+    records.assign(static_cast<std::size_t>(known), unnamed_edge);
     for (const scene_face& face : faces.faces) {
-        const bool is_searched = round > 0 || !face.is_apart;
-        for (const directed_edge& edge : face.boundary) {
-            const auto number = static_cast<std::size_t>(edges.find_or_add(edge[0], edge[1]));
-            if (number >= records.size()) {
-                records.resize(number + 1, unnamed_edge);
-            }
-            records[number].is_fresh = number >= known;
-            note_face(face, is_searched, records[number]);
+        if (!face.is_apart) {
+            name_edges_of(face);
         }
     }
-    records.resize(static_cast<std::size_t>(edges.size()), unnamed_edge);
+    std::vector<int> fresh(static_cast<std::size_t>(edges.size() - known));
+    std::iota(fresh.begin(), fresh.end(), known);
+    for (const int number : fresh) {
+        records[static_cast<std::size_t>(number)].is_fresh = true;
+    }
+    return fresh;
+}
+
+void edge_snapper::name_edges_of(const scene_face& face) {
+    for (const directed_edge& edge : face.boundary) {
+        const auto number = static_cast<std::size_t>(edges.find_or_add(edge[0], edge[1]));
+        if (number >= records.size()) {
+            records.resize(number + 1, unnamed_edge);
+        }
+        note_face(face, true, records[number]);
+    }
+}
+
+std::vector<grid_box> edge_snapper::boxes_of(const std::vector<int>& chosen) const {
+    std::vector<grid_box> boxes;
+    boxes.reserve(chosen.size());
+    for (const int e : chosen) {
+        boxes.push_back(box_of(e));
+    }
+    return boxes;
+}
+
+grid_box edge_snapper::box_of(int edge) const {
+    grid_box box;
+    box.include(at(edges.ends(edge)[0]));
+    box.include(at(edges.ends(edge)[1]));
+    box.grow(tolerance);
+    return box;
+}
+
+/// At first only edges of different operands meet, so that what a face apart has is not searched.
+void edge_snapper::leave_out_edges_of_apart_faces() {
+    std::vector<bool> is_end(faces.points.size(), false);
+    for (int e = 0; e < edges.size(); ++e) {
+        for (const int end : edges.ends(e)) {
+            is_end[static_cast<std::size_t>(end)] = true;
+        }
+    }
+    for (const scene_face& face : faces.faces) {
+        for (const directed_edge& edge : face.boundary) {
+            if (!face.is_apart || !is_end[static_cast<std::size_t>(edge[0])] ||
+                !is_end[static_cast<std::size_t>(edge[1])]) {
+                continue;
+            }
+            const int number = edges.find(edge[0], edge[1]);
+            if (number >= 0) {
+                note_face(face, false, records[static_cast<std::size_t>(number)]);
+            }
+        }
+    }
+}
+
+/// Parts of divided edges may meet the faces apart that lie beside them.
+void edge_snapper::name_apart_faces_near(const box_tree& fresh) {
+    for (const scene_face& face : faces.faces) {
+        if (face.is_apart) {
+            grid_box box = box_of_face(faces, face);
+            box.grow(tolerance);
+            bool is_near = false;
+            fresh.visit_meeting(box, [&is_near](int) { is_near = true; });
+            if (is_near) {
+                name_edges_of(face);
+            }
+        }
+    }
 }
 
 /// Adds what a face says of an edge.
@@ -186,26 +228,24 @@ int edge_snapper::common_cluster(int e, int f) const {
     return -1;
 }
 
-void edge_snapper::search(int round) {
-    std::vector<grid_box> boxes(records.size());
-    for (std::size_t e = 0; e < records.size(); ++e) {
-        if (records[e].is_named) {
-            boxes[e].include(at(edges.ends(static_cast<int>(e))[0]));
-            boxes[e].include(at(edges.ends(static_cast<int>(e))[1]));
-            boxes[e].grow(tolerance);
-        }
-    }
-    const box_tree tree(boxes);
-    for (int e = 0; e < static_cast<int>(records.size()) && !stopped; ++e) {
-        if (!record(e).is_searched || !record(e).is_fresh) {
+/// Compares the fresh edges with all those near them, in the order of their numbers.
+void edge_snapper::search(int round, const std::vector<int>& fresh, const box_tree& tree) {
+    std::vector<std::array<int, 2>> pairs;
+    for (int f = 0; f < static_cast<int>(records.size()); ++f) {
+        if (!record(f).is_searched) {
             continue;
         }
-        tree.visit_meeting(boxes[static_cast<std::size_t>(e)], [&](int f) {
+        tree.visit_meeting(box_of(f), [&](int place) {
+            const int e = fresh[static_cast<std::size_t>(place)];
             const bool is_own_turn = f != e && (!record(f).is_fresh || e < f);
-            if (is_own_turn && record(f).is_searched && (round > 0 || may_differ(e, f))) {
-                compare(e, f);
+            if (is_own_turn && record(e).is_searched && (round > 0 || may_differ(e, f))) {
+                pairs.push_back({e, f});
             }
         });
+    }
+    std::sort(pairs.begin(), pairs.end());
+    for (std::size_t i = 0; i < pairs.size() && !stopped; ++i) {
+        compare(pairs[i][0], pairs[i][1]);
     }
 }
 
@@ -291,11 +331,13 @@ void edge_snapper::join_at(int e, int f, double parameter) {
     const directed_edge first = edges.ends(e);
     const directed_edge second = edges.ends(f);
     const grid_point place = point_between(at(first[0]), at(first[1]), parameter);
+    for (; indexed < static_cast<int>(faces.points.size()); ++indexed) {
+        near.add(at(indexed), indexed);
+    }
     int point = near.find_nearest(place);
     if (point < 0) {
         point = static_cast<int>(faces.points.size());
         faces.points.push_back(place);
-        near.add(place, point);
     }
     if (point != first[0] && point != first[1]) {
         division.add(e, point);
@@ -306,13 +348,15 @@ void edge_snapper::join_at(int e, int f, double parameter) {
 }
 
 void edge_snapper::apply() {
+    const auto is_divided = [this](const directed_edge& edge) {
+        const int number = edges.find(edge[0], edge[1]);
+        return number >= 0 && division.divides(number);
+    };
     for (scene_face& face : faces.faces) {
-        const bool is_divided =
-            std::any_of(face.boundary.begin(), face.boundary.end(), [this](const directed_edge& e) {
-                return division.divides(edges.find_or_add(e[0], e[1]));
-            });
-        if (is_divided) {
+        if (std::any_of(face.boundary.begin(), face.boundary.end(), is_divided)) {
             division.apply(edges, face.boundary);
+            face.is_apart = false;
+            face.is_divided = true;
         }
     }
 }

@@ -134,14 +134,26 @@ void add_spikes(generator& random, spots& shape) {
     }
 }
 
-// Every corner twice, the second one up to a unit beside the first.
+// Every corner twice, the second one up to a unit beside the first, or beside and above or below
+// it.
 spots doubled_corners(generator& random, const spots& shape) {
     spots result;
     for (const spot& s : shape) {
         result.push_back(s);
-        const bool along_x = random.one_in(2);
+        const int direction = random.between(0, 2);
         const int beside = random.between(-1, 1);
-        result.push_back({s.x + (along_x ? beside : 0), s.y + (along_x ? 0 : beside)});
+        const int above = random.between(-1, 1);
+        result.push_back({s.x + (direction == 1 ? 0 : beside), s.y + (direction == 0 ? 0 : above)});
+    }
+    return result;
+}
+
+spots regular(int sides, int size, double turned) {
+    spots result;
+    for (int i = 0; i < sides; ++i) {
+        const double angle = turned + 6.283185307179586 * i / sides;
+        result.push_back({static_cast<int>(std::lround(size / 2.0 * (1.0 + std::cos(angle)))),
+                          static_cast<int>(std::lround(size / 2.0 * (1.0 + std::sin(angle))))});
     }
     return result;
 }
@@ -317,6 +329,31 @@ TEST(SeparateContours, RowsOfSpikedContoursAreMergedAsTheClippingLibraryDoes) {
                                  {right + 1, -margin},
                                  {right, margin},
                                  {-margin, margin}}));
+        }
+        merge_and_compare(pair);
+    }
+}
+
+// More contours on one level than the library's sort keeps in their order, with and without folds.
+TEST(SeparateContours, RowsOfRoundOpeningsAreMergedAsTheClippingLibraryDoes) {
+    generator random(40118);
+    for (int round = 0; round < 300 && !testing::Test::HasFailure(); ++round) {
+        const canvas paper;
+        twins pair;
+        pair.set_plane(ox_3dvector(), paper.axes.z);
+        const int size = random.between(40, 4000);
+        const int sides = random.between(5, 24);
+        const double turned = random.real(0.0, 1.0);
+        const int count = random.between(10, 60);
+        for (int i = 0; i < count; ++i) {
+            const spots opening = doubled_corners(random, regular(sides, size, turned));
+            pair.add(paper.draw(opening, {2 * size * i, random.one_in(4) ? 1 : 0}));
+        }
+        if (random.one_in(2)) { // the wall around them
+            pair.add(paper.draw({{-size, -size},
+                                 {2 * size * count, -size},
+                                 {2 * size * count, 2 * size},
+                                 {-size, 2 * size}}));
         }
         merge_and_compare(pair);
     }

@@ -277,14 +277,18 @@ bounds box_of(const facet_complex& complex, const facet& f) {
 contact_list find_contacts(facet_complex& complex, side_planes& planes, progress_poll& poll) {
     contact_list contacts;
     contacts.has_coincidence.assign(complex.facets.size(), false);
+    std::vector<int> searched;
     std::vector<bounds> boxes;
-    boxes.reserve(complex.facets.size());
-    for (const facet& f : complex.facets) {
-        boxes.push_back(box_of(complex, f));
+    for (int i = 0; i < count_of(complex.facets); ++i) {
+        if (!item(complex.facets, i).is_clear) {
+            searched.push_back(i);
+            boxes.push_back(box_of(complex, item(complex.facets, i)));
+        }
     }
     contact_finder finder(complex, contacts, planes);
-    visit_overlapping_pairs(boxes, poll,
-                            [&](int a, int b) { finder.meet(std::min(a, b), std::max(a, b)); });
+    visit_overlapping_pairs(boxes, poll, [&](int a, int b) {
+        finder.meet(item(searched, std::min(a, b)), item(searched, std::max(a, b)));
+    });
     return contacts;
 }
 

@@ -50,7 +50,8 @@ struct contact_list {
     std::vector<bool> has_coincidence;
 };
 
-/// Finds what the facets impose on each other; adds crossings and planes to the complex.
+/// Finds what the facets impose on each other, those aside that are known to be clear; adds
+/// crossings and planes to the complex.
 contact_list find_contacts(facet_complex& complex, side_planes& planes, progress_poll& poll);
 
 } // namespace ox::internal::csg::exact

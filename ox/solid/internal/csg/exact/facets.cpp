@@ -55,7 +55,7 @@ std::vector<facet> facet_complex::read_facets(const arrangement_input& input, pr
         if (!is_degenerate(supporting)) {
             const std::array<int, 3> sides = {add_side(v[0], v[1]), add_side(v[1], v[2]),
                                               add_side(v[2], v[0])};
-            result.push_back({v, sides, triangle.operand, i});
+            result.push_back({v, sides, triangle.operand, i, triangle.is_clear});
             points.planes.push_back(supporting);
         }
     }

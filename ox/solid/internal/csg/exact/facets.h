@@ -28,6 +28,8 @@ struct facet {
     int operand;
     /// Its index in the input.
     int triangle;
+    /// True where it is known to meet others only in what they share.
+    bool is_clear;
 };
 
 /// A directed line, in the direction in which x grows, else y, else z: of two grid points, or the

@@ -9,5 +9,7 @@ int main(int argc, char** argv) {
     workloads.push_back(bench::whole_building());
     workloads.push_back(bench::subtracted_spheres());
     workloads.push_back(bench::sphere_sections());
+    const std::vector<bench::workload> variants = bench::solid_variants();
+    workloads.insert(workloads.end(), variants.begin(), variants.end());
     return bench::run_program(argc, argv, workloads);
 }

@@ -1,3 +1,4 @@
+#include <array>
 #include <cmath>
 
 #include <bench/peers/clipper.h>
@@ -25,6 +26,26 @@ contour_lists squares(long count, float pitch, float side) {
                                  pitch * static_cast<float>(i / columns), side, side));
     }
     return made;
+}
+
+// One contour more, in the middle, that touches a square.
+contour_lists with_touching_contour(contour_lists contours) {
+    const ox_3dvector corner = contours[contours.size() / 2][2];
+    contours.push_back(rectangle(corner.x, corner.y - 0.25f, 0.25f, 0.125f));
+    return contours;
+}
+
+// One contour more, aside, that climbs and falls twice.
+contour_lists with_u_shape(contour_lists contours) {
+    contours.push_back(rectangle(-8.0f, 0.0f, 4.0f, 4.0f));
+    ox_list<ox_3dvector>& shape = contours.back();
+    shape.remove_right();
+    shape.remove_right();
+    for (const std::array<float, 2>& c :
+         {std::array<float, 2>{-4, 4}, {-5, 4}, {-5, 1}, {-7, 1}, {-7, 4}, {-8, 4}}) {
+        shape.push_right(ox_3dvector(c[0], c[1], 0.0f));
+    }
+    return contours;
 }
 
 ClipperLib::cInt to_grid(float coordinate) {
@@ -85,7 +106,21 @@ std::vector<workload> merging_workloads() {
                      {1000, 10000, 100000},
                      {100, 1000, 10000},
                      [](long n) { return merge(squares(n, 1.0f, 0.5f)); }}
-                .judged_from(100000)};
+                .judged_from(100000),
+            workload{"squares that keep apart merged with one that touches",
+                     "squares",
+                     {1000, 3000, 10000},
+                     {100, 300, 1000},
+                     [](long n) { return merge(with_touching_contour(squares(n, 1.0f, 0.5f))); }}
+                .growing_at_most(1.2)
+                .judged_from(1000),
+            workload{"squares that keep apart merged with a U shape",
+                     "squares",
+                     {1000, 3000, 10000},
+                     {100, 300, 1000},
+                     [](long n) { return merge(with_u_shape(squares(n, 1.0f, 0.5f))); }}
+                .growing_at_most(1.2)
+                .judged_from(1000)};
 }
 
 } // namespace bench

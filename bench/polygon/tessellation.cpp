@@ -71,6 +71,23 @@ ox_polygon row_of_squares(long squares) {
     return polygon;
 }
 
+// Teeth along the x axis on a back across it: the sweep meets the sides of all teeth at once.
+ox_polygon comb(long teeth) {
+    ox_list<ox_3dvector> contour;
+    contour.push_right(ox_3dvector(0.0f, 0.0f, 0.0f));
+    contour.push_right(ox_3dvector(0.0f, 2.0f * static_cast<float>(teeth), 0.0f));
+    for (long i = teeth; i-- > 0;) {
+        const float y = 2.0f * static_cast<float>(i);
+        contour.push_right(ox_3dvector(1.0f, y + 2.0f, 0.0f));
+        contour.push_right(ox_3dvector(1.0f, y + 1.0f, 0.0f));
+        contour.push_right(ox_3dvector(5.0f, y + 1.0f, 0.0f));
+        contour.push_right(ox_3dvector(5.0f, y, 0.0f));
+    }
+    ox_polygon polygon;
+    polygon.add_contour(contour);
+    return polygon;
+}
+
 contest tessellate(const ox_polygon& region) {
     const auto merged = std::make_shared<ox_polygon>(region);
     contest rules;
@@ -104,6 +121,16 @@ workload tessellation_of_a_row() {
                     {250, 1000, 4000},
                     {25, 50, 100},
                     [](long squares) { return tessellate(row_of_squares(squares)); }}
+        .growing_at_most(1.2)
+        .judged_from(1000);
+}
+
+workload tessellation_of_a_comb() {
+    return workload{"comb tessellated",
+                    "teeth",
+                    {500, 1000, 2000},
+                    {25, 50, 100},
+                    [](long teeth) { return tessellate(comb(teeth)); }}
         .growing_at_most(1.2)
         .judged_from(1000);
 }

@@ -16,6 +16,9 @@ workload tessellation_with_holes();
 /// The same for many squares in a row, which the tessellator's sweep meets all at once.
 workload tessellation_of_a_row();
 
+/// The same for an outline whose sides the sweep meets all at once.
+workload tessellation_of_a_comb();
+
 /// Questions whether points lie in a region of many sides.
 workload points_in_a_region();
 

@@ -22,6 +22,9 @@ workload sphere_sections();
 /// A whole building: its walls cut, united, clipped by a roof, and sectioned storey by storey.
 workload whole_building();
 
+/// Openings, walls and rows of other shapes, each beside its twin of the shapes above.
+std::vector<workload> solid_variants();
+
 } // namespace bench
 
 #endif

@@ -1,5 +1,6 @@
 #include <examples/support/description_file.h>
 #include <examples/support/record_reader.h>
+#include <tests/support/log_capture.h>
 
 #include <cstdio>
 #include <fstream>
@@ -11,7 +12,7 @@ using namespace ox_examples;
 
 /// What reading the text tells: the words taken by the record `say`, or what is wrong.
 std::string told(const std::string& text) {
-    const std::string path = testing::TempDir() + "ox_records.txt";
+    const std::string path = support::own_file(".txt");
     std::ofstream(path, std::ios::binary) << text;
     std::string result;
     unique_names names;

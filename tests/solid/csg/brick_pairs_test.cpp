@@ -2,7 +2,6 @@
 // share a face, nest or cross. Unit cubes say what is right.
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <iostream>
 #include <vector>
@@ -11,6 +10,7 @@
 
 #include <tests/solid/csg/block_model.h>
 #include <tests/solid/csg/judged_results.h>
+#include <tests/solid/csg/whole_boxes.h>
 
 namespace {
 
@@ -24,45 +24,6 @@ constexpr int grid_side = 3;
 
 /// The usual run takes every 37th pair, so that all first and second boxes have their turn.
 constexpr int pair_stride = 37;
-
-std::vector<whole_box> all_boxes() {
-    std::vector<std::array<int, 2>> spans;
-    for (int low = 0; low < grid_side; ++low) {
-        for (int high = low + 1; high <= grid_side; ++high) {
-            spans.push_back({low, high});
-        }
-    }
-    std::vector<whole_box> boxes;
-    for (const auto& x : spans) {
-        for (const auto& y : spans) {
-            for (const auto& z : spans) {
-                boxes.push_back({{x[0], y[0], z[0]}, {x[1], y[1], z[1]}});
-            }
-        }
-    }
-    return boxes;
-}
-
-void apply(block_model& model, operation with, const whole_box& box) {
-    switch (with) {
-    case operation::unites:
-        model.unites(box);
-        break;
-    case operation::substracts:
-        model.substracts(box);
-        break;
-    case operation::intersects:
-        model.intersects(box);
-        break;
-    }
-}
-
-double area_of(const whole_box& box) {
-    const int x = box.high[0] - box.low[0];
-    const int y = box.high[1] - box.low[1];
-    const int z = box.high[2] - box.low[2];
-    return 2.0 * static_cast<double>(x * y + y * z + z * x);
-}
 
 /// How many results were judged, and how many were wrong in what.
 struct verdicts {
@@ -108,10 +69,10 @@ void judge(const whole_box& a, operation with, const whole_box& b, const placeme
 /// Judges the four results of every pair, or of every 37th; `place_of` says where each lies.
 template <typename Placing>
 verdicts judge_pairs(Placing place_of) {
-    const std::vector<whole_box> boxes = all_boxes();
+    const std::vector<whole_box> boxes = csg_test::all_boxes(grid_side);
     const int count = static_cast<int>(boxes.size());
     verdicts counts;
-    for (int pair = 0; pair < count * count; pair += csg_test::case_count(pair_stride, 1)) {
+    for (int pair = 0; pair < count * count; pair += support::all_or(1, pair_stride)) {
         const whole_box& a = boxes[static_cast<std::size_t>(pair / count)];
         const whole_box& b = boxes[static_cast<std::size_t>(pair % count)];
         const placement place = place_of();

@@ -7,6 +7,7 @@
 
 #include <tests/solid/csg/block_model.h>
 #include <tests/solid/csg/judged_results.h>
+#include <tests/solid/csg/whole_boxes.h>
 
 namespace {
 
@@ -21,30 +22,11 @@ using support::generator;
 constexpr int chain_length = 12;
 constexpr int lattice_side = 6;
 
-whole_box random_box(generator& random) {
-    whole_box box{};
-    for (std::size_t axis = 0; axis < 3; ++axis) {
-        box.low[axis] = random.between(0, lattice_side - 1);
-        box.high[axis] = random.between(box.low[axis] + 1, lattice_side);
-    }
-    return box;
-}
-
 /// Mostly unions and differences: intersections soon leave nothing.
 operation random_operation(generator& random) {
     const int draw = random.between(0, 9);
     return draw < 5 ? operation::unites
                     : (draw < 9 ? operation::substracts : operation::intersects);
-}
-
-void apply(block_model& model, operation with, const whole_box& box) {
-    if (with == operation::unites) {
-        model.unites(box);
-    } else if (with == operation::substracts) {
-        model.substracts(box);
-    } else {
-        model.intersects(box);
-    }
 }
 
 /// Runs one chain on a lattice; counts the steps whose result has another number of faces.
@@ -53,7 +35,7 @@ void run_chain(generator& random, const support::frame& frame, const ox_3dvector
     block_model model(lattice_side);
     ox_solid so_far;
     for (int step = 0; step < chain_length; ++step) {
-        const whole_box box = random_box(random);
+        const whole_box box = csg_test::random_box(random, lattice_side);
         const operation with = step < 2 ? operation::unites : random_operation(random);
         apply(model, with, box);
         so_far = csg_test::combine(so_far, with, csg_test::to_brick(box, frame, origin));
@@ -69,7 +51,7 @@ void run_chain(generator& random, const support::frame& frame, const ox_3dvector
 TEST(CsgChains, TwelveOperationsOnALatticeAreRightAndHaveTheFewestFaces) {
     generator random(72);
     int other_face_counts = 0;
-    for (int i = 0; i < csg_test::case_count(60, 3000); ++i) {
+    for (int i = 0; i < support::all_or(3000, 60); ++i) {
         SCOPED_TRACE(i);
         run_chain(random, support::frame(), ox_3dvector(), other_face_counts);
     }
@@ -79,7 +61,7 @@ TEST(CsgChains, TwelveOperationsOnALatticeAreRightAndHaveTheFewestFaces) {
 TEST(CsgChains, TwelveOperationsOnATurnedLatticeAreRight) {
     generator random(73);
     int other_face_counts = 0;
-    const int chains = csg_test::case_count(60, 3000);
+    const int chains = support::all_or(3000, 60);
     for (int i = 0; i < chains; ++i) {
         SCOPED_TRACE(i);
         const support::frame frame = support::random_frame(random);
@@ -95,7 +77,7 @@ TEST(CsgChains, TwelveOperationsOnATurnedLatticeAreRight) {
 
 TEST(CsgChains, TwelveOperationsInGeneralPositionAddUp) {
     generator random(74);
-    for (int i = 0; i < csg_test::case_count(30, 2000); ++i) {
+    for (int i = 0; i < support::all_or(2000, 30); ++i) {
         SCOPED_TRACE(i);
         const ox_3dvector centre = support::random_point(random, 1.0);
         ox_solid so_far = support::random_brick(random, centre, support::random_frame(random));
@@ -122,7 +104,7 @@ TEST(CsgChains, TwelveOperationsInGeneralPositionAddUp) {
 /// bricks, and are one face then.
 TEST(CsgChains, OneComputeOfAllOperandsGivesWhatAChainGives) {
     generator random(75);
-    const int chains = csg_test::case_count(60, 2000);
+    const int chains = support::all_or(2000, 60);
     int fewer_face_counts = 0;
     for (int i = 0; i < chains; ++i) {
         SCOPED_TRACE(i);
@@ -130,7 +112,7 @@ TEST(CsgChains, OneComputeOfAllOperandsGivesWhatAChainGives) {
         block_model model(lattice_side);
         ox_csg csg;
         for (int step = 0; step < chain_length; ++step) {
-            const whole_box box = random_box(random);
+            const whole_box box = csg_test::random_box(random, lattice_side);
             const operation with = step < 2 ? operation::unites : random_operation(random);
             apply(model, with, box);
             csg_test::apply(csg, with, csg_test::to_brick(box, frame, ox_3dvector()));

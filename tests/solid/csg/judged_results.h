@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdlib>
 #include <map>
 #include <string>
 #include <utility>
@@ -13,20 +12,10 @@
 
 #include <ox/solid/ox_csg.h>
 #include <ox/solid/ox_solid.h>
+#include <tests/support/all_cases.h>
 #include <tests/support/measures.h>
 
 namespace csg_test {
-
-/// True where all cases shall run, which takes minutes: `OX_CHECK=1` in the environment.
-inline bool runs_all_cases() {
-    const char* check = std::getenv("OX_CHECK");
-    return check != nullptr && std::string(check) == "1";
-}
-
-/// The number of random cases of this run.
-inline int case_count(int usual, int all) {
-    return runs_all_cases() ? all : usual;
-}
 
 /// What an operand does to what stands so far.
 enum class operation { unites, substracts, intersects };

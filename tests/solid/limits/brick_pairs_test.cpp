@@ -1,11 +1,10 @@
 // Limits of the face-by-face booleans where faces of two bricks coincide: all pairs of bricks
 // between four values along each axis, judged by unit cubes.
 
-#include <array>
 #include <functional>
 #include <vector>
 
-#include <tests/solid/limits/blocks.h>
+#include <tests/solid/csg/whole_boxes.h>
 #include <tests/solid/limits/limits_map.h>
 
 namespace {
@@ -24,24 +23,6 @@ constexpr int grid_side = 3;
 /// The usual run takes every 37th pair, so that all first and second bricks have their turn.
 constexpr int usual_stride = 37;
 
-std::vector<whole_box> all_boxes() {
-    std::vector<std::array<int, 2>> spans;
-    for (int low = 0; low < grid_side; ++low) {
-        for (int high = low + 1; high <= grid_side; ++high) {
-            spans.push_back({low, high});
-        }
-    }
-    std::vector<whole_box> boxes;
-    for (const auto& x : spans) {
-        for (const auto& y : spans) {
-            for (const auto& z : spans) {
-                boxes.push_back({{x[0], y[0], z[0]}, {x[1], y[1], z[1]}});
-            }
-        }
-    }
-    return boxes;
-}
-
 /// A way to combine two bricks: by an engine, and in the model.
 struct expression {
     std::function<ox_solid(engine, const ox_solid&, const ox_solid&)> evaluate;
@@ -53,7 +34,7 @@ expression single(operation with) {
         [with](engine by, const ox_solid& a, const ox_solid& b) { return combine(by, a, with, b); },
         [with](block_model& model, const whole_box& a, const whole_box& b) {
             model.unites(a);
-            limits::apply(model, with, b);
+            csg_test::apply(model, with, b);
         }};
 }
 
@@ -76,11 +57,11 @@ expression union_of_parts() {
 
 /// Judges the expression over all pairs; turned ones lie about general axes near the origin.
 verdicts judge(const expression& judged, bool turned) {
-    const std::vector<whole_box> boxes = all_boxes();
+    const std::vector<whole_box> boxes = csg_test::all_boxes(grid_side);
     const int count = static_cast<int>(boxes.size());
     support::generator random(71);
     verdicts counts;
-    for (int pair = 0; pair < count * count; pair += csg_test::case_count(usual_stride, 1)) {
+    for (int pair = 0; pair < count * count; pair += support::all_or(1, usual_stride)) {
         const whole_box& a = boxes[static_cast<std::size_t>(pair / count)];
         const whole_box& b = boxes[static_cast<std::size_t>(pair % count)];
         const support::frame axes = turned ? support::random_frame(random) : support::frame();
@@ -93,7 +74,7 @@ verdicts judge(const expression& judged, bool turned) {
             const ox_solid result = judged.evaluate(by, csg_test::to_brick(a, axes, origin),
                                                     csg_test::to_brick(b, axes, origin));
             counts.add(by, limits::is_wrong(result, model.get_volume(),
-                                            limits::area_of(a) + limits::area_of(b)));
+                                            csg_test::area_of(a) + csg_test::area_of(b)));
         }
     }
     return counts;

@@ -1,9 +1,7 @@
 // Limits of the face-by-face booleans in chains: eight operations with bricks on a lattice, where
 // most faces coincide with others. Judged by unit cubes.
 
-#include <cstddef>
-
-#include <tests/solid/limits/blocks.h>
+#include <tests/solid/csg/whole_boxes.h>
 #include <tests/solid/limits/limits_map.h>
 
 namespace {
@@ -20,19 +18,10 @@ using support::generator;
 constexpr int depth = 8;
 constexpr int lattice_side = 6;
 
-whole_box random_box(generator& random) {
-    whole_box box{};
-    for (std::size_t axis = 0; axis < 3; ++axis) {
-        box.low[axis] = random.between(0, lattice_side - 1);
-        box.high[axis] = random.between(box.low[axis] + 1, lattice_side);
-    }
-    return box;
-}
-
 verdicts judge(bool turned) {
     generator random(64);
     verdicts counts;
-    for (int i = 0; i < csg_test::case_count(100, 2000); ++i) {
+    for (int i = 0; i < support::all_or(2000, 100); ++i) {
         const support::frame axes = turned ? support::random_frame(random) : support::frame();
         const ox_3dvector origin =
             turned ? support::random_point(random, 1.0) : ox_3dvector(0.0f, 0.0f, 0.0f);
@@ -41,14 +30,14 @@ verdicts judge(bool turned) {
         ox_solid by_csg;
         double area = 0.0;
         for (int step = 0; step < depth; ++step) {
-            const whole_box box = random_box(random);
+            const whole_box box = csg_test::random_box(random, lattice_side);
             const operation with =
                 step < 2 || random.one_in(2) ? operation::unites : operation::substracts;
             const ox_solid brick = csg_test::to_brick(box, axes, origin);
-            limits::apply(model, with, box);
+            csg_test::apply(model, with, box);
             face_by_face = limits::combine(engine::face_by_face, face_by_face, with, brick);
             by_csg = limits::combine(engine::csg, by_csg, with, brick);
-            area += limits::area_of(box);
+            area += csg_test::area_of(box);
         }
         ++counts.cases;
         counts.add(engine::face_by_face, limits::is_wrong(face_by_face, model.get_volume(), area));

@@ -72,7 +72,7 @@ limits::verdicts judge(int rectangles, Area area_of) {
     generator random(65);
     limits::verdicts counts;
     counts.concerns_csg = false;
-    for (int i = 0; i < csg_test::case_count(20000, 400000); ++i) {
+    for (int i = 0; i < support::all_or(400000, 20000); ++i) {
         ox_polygon polygon;
         squares covered{};
         for (int r = 0; r < rectangles; ++r) {

@@ -62,7 +62,7 @@ template <typename Second>
 verdicts judge(double reach, Second second) {
     generator random(61);
     verdicts counts;
-    for (int i = 0; i < csg_test::case_count(100, 2000); ++i) {
+    for (int i = 0; i < support::all_or(2000, 100); ++i) {
         const support::frame axes = support::random_frame(random);
         const ox_3dvector origin = support::random_point(random, reach);
         const window first = random_window(random);
